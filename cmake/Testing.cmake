@@ -1,0 +1,3 @@
+# GoogleTest: the system's package, or for Windows the copy that build-windows made.
+include(GoogleTest)
+find_package(GTest REQUIRED)

@@ -1,0 +1,102 @@
+#include "data/Errors.h"
+
+#include <utility>
+
+namespace
+{
+
+constexpr std::string_view LongRange = "od -2147483648 do 2147483647";
+
+std::string Quoted(std::string_view text)
+{
+    return std::string("\"").append(text).append("\"");
+}
+
+std::string InPlace(const FieldPlace& place)
+{
+    const std::string line =
+        place.Line == 0 ? "redak unesen u programu" : "redak " + std::to_string(place.Line);
+    return " (datoteka " + std::string(place.FileName) + ", " + line + ", stupac " + Quoted(place.Column) +
+           ").";
+}
+
+std::string NotANumber(std::string_view value)
+{
+    return "Vrijednost " + Quoted(value) + " nije broj";
+}
+
+std::string TooLarge(std::string_view value)
+{
+    return "Broj " + Quoted(value) + " je izvan dopuštenog raspona " + std::string(LongRange);
+}
+
+struct FileFault
+{
+    std::errc Cause;
+    int Number;
+    std::string_view Text;
+};
+
+constexpr FileFault FileFaults[] = {
+    {std::errc::no_such_file_or_directory, 53, "Datoteka ili mapa nije pronađena"},
+    {std::errc::not_a_directory, 76, "Mapa nije pronađena"},
+    {std::errc::is_a_directory, 75, "Na tom mjestu nije datoteka nego mapa"},
+    {std::errc::permission_denied, 70,
+     "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu"},
+    {std::errc::operation_not_permitted, 70, "Pristup nije dopušten"},
+    {std::errc::read_only_file_system, 70, "Disk je zaštićen od pisanja"},
+    {std::errc::device_or_resource_busy, 70, "Datoteku koristi drugi program"},
+    {std::errc::text_file_busy, 70, "Datoteku koristi drugi program"},
+    {std::errc::no_space_on_device, 61, "Na disku nema dovoljno mjesta"},
+    {std::errc::filename_too_long, 52, "Ime datoteke je predugačko"},
+    {std::errc::invalid_argument, 52, "Ime datoteke nije ispravno"},
+};
+
+constexpr FileFault OtherFileFault = {std::errc::io_error, 57, "Greška pri čitanju ili pisanju"};
+
+const FileFault& FaultOf(std::error_code cause)
+{
+    for (const FileFault& fault : FileFaults)
+        if (cause == fault.Cause)
+            return fault;
+    return OtherFileFault;
+}
+
+} // namespace
+
+RuntimeError::RuntimeError(int number, std::string description)
+    : ErrorNumber(number),
+      ErrorDescription(std::move(description))
+{
+}
+
+TypeMismatch::TypeMismatch(std::string_view value) : RuntimeError(13, NotANumber(value) + ".") {}
+
+TypeMismatch::TypeMismatch(std::string_view value, const FieldPlace& place)
+    : RuntimeError(13, NotANumber(value) + InPlace(place))
+{
+}
+
+Overflow::Overflow() : RuntimeError(6, "Zbroj je izvan dopuštenog raspona " + std::string(LongRange) + ".") {}
+
+Overflow::Overflow(std::string_view value) : RuntimeError(6, TooLarge(value) + ".") {}
+
+Overflow::Overflow(std::string_view value, const FieldPlace& place)
+    : RuntimeError(6, TooLarge(value) + InPlace(place))
+{
+}
+
+SubscriptOutOfRange::SubscriptOutOfRange(const FieldPlace& place)
+    : RuntimeError(9, "Redak ima premalo polja" + InPlace(place))
+{
+}
+
+InputPastEnd::InputPastEnd(std::string_view path)
+    : RuntimeError(62, "Datoteka je prazna, nedostaje joj redak zaglavlja: " + std::string(path))
+{
+}
+
+FileError::FileError(std::error_code cause, std::string_view path)
+    : RuntimeError(FaultOf(cause).Number, std::string(FaultOf(cause).Text) + ": " + std::string(path))
+{
+}

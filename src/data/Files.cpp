@@ -1,0 +1,139 @@
+#include "data/Files.h"
+
+#include "data/Errors.h"
+#include "data/System.h"
+#include "data/Windows1250.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+struct CloseFile
+{
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+std::error_code LastFailure()
+{
+    return {errno, std::generic_category()};
+}
+
+OpenFile Open(const fs::path& file, const char* mode, std::string_view path)
+{
+    OpenFile opened(System::Open(file, mode));
+    if (!opened)
+        throw FileError(LastFailure(), path);
+    return opened;
+}
+
+/// Writes a file and closes it; `path` is the name that an error speaks of.
+void WriteContent(const fs::path& file, std::string_view content, std::string_view path)
+{
+    OpenFile opened = Open(file, "wb", path);
+    const bool written = std::fwrite(content.data(), 1, content.size(), opened.get()) == content.size() &&
+                         std::fflush(opened.get()) == 0;
+    // A device such as a pipe has nothing to flush to and says so; that is no failure.
+    const bool flushed = written && (System::FlushToDisk(opened.get()) || errno == EINVAL);
+    const std::error_code failure = LastFailure();
+    if (!flushed)
+        throw FileError(failure, path);
+    if (std::fclose(opened.release()) != 0)
+        throw FileError(LastFailure(), path);
+}
+
+void RequireWritable(const fs::path& file, fs::file_type type, std::string_view path)
+{
+    if (type == fs::file_type::directory)
+        throw FileError(std::make_error_code(std::errc::is_a_directory), path);
+    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
+    if (!fs::is_directory(folder))
+        throw FileError(std::make_error_code(std::errc::no_such_file_or_directory), path);
+    if (!System::MayWrite(folder) || (type != fs::file_type::not_found && !System::MayWrite(file)))
+        throw FileError(std::make_error_code(std::errc::permission_denied), path);
+}
+
+/// Writes the new content beside the file, with the file's own permissions, and puts it in the file's place.
+void WriteBesideAndReplace(const fs::path& file, std::string_view content, std::string_view path)
+{
+    fs::path temporary = file;
+    temporary += ".tmp";
+    std::error_code ignored;
+    try
+    {
+        WriteContent(temporary, content, path);
+        if (fs::exists(file, ignored))
+            fs::permissions(temporary, fs::status(file).permissions(), ignored);
+        if (const std::error_code failure = System::Replace(temporary, file))
+            throw FileError(failure, path);
+    }
+    catch (const FileError&)
+    {
+        fs::remove(temporary, ignored);
+        throw;
+    }
+}
+
+} // namespace
+
+fs::path ToPath(std::string_view path)
+{
+    return {std::u8string(path.begin(), path.end())};
+}
+
+std::string ReadFile(std::string_view path, std::size_t limit)
+{
+    const fs::path file = ToPath(path);
+    if (fs::is_directory(file))
+        throw FileError(std::make_error_code(std::errc::is_a_directory), path);
+    const OpenFile opened = Open(file, "rb", path);
+
+    std::string content;
+    std::array<char, 64 * 1024> buffer;
+    while (content.size() < limit)
+    {
+        const std::size_t wanted = std::min(buffer.size(), limit - content.size());
+        const std::size_t count = std::fread(buffer.data(), 1, wanted, opened.get());
+        content.append(buffer.data(), count);
+        if (count < wanted)
+            break;
+    }
+    if (std::ferror(opened.get()) != 0)
+        throw FileError(LastFailure(), path);
+    return content;
+}
+
+void CreateFileIfMissing(std::string_view path)
+{
+    const fs::path file = ToPath(path);
+    if (!fs::exists(file))
+        Open(file, "ab", path);
+}
+
+void ReplaceFile(std::string_view path, std::string_view content)
+{
+    // A link stays a link: what it leads to is what gets the new content.
+    std::error_code ignored;
+    const fs::path named = ToPath(path);
+    const fs::path file = fs::is_symlink(named, ignored) ? fs::weakly_canonical(named, ignored) : named;
+
+    const fs::file_type type = fs::status(file, ignored).type();
+    RequireWritable(file, type, path);
+    if (type == fs::file_type::regular || type == fs::file_type::not_found)
+        WriteBesideAndReplace(file, content, path);
+    else
+        WriteContent(file, content, path); // a device has no old content to keep, and must not be replaced
+}
+
+void TextFile::AddLine(std::string_view text)
+{
+    Content += ToWindows1250(text);
+    Content += "\r\n";
+}

@@ -1,0 +1,115 @@
+#include "data/Numbers.h"
+
+#include "data/Errors.h"
+#include "data/Text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace
+{
+
+/// The parts of a numeric text; both runs of digits may be empty, but not both at once.
+struct Decimal
+{
+    bool Negative = false;
+    std::string_view Whole;
+    std::string_view Fraction;
+};
+
+bool IsDigits(std::string_view text)
+{
+    return std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+bool SplitDecimal(std::string_view text, Decimal& decimal)
+{
+    text = TrimBlanks(text);
+    if (!text.empty() && (text.front() == '+' || text.front() == '-'))
+    {
+        decimal.Negative = text.front() == '-';
+        text.remove_prefix(1);
+    }
+    const std::size_t separator = std::min(text.find_first_of(".,"), text.size());
+    decimal.Whole = text.substr(0, separator);
+    decimal.Fraction = text.substr(std::min(separator + 1, text.size()));
+    return IsDigits(decimal.Whole) && IsDigits(decimal.Fraction) &&
+           !(decimal.Whole.empty() && decimal.Fraction.empty());
+}
+
+/// The fraction against one half: -1 below, 0 exactly, 1 above.
+int CompareWithHalf(std::string_view fraction)
+{
+    if (fraction.empty() || fraction.front() < '5')
+        return -1;
+    const bool more = fraction.front() > '5' || fraction.find_first_not_of('0', 1) != std::string_view::npos;
+    return more ? 1 : 0;
+}
+
+} // namespace
+
+NumberReading ReadLong(std::string_view text, std::int32_t& value)
+{
+    Decimal decimal;
+    if (!SplitDecimal(text, decimal))
+        return NumberReading::NotNumeric;
+
+    constexpr std::int64_t beyond = std::int64_t{1} << 40;
+    std::int64_t number = 0;
+    for (const char digit : decimal.Whole)
+        number = std::min(number * 10 + (digit - '0'), beyond);
+
+    const int half = CompareWithHalf(decimal.Fraction);
+    if (half > 0 || (half == 0 && number % 2 != 0))
+        ++number;
+    if (decimal.Negative)
+        number = -number;
+    if (number < std::numeric_limits<std::int32_t>::min() ||
+        number > std::numeric_limits<std::int32_t>::max())
+        return NumberReading::TooLarge;
+    value = static_cast<std::int32_t>(number);
+    return NumberReading::Whole;
+}
+
+bool IsNumeric(std::string_view text)
+{
+    Decimal decimal;
+    return SplitDecimal(text, decimal);
+}
+
+std::int32_t ToLong(std::string_view text)
+{
+    std::int32_t value = 0;
+    switch (ReadLong(text, value))
+    {
+    case NumberReading::NotNumeric:
+        throw TypeMismatch(text);
+    case NumberReading::TooLarge:
+        throw Overflow(text);
+    case NumberReading::Whole:
+        break;
+    }
+    return value;
+}
+
+std::int32_t ToLongOrZero(std::string_view text)
+{
+    std::int32_t value = 0;
+    return ReadLong(text, value) == NumberReading::Whole ? value : 0;
+}
+
+std::int32_t CheckedSum(std::int32_t a, std::int32_t b)
+{
+    std::int32_t sum = 0;
+    if (__builtin_add_overflow(a, b, &sum))
+        throw Overflow();
+    return sum;
+}
+
+std::int32_t CheckedProduct(std::int32_t a, std::int32_t b)
+{
+    std::int32_t product = 0;
+    if (__builtin_mul_overflow(a, b, &product))
+        throw Overflow();
+    return product;
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <string_view>
+
+/// What the program calls itself, everywhere.
+inline constexpr std::string_view ProductName = "Varlostudiji";
+inline constexpr std::string_view ProductVersion = "1.0.20260309";

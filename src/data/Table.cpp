@@ -1,0 +1,122 @@
+#include "data/Table.h"
+
+#include "data/Errors.h"
+#include "data/Numbers.h"
+#include "data/Text.h"
+
+#include <algorithm>
+#include <cstring>
+
+std::string TableLayout::Header() const
+{
+    std::string header;
+    for (const std::string_view column : Columns)
+        AppendJoined(header, ";", column);
+    return header;
+}
+
+std::string_view Row::Field(std::size_t column) const
+{
+    if (column >= Count)
+        throw SubscriptOutOfRange({Layout->FileName, Line, Layout->Columns[column]});
+    const char* text = reinterpret_cast<const char*>(Ends + Count);
+    const std::uint32_t begin = column == 0 ? 0 : Ends[column - 1];
+    return {text + begin, Ends[column] - begin};
+}
+
+std::int32_t Row::Number(std::size_t column) const
+{
+    std::int32_t value = 0;
+    const std::string_view text = Field(column);
+    const NumberReading reading = ReadLong(text, value);
+    if (reading == NumberReading::NotNumeric)
+        throw TypeMismatch(text, {Layout->FileName, Line, Layout->Columns[column]});
+    if (reading == NumberReading::TooLarge)
+        throw Overflow(text, {Layout->FileName, Line, Layout->Columns[column]});
+    return value;
+}
+
+Table::Table(const TableLayout& layout)
+    : TableColumns(&layout),
+      Memory(std::make_unique<std::pmr::monotonic_buffer_resource>()),
+      Indexes(layout.Columns.size())
+{
+}
+
+void Table::Append(std::span<const std::string_view> fields, std::uint32_t line)
+{
+    Rows.push_back(NewRow(fields, line));
+    ForgetIndexes();
+}
+
+void Table::Replace(std::size_t position, std::span<const std::string_view> fields)
+{
+    Rows[position] = NewRow(fields, 0);
+    ForgetIndexes();
+}
+
+void Table::RemoveMatches(std::size_t column, std::int32_t number)
+{
+    std::vector<Row> kept;
+    kept.reserve(Rows.size());
+    std::ranges::copy_if(Rows, std::back_inserter(kept),
+                         [&](const Row& row) { return row.Number(column) != number; });
+    Rows.swap(kept);
+    ForgetIndexes();
+}
+
+const Row* Table::FindFirst(std::size_t column, std::int32_t number) const
+{
+    const ColumnIndex& index = IndexOf(column);
+    const std::uint32_t position = index.First(number);
+    if (position != ColumnIndex::None)
+        return &Rows[position];
+    RequireCovered(index, column);
+    return nullptr;
+}
+
+Row Table::NewRow(std::span<const std::string_view> fields, std::uint32_t line)
+{
+    std::size_t length = 0;
+    for (const std::string_view field : fields)
+        length += field.size();
+
+    void* block = Memory->allocate(fields.size() * sizeof(std::uint32_t) + length, alignof(std::uint32_t));
+    auto* ends = static_cast<std::uint32_t*>(block);
+    char* text = reinterpret_cast<char*>(ends + fields.size());
+    std::uint32_t end = 0;
+    for (std::size_t i = 0; i < fields.size(); ++i)
+    {
+        std::ranges::copy(fields[i], text + end);
+        end += static_cast<std::uint32_t>(fields[i].size());
+        ends[i] = end;
+    }
+
+    Row row;
+    row.Layout = TableColumns;
+    row.Ends = ends;
+    row.Count = static_cast<std::uint32_t>(fields.size());
+    row.Line = line;
+    return row;
+}
+
+const ColumnIndex& Table::IndexOf(std::size_t column) const
+{
+    std::optional<ColumnIndex>& index = Indexes[column];
+    if (!index)
+        index.emplace(Rows, column);
+    return *index;
+}
+
+/// A scan that went on to the end met the first row that the index does not cover.
+void Table::RequireCovered(const ColumnIndex& index, std::size_t column) const
+{
+    if (index.Covered() < Rows.size())
+        Rows[index.Covered()].Number(column); // throws: that row is not covered because it cannot be read
+}
+
+void Table::ForgetIndexes()
+{
+    for (std::optional<ColumnIndex>& index : Indexes)
+        index.reset();
+}

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "data/ColumnIndex.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <memory_resource>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What the program knows of a table's file: its name in the data folder and its columns.
+struct TableLayout
+{
+    std::string_view FileName;
+    std::span<const std::string_view> Columns;
+
+    /// The file's first line: the column names joined by ";".
+    std::string Header() const;
+};
+
+/// One row: the fields of one file line as text (UTF-8), in column order; there may be fewer or more than
+/// columns. A light view: the text belongs to the table and stays until the table is loaded anew.
+class Row
+{
+public:
+    std::size_t FieldCount() const { return Count; }
+
+    /// A field exactly as stored. @throws SubscriptOutOfRange when the row is too short
+    std::string_view Field(std::size_t column) const;
+
+    /// A field as a whole number. @throws TypeMismatch, Overflow, SubscriptOutOfRange, each naming the place
+    std::int32_t Number(std::size_t column) const;
+
+private:
+    friend class Table;
+
+    const TableLayout* Layout;
+    const std::uint32_t* Ends; // where each field ends in the text, which follows them
+    std::uint32_t Count;
+    std::uint32_t Line; // in the file; 0 when no file holds the row yet
+};
+
+/// An ordered collection of rows. Searches give what a scan from the first row gives, errors included.
+class Table
+{
+public:
+    explicit Table(const TableLayout& layout);
+
+    const TableLayout& Layout() const { return *TableColumns; }
+    std::size_t RowCount() const { return Rows.size(); }
+    const Row& operator[](std::size_t position) const { return Rows[position]; }
+    auto begin() const { return Rows.begin(); }
+    auto end() const { return Rows.end(); }
+
+    /// Adds a row behind the last one; `line` is its line in the file, 0 when no file holds it yet.
+    void Append(std::span<const std::string_view> fields, std::uint32_t line = 0);
+
+    /// Puts a new row in the place of the one at a position.
+    void Replace(std::size_t position, std::span<const std::string_view> fields);
+
+    /// Removes every row that holds the number in the column.
+    /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row that cannot be compared; then none is
+    /// removed
+    void RemoveMatches(std::size_t column, std::int32_t number);
+
+    /// The first row that holds the number in the column; null when there is none.
+    /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row before it that cannot be compared
+    const Row* FindFirst(std::size_t column, std::int32_t number) const;
+
+    /// Calls `test` with each row that holds the number in the column, in table order, until one answers
+    /// true; returns whether one did. @throws as FindFirst, once the rows before the faulty one are tested
+    template<typename Test>
+    bool AnyMatch(std::size_t column, std::int32_t number, const Test& test) const
+    {
+        const ColumnIndex& index = IndexOf(column);
+        for (std::uint32_t at = index.First(number); at != ColumnIndex::None; at = index.Next(at))
+            if (test(Rows[at]))
+                return true;
+        RequireCovered(index, column);
+        return false;
+    }
+
+    /// Calls `visit` with each row that holds the number in the column, in table order. @throws as AnyMatch
+    template<typename Visit>
+    void ForEachMatch(std::size_t column, std::int32_t number, const Visit& visit) const
+    {
+        AnyMatch(column, number,
+                 [&](const Row& row)
+                 {
+                     visit(row);
+                     return false;
+                 });
+    }
+
+private:
+    Row NewRow(std::span<const std::string_view> fields, std::uint32_t line);
+    const ColumnIndex& IndexOf(std::size_t column) const;
+    void RequireCovered(const ColumnIndex& index, std::size_t column) const;
+    void ForgetIndexes();
+
+    const TableLayout* TableColumns;
+    std::unique_ptr<std::pmr::monotonic_buffer_resource> Memory; // the fields of all rows
+    std::vector<Row> Rows;
+    mutable std::vector<std::optional<ColumnIndex>> Indexes; // by column, built when first needed
+};

@@ -1,0 +1,134 @@
+#include "data/Text.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace
+{
+
+constexpr char32_t Replacement = 0xFFFD;
+
+// The letters of windows-1250 beyond ASCII, each under its upper-case form; all lie below U+0180.
+constexpr std::u32string_view Lower = U"šśťžźłąşľżŕáâăäĺćçčéęëěíîďđńňóôőöřůúűüýţ";
+constexpr std::u32string_view Upper = U"ŠŚŤŽŹŁĄŞĽŻŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖŘŮÚŰÜÝŢ";
+static_assert(Lower.size() == Upper.size());
+
+constexpr std::size_t UpperTableSize = 0x180;
+
+constexpr std::array<char32_t, UpperTableSize> UpperTable = []
+{
+    std::array<char32_t, UpperTableSize> table{};
+    for (char32_t code = 0; code < UpperTableSize; ++code)
+        table[code] = code >= U'a' && code <= U'z' ? code - U'a' + U'A' : code;
+    for (std::size_t i = 0; i < Lower.size(); ++i)
+        table[Lower[i]] = Upper[i];
+    return table;
+}();
+
+struct Lead
+{
+    int Followers;
+    char32_t Bits;
+    char32_t Smallest; // a longer form than needed is no character
+};
+
+Lead ReadLead(std::uint8_t byte)
+{
+    if (byte < 0x80)
+        return {0, byte, 0};
+    if (byte >= 0xC2 && byte < 0xE0)
+        return {1, byte & 0x1FU, 0x80};
+    if (byte >= 0xE0 && byte < 0xF0)
+        return {2, byte & 0x0FU, 0x800};
+    if (byte >= 0xF0 && byte < 0xF5)
+        return {3, byte & 0x07U, 0x10000};
+    return {0, Replacement, 0};
+}
+
+bool IsCharacter(char32_t code)
+{
+    return code < 0x110000 && !(code >= 0xD800 && code < 0xE000);
+}
+
+} // namespace
+
+std::string_view TrimBlanks(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string UpperCase(std::string_view text)
+{
+    std::string upper;
+    upper.reserve(text.size());
+    while (!text.empty())
+    {
+        const char32_t character = TakeCodePoint(text);
+        AppendCodePoint(upper, character < UpperTableSize ? UpperTable[character] : character);
+    }
+    return upper;
+}
+
+bool IsWord(std::string_view text, std::string_view upperCaseWord)
+{
+    return UpperCase(TrimBlanks(text)) == upperCaseWord;
+}
+
+char32_t TakeCodePoint(std::string_view& text)
+{
+    const auto [followers, bits, smallest] = ReadLead(static_cast<std::uint8_t>(text.front()));
+    char32_t code = bits;
+    text.remove_prefix(1);
+    std::string_view rest = text;
+    for (int i = 0; i < followers; ++i)
+    {
+        if (rest.empty() || (static_cast<std::uint8_t>(rest.front()) & 0xC0U) != 0x80U)
+            return Replacement;
+        code = (code << 6U) | (static_cast<std::uint8_t>(rest.front()) & 0x3FU);
+        rest.remove_prefix(1);
+    }
+    if (code < smallest || !IsCharacter(code))
+        return Replacement;
+    text = rest;
+    return code;
+}
+
+void AppendCodePoint(std::string& text, char32_t character)
+{
+    const auto follower = [&](unsigned shift)
+    { text += static_cast<char>(0x80U | ((character >> shift) & 0x3FU)); };
+
+    if (character < 0x80)
+    {
+        text += static_cast<char>(character);
+    }
+    else if (character < 0x800)
+    {
+        text += static_cast<char>(0xC0U | (character >> 6U));
+        follower(0);
+    }
+    else if (character < 0x10000)
+    {
+        text += static_cast<char>(0xE0U | (character >> 12U));
+        follower(6);
+        follower(0);
+    }
+    else
+    {
+        text += static_cast<char>(0xF0U | (character >> 18U));
+        follower(12);
+        follower(6);
+        follower(0);
+    }
+}
+
+void AppendJoined(std::string& list, std::string_view separator, std::string_view item)
+{
+    if (!list.empty())
+        list += separator;
+    list += item;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// The text without blanks (U+0020, no other white space) at both ends.
+std::string_view TrimBlanks(std::string_view text);
+
+/// The text with every letter that windows-1250 has in upper case, whatever the system's locale; "ß" stays.
+std::string UpperCase(std::string_view text);
+
+/// True when the text, trimmed and upper-cased, is the given upper-case word.
+bool IsWord(std::string_view text, std::string_view upperCaseWord);
+
+/// Takes the first character off a UTF-8 text that is not empty; U+FFFD stands for a byte that fits nowhere.
+char32_t TakeCodePoint(std::string_view& text);
+
+/// Appends a character as UTF-8.
+void AppendCodePoint(std::string& text, char32_t character);
+
+/// Appends an item to a list in one text: the separator only where something stands before it.
+void AppendJoined(std::string& list, std::string_view separator, std::string_view item);

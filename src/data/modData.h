@@ -1,0 +1,144 @@
+#pragma once
+
+#include "data/Table.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// The columns of each record, in the order of its file.
+
+namespace Zavod
+{
+enum Column : std::size_t
+{
+    ID,
+    Naziv,
+    Kratica
+};
+}
+namespace Nastavnik
+{
+enum Column : std::size_t
+{
+    ID,
+    PrezimeIme,
+    Titula,
+    ZavodID
+};
+}
+namespace Studij
+{
+enum Column : std::size_t
+{
+    ID,
+    Naziv,
+    Kratica,
+    Razina
+};
+}
+namespace Smjer
+{
+enum Column : std::size_t
+{
+    ID,
+    Naziv,
+    Kratica,
+    StudijID,
+    Razina
+};
+}
+namespace Kolegij
+{
+enum Column : std::size_t
+{
+    ID,
+    Naziv,
+    P,
+    S,
+    V,
+    ECTS,
+    Tip,
+    Semestar,
+    StudijID
+};
+}
+namespace KolegijSmjer
+{
+enum Column : std::size_t
+{
+    KolegijID,
+    SmjerID
+};
+}
+namespace KolegijNastavnik
+{
+enum Column : std::size_t
+{
+    KolegijID,
+    NastavnikID,
+    Uloga,
+    Redoslijed
+};
+}
+
+/// The data store: the program-wide tables, and their files in the data folder.
+namespace modData
+{
+
+inline constexpr std::string_view Preddiplomski = "Preddiplomski";
+inline constexpr std::string_view Diplomski = "Diplomski";
+
+extern Table Zavodi;
+extern Table Nastavnici;
+extern Table Studiji;
+extern Table Smjerovi;
+extern Table Kolegiji;
+extern Table KolegijSmjerovi;
+extern Table KolegijNastavnici;
+
+/// The folder of the seven files, without a separator behind it: "Varlostudiji" in %LOCALAPPDATA%, or in the
+/// user profile where that is not set. It is created when missing; a failure to do so is ignored.
+std::string GetDataFolder();
+
+/// Turns a file that begins with the UTF-8 byte-order mark into windows-1250 in place, line ends as they are;
+/// any other file stays untouched, a missing one is created empty. @throws FileError
+void NormalizeFileEncoding(std::string_view path);
+
+/// Reads the rows of a windows-1250 file: ";" between fields, CR LF or CR behind lines, the first line and
+/// blank lines passed over, no field changed. @throws FileError, InputPastEnd when there is no first line
+Table LoadTable(std::string_view path, const TableLayout& layout);
+
+/// Writes a header and the rows. A separator stands only behind what is already on the line, so that leading
+/// empty fields leave none. @throws FileError, and the old content stays
+void SaveTable(std::string_view path, std::string_view header, const Table& table);
+
+// Each loads one table from its file, brought to windows-1250 first, or saves it. @throws as the above
+
+void LoadZavodi();
+void LoadNastavnici();
+void LoadStudiji();
+void LoadSmjerovi();
+void LoadKolegiji();
+void LoadKolegijSmjerovi();
+void LoadKolegijNastavnici();
+
+void SaveZavodi();
+void SaveNastavnici();
+void SaveStudiji();
+void SaveSmjerovi();
+void SaveKolegiji();
+void SaveKolegijSmjerovi();
+void SaveKolegijNastavnici();
+
+/// Loads the seven tables. @throws FileError, InputPastEnd
+void LoadAllTables();
+
+/// Saves the seven tables. @throws FileError; the files saved before it stay saved
+void SaveAllTables();
+
+/// The ID for a new course: the largest one plus 1, and 1 for an empty table.
+/// @throws TypeMismatch, Overflow, SubscriptOutOfRange for an ID that is no whole number
+std::int32_t NextKolegijID();
+
+} // namespace modData

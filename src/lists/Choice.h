@@ -1,0 +1,11 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// An entry of a combo box or list box: its text (UTF-8) and the number that goes with it, mostly an ID.
+struct Choice
+{
+    std::string Text;
+    std::int32_t Data = 0;
+};

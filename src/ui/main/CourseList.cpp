@@ -1,0 +1,125 @@
+#include "ui/main/CourseList.h"
+
+#include "data/Lookups.h"
+#include "data/Text.h"
+#include "data/modData.h"
+
+#include <array>
+#include <utility>
+
+namespace
+{
+
+// The columns 1 to 7 show these fields exactly as stored.
+constexpr Kolegij::Column ShownFields[] = {Kolegij::Naziv, Kolegij::P,   Kolegij::S,       Kolegij::V,
+                                           Kolegij::ECTS,  Kolegij::Tip, Kolegij::Semestar};
+
+bool Passes(const Row& kolegij, const CourseFilter& filter, std::string_view search)
+{
+    return (filter.StudijID == 0 || kolegij.Number(Kolegij::StudijID) == filter.StudijID) &&
+           (filter.Semestar == 0 || kolegij.Number(Kolegij::Semestar) == filter.Semestar) &&
+           MatchesSearch(kolegij, search) &&
+           (filter.SmjerID == 0 || KolegijHasSmjer(kolegij.Number(Kolegij::ID), filter.SmjerID));
+}
+
+ListRow CourseRow(const Row& kolegij)
+{
+    const bool elective = IsWord(kolegij.Field(Kolegij::Tip), "IZBORNI");
+    const ListColour colour = elective ? Blue : Black;
+    const std::int32_t id = kolegij.Number(Kolegij::ID);
+
+    ListRow row;
+    row.reserve(std::size(ShownFields) + 4);
+    const auto add = [&](std::string text) { row.push_back({std::move(text), colour, false}); };
+    add(std::string(kolegij.Field(Kolegij::ID)));
+    for (const Kolegij::Column column : ShownFields)
+        add(std::string(kolegij.Field(column)));
+    add(modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID)));
+    add(GetSmjeroviForKolegijString(id));
+    add(GetNastavniciForKolegijString(id));
+    return row;
+}
+
+} // namespace
+
+std::vector<ListRow> CourseRows(const CourseFilter& filter)
+{
+    const std::string search = SearchKey(filter.Search);
+    std::vector<ListRow> rows;
+    for (const Row& kolegij : modData::Kolegiji)
+        if (Passes(kolegij, filter, search))
+            rows.push_back(CourseRow(kolegij));
+    return rows;
+}
+
+bool MatchesSearch(const Row& kolegij, std::string_view search)
+{
+    if (search.empty())
+        return true;
+    std::string haystack;
+    for (const Kolegij::Column column : {Kolegij::Naziv, Kolegij::ECTS, Kolegij::Tip})
+        haystack.append(" ").append(kolegij.Field(column));
+    haystack.append(" ").append(GetNastavniciForKolegijString(kolegij.Number(Kolegij::ID)));
+    return UpperCase(haystack).find(search) != std::string::npos;
+}
+
+std::string SearchKey(std::string_view typed)
+{
+    return UpperCase(TrimBlanks(typed));
+}
+
+bool KolegijHasSmjer(std::int32_t kolegijID, std::int32_t smjerID)
+{
+    return modData::KolegijSmjerovi.AnyMatch(KolegijSmjer::KolegijID, kolegijID,
+                                             [&](const Row& link)
+                                             { return link.Number(KolegijSmjer::SmjerID) == smjerID; });
+}
+
+std::string GetSmjeroviForKolegijString(std::int32_t kolegijID)
+{
+    std::string joined;
+    modData::KolegijSmjerovi.ForEachMatch(KolegijSmjer::KolegijID, kolegijID,
+                                          [&](const Row& link)
+                                          {
+                                              const Row* smjer = modData::Smjerovi.FindFirst(
+                                                  Smjer::ID, link.Number(KolegijSmjer::SmjerID));
+                                              if (smjer != nullptr)
+                                                  AppendJoined(joined, ", ", smjer->Field(Smjer::Kratica));
+                                          });
+    return joined;
+}
+
+std::string GetNastavniciForKolegijString(std::int32_t kolegijID)
+{
+    std::string joined;
+    bool isFirst = true;
+    for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
+    {
+        if (!std::exchange(isFirst, false))
+            joined += ", ";
+        joined += placed.Nastavnik.Field(Nastavnik::PrezimeIme);
+    }
+    return joined;
+}
+
+std::string GetNositelji123String(std::int32_t kolegijID)
+{
+    std::array<std::string, 3> names;
+    modData::KolegijNastavnici.ForEachMatch(
+        KolegijNastavnik::KolegijID, kolegijID,
+        [&](const Row& link)
+        {
+            if (!IsWord(link.Field(KolegijNastavnik::Uloga), "NOSITELJ"))
+                return;
+            const std::int32_t redoslijed = link.Number(KolegijNastavnik::Redoslijed);
+            if (redoslijed >= 1 && redoslijed <= 3)
+                names[static_cast<std::size_t>(redoslijed - 1)] =
+                    modData::GetNastavnikIme(link.Number(KolegijNastavnik::NastavnikID));
+        });
+
+    std::string joined;
+    for (const std::string& name : names)
+        if (!TrimBlanks(name).empty())
+            AppendJoined(joined, " + ", name);
+    return joined;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// The checks that decide whether the tables may be saved or exported: broken references, duplicate
+/// identifiers, values out of range. Hours, credits, types and departments are deliberately not checked.
+/// Everything here throws TypeMismatch, Overflow or SubscriptOutOfRange for a number that cannot be read.
+namespace modCSVValidator
+{
+
+using Messages = std::vector<std::string>;
+
+bool ZavodExists(std::int32_t id);
+bool NastavnikExists(std::int32_t id);
+bool StudijExists(std::int32_t id);
+bool SmjerExists(std::int32_t id);
+bool KolegijExists(std::int32_t id);
+
+// Each walks one table and appends a message for every test that a row fails.
+
+void CheckNastavnici(Messages& messages);
+void CheckKolegiji(Messages& messages);
+void CheckKolegijNastavnici(Messages& messages);
+void CheckKolegijSmjerovi(Messages& messages);
+void CheckSmjerovi(Messages& messages);
+void CheckStudiji(Messages& messages);
+
+/// The messages of all checks over the loaded tables, in a fixed order.
+Messages AllMessages();
+
+/// True when no check has anything to say.
+bool ValidateAll();
+
+} // namespace modCSVValidator
