@@ -1,0 +1,3 @@
+#include "ui/app/VarlostudijiApp.h"
+
+wxIMPLEMENT_APP(VarlostudijiApp);

@@ -1,0 +1,88 @@
+#include "ui/controls/Controls.h"
+
+#include "ui/controls/Strings.h"
+
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/gdicmn.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/toplevel.h>
+
+#include <algorithm>
+
+void UseProgramFont(wxTopLevelWindow& window)
+{
+    wxFont font = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT);
+    if (font.SetFaceName("Segoe UI"))
+        window.SetFont(font);
+}
+
+wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption)
+{
+    return new wxButton(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize, 0,
+                        wxDefaultValidator, ToWx(name));
+}
+
+wxStaticText* NewLabel(wxWindow* parent, std::string_view name, std::string_view caption)
+{
+    return new wxStaticText(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize, 0, ToWx(name));
+}
+
+wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters)
+{
+    auto* choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
+                                wxDefaultValidator, ToWx(name));
+    choice->SetMinSize(choice->GetSizeFromTextSize(parent->GetTextExtent(wxString('n', characters)).x));
+    return choice;
+}
+
+wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters)
+{
+    auto* box = new wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
+                               wxDefaultValidator, ToWx(name));
+    box->SetMinSize(box->GetSizeFromTextSize(parent->GetTextExtent(wxString('n', characters)).x));
+    return box;
+}
+
+wxStaticBoxSizer* NewFrame(wxWindow* parent, std::string_view name, std::string_view caption)
+{
+    auto* sizer = new wxStaticBoxSizer(wxVERTICAL, parent, ToWx(caption));
+    sizer->GetStaticBox()->SetName(ToWx(name));
+    return sizer;
+}
+
+int WithTextSize(const wxWindow& window, int pixels)
+{
+    constexpr int usualCharacterHeight = 17; // at 96 dots to the inch
+    const int usual = window.FromDIP(usualCharacterHeight);
+    return pixels * std::max(window.GetCharHeight(), usual) / usual;
+}
+
+void UseClientSizes(wxTopLevelWindow& window, wxSizer& layout, wxSize initial, wxSize smallest)
+{
+    const auto scaled = [&](wxSize size)
+    {
+        const wxSize pixels = window.FromDIP(size);
+        return wxSize(WithTextSize(window, pixels.x), WithTextSize(window, pixels.y));
+    };
+    wxSize screen = wxGetClientDisplayRect().GetSize();
+    screen.DecBy(window.GetSize() - window.GetClientSize());
+
+    smallest = scaled(smallest);
+    smallest.DecTo(screen);
+    smallest.IncTo(layout.CalcMin());
+    initial = scaled(initial);
+    initial.DecTo(screen);
+    initial.IncTo(smallest);
+    window.SetMinClientSize(smallest);
+    window.SetClientSize(initial);
+}
+
+int Gap(const wxWindow* window)
+{
+    return window->FromDIP(6);
+}

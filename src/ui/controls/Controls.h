@@ -1,0 +1,43 @@
+#pragma once
+
+#include <wx/gdicmn.h>
+
+#include <string_view>
+
+class wxButton;
+class wxChoice;
+class wxSizer;
+class wxStaticBoxSizer;
+class wxStaticText;
+class wxTextCtrl;
+class wxTopLevelWindow;
+class wxWindow;
+
+// Controls as every window of the program makes them: with the name that the code has for them, and captions
+// in UTF-8.
+
+/// Sets the program's font, Segoe UI at the system's size (the system's own font where it is missing), which
+/// every control made in the window from then on inherits.
+void UseProgramFont(wxTopLevelWindow& window);
+
+wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption);
+wxStaticText* NewLabel(wxWindow* parent, std::string_view name, std::string_view caption);
+
+/// A drop-down list, wide enough for `characters` of text.
+wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters);
+
+/// A one-line text box, wide enough for `characters` of text.
+wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters);
+
+/// A frame with a caption; its content goes into the sizer, as children of the sizer's box.
+wxStaticBoxSizer* NewFrame(wxWindow* parent, std::string_view name, std::string_view caption);
+
+/// A length in pixels that is right for text of the usual size, as it must be for the user's text.
+int WithTextSize(const wxWindow& window, int pixels);
+
+/// Gives a window the size of its client area, never more than the screen has, and the least that the user
+/// can make it: both for text of the usual size at 96 dots to the inch, and no less than its layout needs.
+void UseClientSizes(wxTopLevelWindow& window, wxSizer& layout, wxSize initial, wxSize smallest);
+
+/// The gap between neighbouring controls, in pixels of the window's screen.
+int Gap(const wxWindow* window);

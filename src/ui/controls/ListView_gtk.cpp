@@ -1,0 +1,154 @@
+// The list on GTK: a wxDataViewCtrl over a virtual model.
+
+#include "ui/controls/ListView.h"
+#include "ui/controls/NativeList.h"
+
+#include <wx/dataview.h>
+
+namespace
+{
+
+// The least that a header of the theme can be drawn in.
+constexpr int FillerWidth = 16;
+
+class Model : public wxDataViewVirtualListModel
+{
+public:
+    explicit Model(const ListView& view) : View(view) {}
+
+    unsigned GetColumnCount() const override { return static_cast<unsigned>(View.ColumnCount()); }
+    wxString GetColumnType(unsigned) const override { return "string"; }
+
+    void GetValueByRow(wxVariant& value, unsigned row, unsigned column) const override
+    {
+        value = column < GetColumnCount() ? View.CellText(static_cast<int>(row), static_cast<int>(column))
+                                          : wxString();
+    }
+
+    bool GetAttrByRow(unsigned row, unsigned column, wxDataViewItemAttr& attr) const override
+    {
+        if (column >= GetColumnCount())
+            return false;
+        const ListCell& cell = View.Cell(static_cast<int>(row), static_cast<int>(column));
+        // Black is left to the theme, whose text may be light on dark.
+        if (cell.Colour != Black)
+            attr.SetColour(wxColour(cell.Colour));
+        attr.SetBold(cell.Bold);
+        return cell.Colour != Black || cell.Bold;
+    }
+
+    bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
+
+private:
+    const ListView& View;
+};
+
+class GtkList : public NativeList
+{
+public:
+    GtkList(ListView& view, Listener listener)
+        : ToView(std::move(listener)),
+          Rows(new Model(view)),
+          Control(new wxDataViewCtrl(&view, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                     wxDV_SINGLE | wxDV_ROW_LINES | wxDV_HORIZ_RULES | wxDV_VERT_RULES))
+    {
+        Control->AssociateModel(Rows.get());
+        Control->Bind(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK,
+                      [this](wxDataViewEvent& event)
+                      {
+                          if (event.GetColumn() < static_cast<int>(Rows->GetColumnCount()))
+                              ToView.ColumnClicked(event.GetColumn());
+                      });
+        Control->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED,
+                      [this](wxDataViewEvent& event) { ToView.Activated(RowOf(event.GetItem())); });
+        Control->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!ToView.KeyPressed(event)); });
+    }
+
+    wxWindow* Window() override { return Control; }
+
+    void AddColumn(const wxString& caption, int pixels) override
+    {
+        Control->AppendTextColumn(caption, Control->GetColumnCount(), wxDATAVIEW_CELL_INERT, pixels,
+                                  wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE);
+    }
+
+    void ColumnsComplete() override
+    {
+        // GTK gives the last column all the width that is left: this one takes it, so that the others keep
+        // theirs.
+        Control->AppendTextColumn(wxString(), Control->GetColumnCount(), wxDATAVIEW_CELL_INERT, FillerWidth);
+    }
+
+    int CaptionWidth(const wxString& caption) const override
+    {
+        constexpr int padding = 18; // what the themes leave on both sides of the bold caption
+        wxSize extent;
+        Control->GetTextExtent(caption, &extent.x, &extent.y, nullptr, nullptr, &HeaderFont);
+        return extent.x + padding;
+    }
+
+    int ColumnWidth(int column) const override
+    {
+        return Control->GetColumn(static_cast<unsigned>(column))->GetWidth();
+    }
+
+    void ShowNewRows(int count) override { Rows->Reset(static_cast<unsigned>(count)); }
+
+    // The model has no memory of cells: repainting shows what stands where now. A reset would scroll to the
+    // top.
+    void ShowReorderedRows() override { Control->Refresh(); }
+
+    void ShowSortArrow(int column, bool descending) override
+    {
+        Control->GetColumn(static_cast<unsigned>(column))->SetSortOrder(!descending);
+    }
+
+    int SelectedRow() const override
+    {
+        const wxDataViewItem item = Control->GetSelection();
+        return item.IsOk() ? RowOf(item) : -1;
+    }
+
+    void SelectRow(int row) override
+    {
+        if (row < 0)
+        {
+            Control->UnselectAll();
+            return;
+        }
+        const wxDataViewItem item = Rows->GetItem(static_cast<unsigned>(row));
+        Control->SetCurrentItem(item);
+        Control->Select(item);
+        Control->EnsureVisible(item);
+    }
+
+    void ClickColumn(int column) override
+    {
+        wxDataViewEvent click(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK, Control,
+                              Control->GetColumn(static_cast<unsigned>(column)));
+        Control->ProcessWindowEvent(click);
+    }
+
+    void ActivateRow(int row) override
+    {
+        SelectRow(row);
+        wxDataViewEvent activation(wxEVT_DATAVIEW_ITEM_ACTIVATED, Control,
+                                   Rows->GetItem(static_cast<unsigned>(row)));
+        Control->ProcessWindowEvent(activation);
+    }
+
+private:
+    int RowOf(const wxDataViewItem& item) const { return static_cast<int>(Rows->GetRow(item)); }
+
+    Listener ToView;
+    wxObjectDataPtr<Model> Rows;
+    wxDataViewCtrl* Control;
+    wxFont HeaderFont = Control->GetFont().Bold();
+};
+
+} // namespace
+
+std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener)
+{
+    return std::make_unique<GtkList>(view, std::move(listener));
+}

@@ -1,0 +1,124 @@
+// The list on Windows: the system's report list view in its virtual form.
+
+#include "ui/controls/ListView.h"
+#include "ui/controls/NativeList.h"
+
+#include <wx/itemattr.h>
+#include <wx/listctrl.h>
+
+namespace
+{
+
+class MswList : public wxListCtrl, public NativeList
+{
+public:
+    MswList(ListView& view, Listener listener)
+        : wxListCtrl(&view, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                     wxLC_REPORT | wxLC_VIRTUAL | wxLC_SINGLE_SEL | wxLC_HRULES | wxLC_VRULES),
+          View(view),
+          ToView(std::move(listener))
+    {
+        Bind(wxEVT_LIST_COL_CLICK,
+             [this](wxListEvent& event)
+             {
+                 if (event.GetColumn() >= 0)
+                     ToView.ColumnClicked(event.GetColumn());
+             });
+        Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent& event) { ToView.Activated(event.GetIndex()); });
+        Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!ToView.KeyPressed(event)); });
+    }
+
+    wxWindow* Window() override { return this; }
+
+    void AddColumn(const wxString& caption, int pixels) override
+    {
+        AppendColumn(caption, wxLIST_FORMAT_LEFT, pixels);
+    }
+
+    void ColumnsComplete() override {}
+
+    int CaptionWidth(const wxString& caption) const override
+    {
+        constexpr int padding = 13; // at 96 dots to the inch; the header's own, on both sides
+        return GetTextExtent(caption).x + FromDIP(padding);
+    }
+
+    int ColumnWidth(int column) const override { return GetColumnWidth(column); }
+
+    void ShowNewRows(int count) override
+    {
+        SelectRow(-1);
+        SetItemCount(count);
+        if (count > 0)
+            EnsureVisible(0);
+        Refresh();
+    }
+
+    void ShowReorderedRows() override { Refresh(); }
+
+    void ShowSortArrow(int column, bool descending) override { ShowSortIndicator(column, !descending); }
+
+    int SelectedRow() const override
+    {
+        return static_cast<int>(GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED));
+    }
+
+    void SelectRow(int row) override
+    {
+        constexpr long marks = wxLIST_STATE_SELECTED | wxLIST_STATE_FOCUSED;
+        if (const int selected = SelectedRow(); selected >= 0)
+            SetItemState(selected, 0, marks);
+        if (row < 0)
+            return;
+        SetItemState(row, marks, marks);
+        EnsureVisible(row);
+    }
+
+    void ClickColumn(int column) override
+    {
+        wxListEvent click(wxEVT_LIST_COL_CLICK, GetId());
+        click.SetEventObject(this);
+        click.m_col = column;
+        ProcessWindowEvent(click);
+    }
+
+    void ActivateRow(int row) override
+    {
+        SelectRow(row);
+        wxListEvent activation(wxEVT_LIST_ITEM_ACTIVATED, GetId());
+        activation.SetEventObject(this);
+        activation.m_itemIndex = row;
+        ProcessWindowEvent(activation);
+    }
+
+protected:
+    wxString OnGetItemText(long row, long column) const override
+    {
+        return View.CellText(static_cast<int>(row), static_cast<int>(column));
+    }
+
+    wxItemAttr* OnGetItemAttr(long) const override { return nullptr; }
+
+    wxItemAttr* OnGetItemColumnAttr(long row, long column) const override
+    {
+        const ListCell& cell = View.Cell(static_cast<int>(row), static_cast<int>(column));
+        Attributes = wxItemAttr();
+        if (cell.Colour != Black)
+            Attributes.SetTextColour(wxColour(cell.Colour));
+        if (cell.Bold)
+            Attributes.SetFont(GetFont().Bold());
+        return &Attributes;
+    }
+
+private:
+    ListView& View;
+    Listener ToView;
+    mutable wxItemAttr Attributes; // of the cell asked for last: the list takes it over before it asks again
+};
+
+} // namespace
+
+std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener)
+{
+    return std::make_unique<MswList>(view, std::move(listener));
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "data/Product.h"
+
+#include <string_view>
+
+class wxWindow;
+
+// The message boxes. The icon carries the severity; a box without a title of its own shows the program's
+// name.
+
+void ShowInformation(wxWindow* parent, std::string_view text, std::string_view title = ProductName);
+void ShowWarning(wxWindow* parent, std::string_view text, std::string_view title = ProductName);
+void ShowCritical(wxWindow* parent, std::string_view text, std::string_view title = ProductName);
+
+/// Asks a question with Yes and No; true for Yes.
+bool AskYesNo(wxWindow* parent, std::string_view text, std::string_view title);

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+class ListView;
+class wxKeyEvent;
+class wxString;
+class wxWindow;
+
+/// The system's own list inside a ListView, which owns the rows; the list asks it for the cells it shows.
+class NativeList
+{
+public:
+    /// What the list reports to its ListView.
+    struct Listener
+    {
+        std::function<void(int column)> ColumnClicked;
+        std::function<void(int row)> Activated;
+        std::function<bool(const wxKeyEvent& key)> KeyPressed;
+    };
+
+    virtual ~NativeList() = default;
+
+    virtual wxWindow* Window() = 0;
+    virtual void AddColumn(const wxString& caption, int pixels) = 0;
+    virtual void ColumnsComplete() = 0;
+    virtual int ColumnWidth(int column) const = 0;
+
+    /// The least width of a column that shows this caption whole, in pixels.
+    virtual int CaptionWidth(const wxString& caption) const = 0;
+
+    /// All rows are new: shows them from the top, none selected.
+    virtual void ShowNewRows(int count) = 0;
+
+    /// The same rows stand in another order: shows them where the user is.
+    virtual void ShowReorderedRows() = 0;
+
+    virtual void ShowSortArrow(int column, bool descending) = 0;
+
+    virtual int SelectedRow() const = 0;
+    virtual void SelectRow(int row) = 0;
+
+    // What a click on a header and a double click on a row set off.
+
+    virtual void ClickColumn(int column) = 0;
+    virtual void ActivateRow(int row) = 0;
+};
+
+/// Creates the list of this system.
+std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener);

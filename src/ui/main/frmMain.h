@@ -1,0 +1,84 @@
+#pragma once
+
+#include "ui/main/CourseList.h"
+
+#include <wx/frame.h>
+
+#include <cstdint>
+#include <optional>
+
+class ListView;
+class wxButton;
+class wxChoice;
+class wxKeyEvent;
+class wxPanel;
+class wxSizer;
+class wxStaticText;
+class wxTextCtrl;
+
+/// The main window: filter boxes, course list, semester sums, and the way out that saves.
+class frmMain : public wxFrame
+{
+public:
+    frmMain();
+
+    /// Loads and checks the tables, fills the window and shows it; once. @throws RuntimeError
+    void Form_Load();
+
+    /// Rebuilds the course list from the tables and the filter boxes.
+    void RefreshListView();
+
+private:
+    // Layout
+    wxSizer* FilterRow();
+    wxSizer* CommandColumn();
+    void BindEvents();
+
+    // Lists and filter boxes
+    void SetupKolegijiColumns();
+    void SetupStatistikaColumns();
+    void FillRazinaCombo();
+    void FillProgramCombo();
+    void FillSmjerCombo();
+    void FillSemestarCombo();
+    CourseFilter CurrentFilter() const;
+    void RefreshStatistika();
+    void RefreshGrids();
+
+    // Events
+    void cboRazina_Click();
+    void cboProgram_Click();
+    void txtSearch_KeyDown(wxKeyEvent& key);
+    bool lvwKolegiji_KeyDown(const wxKeyEvent& key);
+    void cmdDelete_Click();
+    void cmdExit_Click();
+    void Form_Unload();
+
+    /// The ID in the selected row's first column, none without a selection.
+    std::optional<std::int32_t> SelectedKolegijID() const;
+    void UnloadOtherWindows();
+
+    bool FormReady = false; ///< False until the filter boxes are filled: no list is filled before.
+    bool Unloading = false;
+
+    // Controls
+    wxPanel* Panel;
+    wxChoice* cboRazina;
+    wxChoice* cboProgram;
+    wxChoice* cboSmjer;
+    wxChoice* cboSemestar;
+    wxStaticText* Label1;
+    wxTextCtrl* txtSearch;
+    ListView* lvwKolegiji;
+    ListView* lvwStatistika;
+    wxButton* cmdAdd;
+    wxButton* cmdEdit;
+    wxButton* cmdDelete;
+    wxButton* cmdStatNositelji;
+    wxButton* cmdStatZavodi;
+    wxButton* cmdExport;
+    wxButton* cmdExportVarlo;
+    wxButton* cmdECTSCalc;
+    wxButton* cmdAbout;
+    wxButton* cmdExit;
+};

@@ -1,0 +1,77 @@
+#include "support/TestFolder.h"
+
+#include "data/Files.h"
+#include "data/System.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <stdexcept>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
+namespace fs = std::filesystem;
+
+TestFolder::TestFolder() : FormerLocalAppData(System::EnvironmentVariable("LOCALAPPDATA"))
+{
+    std::random_device random;
+    Folder =
+        fs::temp_directory_path() / ("varlo-" + std::to_string(random()) + "-" + std::to_string(random()));
+    fs::create_directories(Data());
+    SetEnvironment("LOCALAPPDATA", PathOf(""));
+}
+
+TestFolder::~TestFolder()
+{
+    SetEnvironment("LOCALAPPDATA", FormerLocalAppData);
+    std::error_code ignored;
+    fs::remove_all(Folder, ignored);
+}
+
+std::string TestFolder::PathOf(std::string_view name) const
+{
+    const std::u8string path = (name.empty() ? Folder : Folder / ToPath(name)).u8string();
+    return {path.begin(), path.end()};
+}
+
+void SetEnvironment(const char* name, const std::string& value)
+{
+#ifdef _WIN32
+    const std::wstring wideName = ToPath(name).wstring();
+    SetEnvironmentVariableW(wideName.c_str(), value.empty() ? nullptr : ToPath(value).c_str());
+#else
+    if (value.empty())
+        ::unsetenv(name);
+    else
+        ::setenv(name, value.c_str(), 1);
+#endif
+}
+
+std::string ReadBytes(const fs::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream)
+        throw std::runtime_error("cannot read " + file.string());
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+void WriteBytes(const fs::path& file, std::string_view bytes)
+{
+    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (!stream.flush())
+        throw std::runtime_error("cannot write " + file.string());
+}
+
+std::vector<std::string> EntriesOf(const fs::path& folder)
+{
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+        names.push_back(entry.path().filename().string());
+    std::ranges::sort(names);
+    return names;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// A folder of its own for one test, gone with it. While it lives, LOCALAPPDATA names it, so that the
+/// program's data folder lies in it.
+class TestFolder
+{
+public:
+    TestFolder();
+    ~TestFolder();
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+
+    const std::filesystem::path& Path() const { return Folder; }
+
+    /// The program's data folder, "Varlostudiji" in this one; it exists.
+    std::filesystem::path Data() const { return Folder / "Varlostudiji"; }
+
+    /// The path of a file of this folder as the program takes it: UTF-8 text.
+    std::string PathOf(std::string_view name) const;
+
+private:
+    std::filesystem::path Folder;
+    std::string FormerLocalAppData;
+};
+
+/// Sets an environment variable for this process; empty removes it.
+void SetEnvironment(const char* name, const std::string& value);
+
+std::string ReadBytes(const std::filesystem::path& file);
+void WriteBytes(const std::filesystem::path& file, std::string_view bytes);
+
+/// The names of the entries of a folder, sorted.
+std::vector<std::string> EntriesOf(const std::filesystem::path& folder);

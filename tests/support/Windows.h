@@ -1,0 +1,116 @@
+#pragma once
+
+#include "ui/controls/ListView.h"
+#include "ui/controls/SaveDialog.h"
+
+#include <wx/choice.h>
+#include <wx/modalhook.h>
+#include <wx/toplevel.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Driving real windows from a test: finding controls, typing, choosing, and answering message boxes.
+
+/// Lets the event loop deal with what is waiting, until it is idle.
+void Settle();
+
+/// A control of a window by its name in the code; the test fails by an exception when there is none.
+template<typename Control>
+Control* Find(wxWindow* window, const wxString& name)
+{
+    auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, window));
+    if (control == nullptr)
+        throw std::runtime_error("no control " + name.utf8_string());
+    return control;
+}
+
+/// An open top-level window by its class; null when there is none.
+template<typename Window>
+Window* FindOpen()
+{
+    for (wxWindow* window : wxTopLevelWindows)
+        if (auto* found = dynamic_cast<Window*>(window); found != nullptr && !found->IsBeingDeleted())
+            return found;
+    return nullptr;
+}
+
+/// Chooses an entry of a drop-down list as the user does, the event included.
+void Choose(wxChoice* box, const wxString& entry);
+
+/// Presses a button as the mouse does, the event included; a disabled one does nothing.
+void Press(wxWindow* window, const wxString& buttonName);
+
+/// Gives a control the focus, unless it or a control in it has it.
+void Focus(wxWindow* control);
+
+/// Gives a control the focus and types a key into it.
+void PressKey(wxWindow* control, int keyCode, int modifiers = 0);
+
+/// Gives a control the focus and types a text of ASCII characters into it.
+void Type(wxWindow* control, const char* text);
+
+/// The entries of a drop-down list or list box.
+std::vector<std::string> EntriesOfBox(const wxItemContainer* box);
+
+/// The texts of a column of a list, top to bottom.
+std::vector<std::string> ColumnTexts(const ListView* list, int column);
+
+/// Closes every open window without asking and waits until they are gone.
+void CloseAllWindows();
+
+/// What a message box said.
+struct MessageShown
+{
+    std::string Text;
+    std::string Title;
+    long Style; ///< The icon and the buttons, as wxMessageDialog has them.
+
+    bool Has(long style) const { return (Style & style) == style; }
+};
+
+/// While it lives, message boxes are answered at once and remembered.
+class MessageAnswers : public wxModalDialogHook
+{
+public:
+    /// `answer` is what every box is answered with: wxID_OK, wxID_YES, wxID_NO.
+    explicit MessageAnswers(int answer = wxID_OK) : Answer(answer) { Register(); }
+    ~MessageAnswers() override { Unregister(); }
+
+    const std::vector<MessageShown>& Shown() const { return Messages; }
+
+    /// The one message shown since the last call; the test fails when there was none, or more than one.
+    MessageShown TakeOnly();
+
+protected:
+    int Enter(wxDialog* dialog) override;
+
+private:
+    int Answer;
+    std::vector<MessageShown> Messages;
+};
+
+/// While it lives, Save dialogs are answered with a path, or cancelled, and their options are remembered.
+class SaveAnswers
+{
+public:
+    explicit SaveAnswers(std::optional<std::string> path);
+    ~SaveAnswers();
+    SaveAnswers(const SaveAnswers&) = delete;
+    SaveAnswers& operator=(const SaveAnswers&) = delete;
+
+    const std::vector<SaveDialogOptions>& Shown() const { return Options; }
+
+private:
+    std::vector<SaveDialogOptions> Options;
+};
+
+/// What went wrong in an event handler since the last call, as the user would be told; empty when nothing
+/// did. An error that nothing catches ends the real program; a window test notes it here instead.
+std::string TakeUncaughtError();
+void NoteUncaughtError(std::string text);

@@ -1,0 +1,51 @@
+// The application of the window tests.
+
+#include "data/Errors.h"
+#include "support/Windows.h"
+
+#include <wx/app.h>
+#include <wx/evtloop.h>
+
+namespace
+{
+
+/// The application of the window tests: runs the tests inside an event loop.
+class TestApp : public wxApp
+{
+public:
+    bool OnInit() override { return true; }
+
+    int OnRun() override
+    {
+        SetExitOnFrameDelete(false);
+        wxGUIEventLoop loop;
+        const wxEventLoopActivator active(&loop);
+        return RUN_ALL_TESTS();
+    }
+
+    bool OnExceptionInMainLoop() override
+    {
+        try
+        {
+            throw;
+        }
+        catch (const RuntimeError& error)
+        {
+            NoteUncaughtError(std::to_string(error.Number()) + ": " + error.Description());
+        }
+        catch (const std::exception& error)
+        {
+            NoteUncaughtError(error.what());
+        }
+        return true;
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    wxApp::SetInstance(new TestApp);
+    return wxEntry(argc, argv);
+}

@@ -1,0 +1,61 @@
+// The program itself, but for two things: what its message boxes say goes to standard output and each is
+// answered at once, and when the main window stands, the window is left as VARLO_LEAVE_BY says: by the "exit"
+// button or by its "close" box.
+
+#include "data/System.h"
+#include "support/Windows.h"
+#include "ui/app/VarlostudijiApp.h"
+#include "ui/main/frmMain.h"
+
+#include <wx/button.h>
+
+#include <cstdio>
+
+namespace
+{
+
+class PrintingAnswers : public MessageAnswers
+{
+protected:
+    int Enter(wxDialog* dialog) override
+    {
+        const int answer = MessageAnswers::Enter(dialog);
+        const MessageShown shown = TakeOnly();
+        std::printf("%s|%s|%s\n", shown.Title.c_str(), shown.Has(wxICON_ERROR) ? "critical" : "other",
+                    shown.Text.c_str());
+        std::fflush(stdout);
+        return answer;
+    }
+};
+
+class ScriptedApp : public VarlostudijiApp
+{
+public:
+    bool OnInit() override
+    {
+        if (!VarlostudijiApp::OnInit())
+            return false;
+        CallAfter([this] { Leave(); });
+        return true;
+    }
+
+private:
+    void Leave()
+    {
+        auto* window = FindOpen<frmMain>();
+        if (System::EnvironmentVariable("VARLO_LEAVE_BY") == "close")
+        {
+            window->Close();
+            return;
+        }
+        auto* button = Find<wxButton>(window, "cmdExit");
+        wxCommandEvent press(wxEVT_BUTTON, button->GetId());
+        button->ProcessWindowEvent(press);
+    }
+
+    PrintingAnswers Answers;
+};
+
+} // namespace
+
+wxIMPLEMENT_APP_CONSOLE(ScriptedApp);
