@@ -7,6 +7,14 @@
 #include <algorithm>
 #include <cstring>
 
+namespace
+{
+
+/// The line of a row that was entered in the program.
+constexpr std::uint32_t EnteredLine = 0;
+
+} // namespace
+
 std::string TableLayout::Header() const
 {
     std::string header;
@@ -49,9 +57,14 @@ void Table::Append(std::span<const std::string_view> fields, std::uint32_t line)
     ForgetIndexes();
 }
 
-void Table::Replace(std::size_t position, std::span<const std::string_view> fields)
+void Table::Append(const std::vector<std::string>& fields)
 {
-    Rows[position] = NewRow(fields, 0);
+    Append(std::vector<std::string_view>(fields.begin(), fields.end()), EnteredLine);
+}
+
+void Table::Replace(std::size_t position, const std::vector<std::string>& fields)
+{
+    Rows[position] = NewRow(std::vector<std::string_view>(fields.begin(), fields.end()), EnteredLine);
     ForgetIndexes();
 }
 
@@ -67,12 +80,18 @@ void Table::RemoveMatches(std::size_t column, std::int32_t number)
 
 const Row* Table::FindFirst(std::size_t column, std::int32_t number) const
 {
+    const std::optional<std::size_t> position = FindPosition(column, number);
+    return position ? &Rows[*position] : nullptr;
+}
+
+std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t number) const
+{
     const ColumnIndex& index = IndexOf(column);
     const std::uint32_t position = index.First(number);
     if (position != ColumnIndex::None)
-        return &Rows[position];
+        return position;
     RequireCovered(index, column);
-    return nullptr;
+    return std::nullopt;
 }
 
 Row Table::NewRow(std::span<const std::string_view> fields, std::uint32_t line)

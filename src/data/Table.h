@@ -56,11 +56,14 @@ public:
     auto begin() const { return Rows.begin(); }
     auto end() const { return Rows.end(); }
 
-    /// Adds a row behind the last one; `line` is its line in the file, 0 when no file holds it yet.
-    void Append(std::span<const std::string_view> fields, std::uint32_t line = 0);
+    /// Adds a row of the file behind the last one; `line` is its line there.
+    void Append(std::span<const std::string_view> fields, std::uint32_t line);
 
-    /// Puts a new row in the place of the one at a position.
-    void Replace(std::size_t position, std::span<const std::string_view> fields);
+    /// Adds a row that no file holds yet behind the last one.
+    void Append(const std::vector<std::string>& fields);
+
+    /// Puts a new row, which no file holds yet, in the place of the one at a position.
+    void Replace(std::size_t position, const std::vector<std::string>& fields);
 
     /// Removes every row that holds the number in the column.
     /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row that cannot be compared; then none is
@@ -70,6 +73,9 @@ public:
     /// The first row that holds the number in the column; null when there is none.
     /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row before it that cannot be compared
     const Row* FindFirst(std::size_t column, std::int32_t number) const;
+
+    /// The position of the row that FindFirst gives. @throws as FindFirst
+    std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number) const;
 
     /// Calls `test` with each row that holds the number in the column, in table order, until one answers
     /// true; returns whether one did. @throws as FindFirst, once the rows before the faulty one are tested

@@ -132,3 +132,11 @@ void AppendJoined(std::string& list, std::string_view separator, std::string_vie
         list += separator;
     list += item;
 }
+
+std::string Joined(const std::vector<std::string>& texts, std::string_view separator)
+{
+    std::string joined;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        joined.append(i == 0 ? std::string_view() : separator).append(texts[i]);
+    return joined;
+}

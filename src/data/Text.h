@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The text without blanks (U+0020, no other white space) at both ends.
 std::string_view TrimBlanks(std::string_view text);
@@ -20,3 +21,6 @@ void AppendCodePoint(std::string& text, char32_t character);
 
 /// Appends an item to a list in one text: the separator only where something stands before it.
 void AppendJoined(std::string& list, std::string_view separator, std::string_view item);
+
+/// The texts with the separator between them, after empty ones too.
+std::string Joined(const std::vector<std::string>& texts, std::string_view separator);

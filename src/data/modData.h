@@ -89,6 +89,12 @@ namespace modData
 inline constexpr std::string_view Preddiplomski = "Preddiplomski";
 inline constexpr std::string_view Diplomski = "Diplomski";
 
+/// The last semester of a level: 4 for "Diplomski", 6 for any other.
+constexpr int LastSemestar(std::string_view razina)
+{
+    return razina == Diplomski ? 4 : 6;
+}
+
 extern Table Zavodi;
 extern Table Nastavnici;
 extern Table Studiji;

@@ -4,22 +4,47 @@
 
 #include <wx/ctrlsub.h>
 
-#include <cstdint>
-
 void FillChoices(wxItemContainer& box, const std::vector<Choice>& choices)
 {
-    box.Clear();
+    wxArrayString texts;
+    std::vector<void*> data;
     for (const Choice& choice : choices)
-        box.Append(ToWx(choice.Text), reinterpret_cast<void*>(static_cast<std::intptr_t>(choice.Data)));
-    if (!choices.empty())
+    {
+        texts.push_back(ToWx(choice.Text));
+        data.push_back(reinterpret_cast<void*>(static_cast<std::intptr_t>(choice.Data)));
+    }
+    if (texts.empty())
+        box.Clear();
+    else
+        box.Set(texts, data.data());
+}
+
+void SelectFirst(wxItemContainer& box)
+{
+    if (!box.IsEmpty())
         box.SetSelection(0);
+}
+
+bool SelectData(wxItemContainer& box, std::int32_t data)
+{
+    const int count = static_cast<int>(box.GetCount());
+    for (int position = 0; position < count; ++position)
+        if (DataAt(box, position) == data)
+        {
+            box.SetSelection(position);
+            return true;
+        }
+    return false;
+}
+
+std::int32_t DataAt(const wxItemContainer& box, int position)
+{
+    return static_cast<std::int32_t>(
+        reinterpret_cast<std::intptr_t>(box.GetClientData(static_cast<unsigned>(position))));
 }
 
 std::int32_t SelectedData(const wxItemContainer& box)
 {
     const int selected = box.GetSelection();
-    if (selected == wxNOT_FOUND)
-        return 0;
-    return static_cast<std::int32_t>(
-        reinterpret_cast<std::intptr_t>(box.GetClientData(static_cast<unsigned>(selected))));
+    return selected == wxNOT_FOUND ? 0 : DataAt(box, selected);
 }

@@ -7,8 +7,19 @@
 
 class wxItemContainer;
 
-/// Replaces the entries of a combo box or list box and selects the first one, if there is one.
+// Combo boxes and list boxes whose entries carry a number. Selecting an entry here raises no event.
+
+/// Replaces the entries; none is selected then.
 void FillChoices(wxItemContainer& box, const std::vector<Choice>& choices);
+
+/// Selects the first entry, if there is one.
+void SelectFirst(wxItemContainer& box);
+
+/// Selects the first entry with the number, beside others in a multi-select list; false when there is none.
+bool SelectData(wxItemContainer& box, std::int32_t data);
+
+/// The number of the entry at a position.
+std::int32_t DataAt(const wxItemContainer& box, int position);
 
 /// The number of the selected entry; 0 when none is selected.
 std::int32_t SelectedData(const wxItemContainer& box);

@@ -91,15 +91,10 @@ std::string GetSmjeroviForKolegijString(std::int32_t kolegijID)
 
 std::string GetNastavniciForKolegijString(std::int32_t kolegijID)
 {
-    std::string joined;
-    bool isFirst = true;
+    std::vector<std::string> names;
     for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
-    {
-        if (!std::exchange(isFirst, false))
-            joined += ", ";
-        joined += placed.Nastavnik.Field(Nastavnik::PrezimeIme);
-    }
-    return joined;
+        names.emplace_back(placed.Nastavnik.Field(Nastavnik::PrezimeIme));
+    return Joined(names, ", ");
 }
 
 std::string GetNositelji123String(std::int32_t kolegijID)

@@ -1,17 +1,24 @@
 #include "ui/main/frmMain.h"
 
+#include "data/Errors.h"
+#include "data/Lookups.h"
 #include "data/Numbers.h"
 #include "data/Text.h"
 #include "data/modData.h"
+#include "lists/TableChoices.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/ListView.h"
 #include "ui/controls/Messages.h"
+#include "ui/controls/SaveDialog.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
+#include "ui/course_editor/frmKolegij.h"
+#include "ui/main/CatalogueExport.h"
 #include "ui/main/CourseDeletion.h"
 #include "ui/main/FilterChoices.h"
+#include "ui/main/SemesterStatistics.h"
 #include "validation/modCSVValidator.h"
 
 #include <wx/button.h>
@@ -22,6 +29,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -41,6 +49,53 @@ constexpr ListColumn StatistikaColumns[] = {
 const wxSize InitialSize = {1120, 720}; // at 96 dots to the inch
 const wxSize SmallestSize = {760, 560};
 
+std::string ChosenText(const wxChoice* box)
+{
+    return ToUtf8(box->GetStringSelection());
+}
+
+/// What a Save command of this window asks and says.
+struct ExportTexts
+{
+    std::string_view DialogTitle;
+    std::string_view Success;
+    std::string_view ErrorPrefix;
+};
+
+constexpr ExportTexts StatistikaTexts = {"Spremi statistiku (CSV)",
+                                         "Statistika exportirana u:", "Greška pri izvozu: "};
+constexpr ExportTexts KolegijiTexts = {"Spremi export (CSV)", "Export završen:", "Greška pri exportu: "};
+
+constexpr std::string_view InvalidData =
+    "CSV podaci nisu ispravni. Ispravite greške prije izvoza statistike.";
+
+/// Asks for a path, writes by `write` and says where; nothing when the user cancels.
+void SaveAndTell(wxWindow* parent, const ExportTexts& texts, std::string proposedName,
+                 const std::function<void(const std::string& path)>& write)
+{
+    SaveDialogOptions options;
+    options.Title = texts.DialogTitle;
+    options.ProposedName = std::move(proposedName);
+    const std::optional<std::string> path = ShowSaveDialog(parent, options);
+    if (!path)
+        return;
+    write(*path);
+    ShowInformation(parent, std::string(texts.Success) + "\r\n" + *path);
+}
+
+/// Runs a whole export command; an error met anywhere in it is told to the user, and the program goes on.
+void RunTrapped(wxWindow* parent, const ExportTexts& texts, const std::function<void()>& command)
+{
+    try
+    {
+        command();
+    }
+    catch (const RuntimeError& error)
+    {
+        ShowCritical(parent, std::string(texts.ErrorPrefix) + error.Description());
+    }
+}
+
 } // namespace
 
 frmMain::frmMain()
@@ -55,9 +110,9 @@ frmMain::frmMain()
     auto* lists = new wxBoxSizer(wxVERTICAL);
     lists->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
     lvwKolegiji = new ListView(Panel, "lvwKolegiji");
-    lists->Add(lvwKolegiji, wxSizerFlags(3).Expand().Border(wxBOTTOM, Gap(this)));
+    lists->Add(lvwKolegiji, wxSizerFlags(1).Expand().Border(wxBOTTOM, Gap(this)));
     lvwStatistika = new ListView(Panel, "lvwStatistika");
-    lists->Add(lvwStatistika, wxSizerFlags(2).Expand());
+    lists->Add(lvwStatistika, whole);
 
     auto* content = new wxBoxSizer(wxHORIZONTAL);
     content->Add(lists, whole);
@@ -164,16 +219,22 @@ void frmMain::BindEvents()
     txtSearch->Bind(wxEVT_KEY_DOWN, &frmMain::txtSearch_KeyDown, this);
 
     lvwKolegiji->OnColumnClick([this](int column) { SortListViewByColumn(*lvwKolegiji, column); });
+    lvwKolegiji->OnActivate([this] { cmdEdit_Click(); });
     lvwKolegiji->OnKey([this](const wxKeyEvent& key) { return lvwKolegiji_KeyDown(key); });
     lvwStatistika->OnColumnClick([this](int column) { SortListViewByColumn(*lvwStatistika, column); });
 
-    cmdDelete->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdDelete_Click(); });
-    cmdExit->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExit_Click(); });
+    const auto onPress = [this](wxButton* button, void (frmMain::*handler)())
+    { button->Bind(wxEVT_BUTTON, [this, handler](wxCommandEvent&) { (this->*handler)(); }); };
+    onPress(cmdAdd, &frmMain::cmdAdd_Click);
+    onPress(cmdEdit, &frmMain::cmdEdit_Click);
+    onPress(cmdDelete, &frmMain::cmdDelete_Click);
+    onPress(cmdExport, &frmMain::cmdExport_Click);
+    onPress(cmdExportVarlo, &frmMain::cmdExportVarlo_Click);
+    onPress(cmdExit, &frmMain::cmdExit_Click);
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Form_Unload(); });
 
-    // Their windows and files are not there yet.
-    for (wxButton* button :
-         {cmdAdd, cmdEdit, cmdStatNositelji, cmdStatZavodi, cmdExport, cmdExportVarlo, cmdECTSCalc, cmdAbout})
+    // Their windows are not there yet.
+    for (wxButton* button : {cmdStatNositelji, cmdStatZavodi, cmdECTSCalc, cmdAbout})
         button->Disable();
 }
 
@@ -210,11 +271,13 @@ void frmMain::SetupStatistikaColumns()
 void frmMain::FillRazinaCombo()
 {
     FillChoices(*cboRazina, RazinaChoices());
+    SelectFirst(*cboRazina);
 }
 
 void frmMain::FillProgramCombo()
 {
-    FillChoices(*cboProgram, ProgramChoices(ToUtf8(cboRazina->GetStringSelection())));
+    FillChoices(*cboProgram, StudijChoices(ChosenText(cboRazina), RazinaMatch::Exact));
+    SelectFirst(*cboProgram);
 }
 
 void frmMain::FillSmjerCombo()
@@ -222,12 +285,14 @@ void frmMain::FillSmjerCombo()
     std::optional<std::int32_t> studijID;
     if (cboProgram->GetSelection() != wxNOT_FOUND)
         studijID = SelectedData(*cboProgram);
-    FillChoices(*cboSmjer, SmjerChoices(studijID));
+    FillChoices(*cboSmjer, SmjerFilterChoices(studijID));
+    SelectFirst(*cboSmjer);
 }
 
 void frmMain::FillSemestarCombo()
 {
-    FillChoices(*cboSemestar, SemestarChoices(ToUtf8(cboRazina->GetStringSelection())));
+    FillChoices(*cboSemestar, SemestarFilterChoices(ChosenText(cboRazina)));
+    SelectFirst(*cboSemestar);
 }
 
 CourseFilter frmMain::CurrentFilter() const
@@ -235,7 +300,7 @@ CourseFilter frmMain::CurrentFilter() const
     CourseFilter filter;
     filter.StudijID = SelectedData(*cboProgram);
     filter.SmjerID = SelectedData(*cboSmjer);
-    const std::string semestar = ToUtf8(cboSemestar->GetStringSelection());
+    const std::string semestar = ChosenText(cboSemestar);
     if (!TrimBlanks(semestar).empty() && semestar != Svi)
         filter.Semestar = ToLong(semestar);
     filter.Search = ToUtf8(txtSearch->GetValue());
@@ -252,6 +317,12 @@ void frmMain::RefreshListView()
 void frmMain::RefreshStatistika()
 {
     lvwStatistika->SetRows({});
+    if (!FormReady)
+        return;
+    CourseFilter filter = CurrentFilter();
+    if (ChosenText(cboSmjer) == Svi) // whatever number goes with it
+        filter.SmjerID = 0;
+    lvwStatistika->SetRows(StatistikaRows(filter, ChosenText(cboRazina)));
 }
 
 void frmMain::RefreshGrids()
@@ -287,9 +358,15 @@ void frmMain::txtSearch_KeyDown(wxKeyEvent& key)
 
 bool frmMain::lvwKolegiji_KeyDown(const wxKeyEvent& key)
 {
-    if (key.GetKeyCode() != WXK_DELETE)
+    const int code = key.GetKeyCode();
+    if ((key.ControlDown() && code == 'N') || code == WXK_INSERT || code == WXK_NUMPAD_INSERT)
+        cmdAdd_Click();
+    else if (code == WXK_DELETE || code == WXK_NUMPAD_DELETE)
+        cmdDelete_Click();
+    else if (code == WXK_RETURN || code == WXK_NUMPAD_ENTER || code == WXK_F2)
+        cmdEdit_Click();
+    else
         return false;
-    cmdDelete_Click();
     return true;
 }
 
@@ -301,6 +378,33 @@ std::optional<std::int32_t> frmMain::SelectedKolegijID() const
     return ToLong(lvwKolegiji->Cell(row, 0).Text);
 }
 
+void frmMain::cmdAdd_Click()
+{
+    frmKolegij editor(this);
+    editor.Mode = "ADD";
+    editor.StartRazina = ChosenText(cboRazina);
+    editor.StartStudijID = SelectedData(*cboProgram);
+    editor.ShowModal();
+    RefreshGrids();
+}
+
+void frmMain::cmdEdit_Click()
+{
+    const std::optional<std::int32_t> id = SelectedKolegijID();
+    if (!id)
+        return;
+    frmKolegij editor(this);
+    editor.Mode = "EDIT";
+    editor.EditKolegijID = *id;
+    if (const Row* kolegij = modData::Kolegiji.FindFirst(Kolegij::ID, *id))
+    {
+        editor.StartStudijID = kolegij->Number(Kolegij::StudijID);
+        editor.StartRazina = modData::GetStudijRazina(editor.StartStudijID);
+    }
+    editor.ShowModal();
+    RefreshGrids();
+}
+
 void frmMain::cmdDelete_Click()
 {
     const std::optional<std::int32_t> id = SelectedKolegijID();
@@ -310,11 +414,50 @@ void frmMain::cmdDelete_Click()
     RefreshGrids();
 }
 
+void frmMain::cmdExport_Click()
+{
+    RunTrapped(this, StatistikaTexts,
+               [this]
+               {
+                   if (!modCSVValidator::ValidateAll())
+                   {
+                       ShowCritical(this, InvalidData);
+                       return;
+                   }
+                   SaveAndTell(this, StatistikaTexts, StatistikaFileName(ShownFilters()),
+                               [this](const std::string& path) { ExportStatistika_SelectedToCSV(path); });
+               });
+}
+
+void frmMain::cmdExportVarlo_Click()
+{
+    RunTrapped(this, KolegijiTexts,
+               [this] { SaveAndTell(this, KolegijiTexts, "kolegiji_export.csv", ExportKolegijiToCSV); });
+}
+
+void frmMain::ExportStatistika_SelectedToCSV(std::string_view path)
+{
+    RefreshGrids();
+    std::vector<std::vector<std::string>> rows;
+    for (int row = 0; row < lvwStatistika->RowCount(); ++row)
+    {
+        rows.emplace_back();
+        for (int column = 0; column < lvwStatistika->ColumnCount(); ++column)
+            rows.back().push_back(lvwStatistika->Cell(row, column).Text);
+    }
+    WriteStatistika(path, ShownFilters(), rows);
+}
+
+StatistikaFilters frmMain::ShownFilters() const
+{
+    return {ChosenText(cboRazina), ChosenText(cboProgram), ChosenText(cboSmjer), ChosenText(cboSemestar)};
+}
+
 void frmMain::cmdExit_Click()
 {
     if (!modCSVValidator::ValidateAll())
     {
-        ShowCritical(this, "CSV podaci nisu ispravni. Ispravite greške prije izvoza statistike.");
+        ShowCritical(this, InvalidData);
         return;
     }
     modData::SaveAllTables();

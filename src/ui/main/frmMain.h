@@ -1,11 +1,13 @@
 #pragma once
 
 #include "ui/main/CourseList.h"
+#include "ui/main/StatistikaExport.h"
 
 #include <wx/frame.h>
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 class ListView;
 class wxButton;
@@ -28,6 +30,9 @@ public:
     /// Rebuilds the course list from the tables and the filter boxes.
     void RefreshListView();
 
+    /// Writes the semester sums as they are shown, rebuilt first. @throws RuntimeError; an older file stays
+    void ExportStatistika_SelectedToCSV(std::string_view path);
+
 private:
     // Layout
     wxSizer* FilterRow();
@@ -42,6 +47,7 @@ private:
     void FillSmjerCombo();
     void FillSemestarCombo();
     CourseFilter CurrentFilter() const;
+    StatistikaFilters ShownFilters() const;
     void RefreshStatistika();
     void RefreshGrids();
 
@@ -50,7 +56,11 @@ private:
     void cboProgram_Click();
     void txtSearch_KeyDown(wxKeyEvent& key);
     bool lvwKolegiji_KeyDown(const wxKeyEvent& key);
+    void cmdAdd_Click();
+    void cmdEdit_Click();
     void cmdDelete_Click();
+    void cmdExport_Click();
+    void cmdExportVarlo_Click();
     void cmdExit_Click();
     void Form_Unload();
 

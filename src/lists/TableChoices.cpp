@@ -1,0 +1,58 @@
+#include "lists/TableChoices.h"
+
+#include "data/Text.h"
+#include "data/modData.h"
+
+namespace
+{
+
+Choice ChoiceOf(const Row& row, std::size_t textColumn)
+{
+    constexpr std::size_t idColumn = 0; // of every table that has an ID
+    return {std::string(row.Field(textColumn)), row.Number(idColumn)};
+}
+
+} // namespace
+
+std::vector<Choice> RazinaChoices()
+{
+    return {{std::string(modData::Preddiplomski)}, {std::string(modData::Diplomski)}};
+}
+
+std::vector<Choice> SemestarChoices(std::string_view razina)
+{
+    std::vector<Choice> choices;
+    for (int semestar = 1; semestar <= modData::LastSemestar(razina); ++semestar)
+        choices.push_back({std::to_string(semestar), semestar});
+    return choices;
+}
+
+std::vector<Choice> StudijChoices(std::string_view razina, RazinaMatch match)
+{
+    const auto compared = [match](std::string_view text)
+    { return match == RazinaMatch::Trimmed ? TrimBlanks(text) : text; };
+
+    std::vector<Choice> choices;
+    for (const Row& studij : modData::Studiji)
+        if (compared(studij.Field(Studij::Razina)) == compared(razina))
+            choices.push_back(ChoiceOf(studij, Studij::Kratica));
+    return choices;
+}
+
+std::vector<Choice> SmjerChoices(std::int32_t studijID)
+{
+    std::vector<Choice> choices;
+    modData::Smjerovi.ForEachMatch(Smjer::StudijID, studijID,
+                                   [&](const Row& smjer)
+                                   { choices.push_back(ChoiceOf(smjer, Smjer::Kratica)); });
+    return choices;
+}
+
+std::vector<Choice> NastavnikChoices()
+{
+    std::vector<Choice> choices;
+    for (const Row& nastavnik : modData::Nastavnici)
+        if (!TrimBlanks(nastavnik.Field(Nastavnik::PrezimeIme)).empty())
+            choices.push_back(ChoiceOf(nastavnik, Nastavnik::PrezimeIme));
+    return choices;
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "lists/Choice.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+// Entries that boxes and lists offer; those from the tables in table order. Each throws TypeMismatch,
+// Overflow or SubscriptOutOfRange for a number that it needs and cannot read.
+
+/// The two levels of study.
+std::vector<Choice> RazinaChoices();
+
+/// The semesters that a level has, with their numbers: 1 to 4 for "Diplomski", 1 to 6 for any other.
+std::vector<Choice> SemestarChoices(std::string_view razina);
+
+/// How the level's text is compared with a study's.
+enum class RazinaMatch
+{
+    Exact,
+    Trimmed, ///< Blanks around either text do not count.
+};
+
+/// The studies of a level, by short name, with their IDs.
+std::vector<Choice> StudijChoices(std::string_view razina, RazinaMatch match);
+
+/// The directions of a study, by short name, with their IDs.
+std::vector<Choice> SmjerChoices(std::int32_t studijID);
+
+/// The lecturers whose name is not blank, with their IDs.
+std::vector<Choice> NastavnikChoices();

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "lists/ListRow.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+// The table of teaching load that every statistic shows: weekly hours, credits and number of courses per
+// semester and type, with totals per type and over all.
+
+/// A course's type, as the table counts it.
+enum class Tip : std::size_t
+{
+    Obvezni,
+    Izborni,
+};
+
+/// What one cell of the sums holds. All sums are 32-bit signed and checked.
+struct Load
+{
+    std::int32_t P = 0;
+    std::int32_t S = 0;
+    std::int32_t V = 0;
+    std::int32_t ECTS = 0;
+    std::int32_t Kolegija = 0; ///< How many courses.
+
+    /// Adds another load field by field. @throws Overflow
+    Load& operator+=(const Load& other);
+
+    /// The load that many times over. @throws Overflow
+    Load Times(std::int32_t weight) const;
+};
+
+inline constexpr int MostSemesters = 6;
+
+/// The sums per semester and type.
+class LoadSums
+{
+public:
+    /// Adds a course's load; a semester outside 1 to 6 is left out. @throws Overflow
+    void Add(std::int32_t semestar, Tip tip, const Load& load);
+
+    /// The sums of a semester from 1 to 6.
+    const Load& Of(int semestar, Tip tip) const;
+
+    /// The sums of a type over the semesters 1 to `last`. @throws Overflow
+    Load Total(Tip tip, int last) const;
+
+private:
+    std::array<std::array<Load, 2>, MostSemesters> Sums;
+};
+
+/// How a window words its totals, and whether it flags a semester's type with more than 30 ECTS.
+struct LoadTableStyle
+{
+    std::string_view TypeTotal;  ///< First cell of the rows of both types.
+    std::string_view GrandTotal; ///< First cell of the last row.
+    std::string_view AllTypes;   ///< Second cell of the last row.
+    bool FlagsOverfull;
+};
+
+inline constexpr LoadTableStyle FlaggingStyle = {"UKUPNO", "TOTAL", "Sve", true};
+inline constexpr LoadTableStyle PlainStyle = {"Ukupno", "Ukupno", "Total", false};
+
+/// Which semesters have rows: 1 to `Last`, or `Only` one of them. The totals cover 1 to `Last` all the same.
+struct SemesterRange
+{
+    int Last = MostSemesters;
+    int Only = 0; ///< 0 for all.
+};
+
+/// The table's rows: per semester the compulsory and the elective sums, then three bold rows of totals.
+/// Cells: semester, type, P, S, V, ECTS, number of courses; the ECTS of an overfull row are red. @throws
+/// Overflow
+std::vector<ListRow> LoadRows(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range = {});

@@ -1,0 +1,59 @@
+#include "ui/main/SemesterStatistics.h"
+
+#include "data/Numbers.h"
+#include "data/Text.h"
+#include "data/modData.h"
+#include "statistics/LoadTable.h"
+
+namespace
+{
+
+bool Passes(const Row& kolegij, std::int32_t semestar, const CourseFilter& filter, std::string_view search)
+{
+    return (filter.StudijID == 0 || kolegij.Number(Kolegij::StudijID) == filter.StudijID) &&
+           (filter.Semestar == 0 || semestar == filter.Semestar) && MatchesSearch(kolegij, search);
+}
+
+Load LoadOf(const Row& kolegij)
+{
+    return {.P = ParseWholeOrZero(kolegij.Field(Kolegij::P)),
+            .S = ParseWholeOrZero(kolegij.Field(Kolegij::S)),
+            .V = ParseWholeOrZero(kolegij.Field(Kolegij::V)),
+            .ECTS = ParseWholeOrZero(kolegij.Field(Kolegij::ECTS)),
+            .Kolegija = 1};
+}
+
+} // namespace
+
+std::vector<ListRow> StatistikaRows(const CourseFilter& filter, std::string_view razina)
+{
+    const int last = modData::LastSemestar(razina);
+    const std::string search = SearchKey(filter.Search);
+    LoadSums sums;
+    for (const Row& kolegij : modData::Kolegiji)
+    {
+        const std::int32_t id = kolegij.Number(Kolegij::ID);
+        const std::int32_t semestar = kolegij.Number(Kolegij::Semestar);
+        if (!Passes(kolegij, semestar, filter, search) || semestar < 1 || semestar > last)
+            continue;
+        const Tip tip = IsWord(kolegij.Field(Kolegij::Tip), "OBVEZNI") ? Tip::Obvezni : Tip::Izborni;
+        const std::int32_t weight = CountKolegijSmjerLinks(id, filter.SmjerID);
+        if (weight > 0)
+            sums.Add(semestar, tip, LoadOf(kolegij).Times(weight));
+    }
+    return LoadRows(sums, FlaggingStyle, {.Last = last, .Only = filter.Semestar});
+}
+
+std::int32_t CountKolegijSmjerLinks(std::int32_t kolegijID, std::int32_t smjerID)
+{
+    if (smjerID != 0)
+        return KolegijHasSmjer(kolegijID, smjerID) ? 1 : 0;
+    std::int32_t count = 0;
+    modData::KolegijSmjerovi.ForEachMatch(KolegijSmjer::KolegijID, kolegijID, [&](const Row&) { ++count; });
+    return count;
+}
+
+std::int32_t ParseWholeOrZero(std::string_view text)
+{
+    return IsNumeric(text) ? ToLong(text) : 0;
+}

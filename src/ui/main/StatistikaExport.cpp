@@ -1,0 +1,53 @@
+#include "ui/main/StatistikaExport.h"
+
+#include "data/Files.h"
+#include "data/Text.h"
+
+#include <algorithm>
+
+void WriteStatistika(std::string_view path, const StatistikaFilters& filters,
+                     const std::vector<std::vector<std::string>>& rows)
+{
+    TextFile file;
+    file.AddLine("sep=;");
+    file.AddLine("Razina;" + CsvQuote(filters.Razina));
+    file.AddLine("Program;" + CsvQuote(filters.Program));
+    file.AddLine("Smjer;" + CsvQuote(filters.Smjer));
+    file.AddLine("Semestar;" + CsvQuote(filters.Semestar));
+    file.AddLine("");
+    file.AddLine("Semestar;Tip;P;S;V;ECTS;Kolegija");
+    for (const std::vector<std::string>& row : rows)
+    {
+        std::vector<std::string> quoted(row.size());
+        std::ranges::transform(row, quoted.begin(), CsvQuote);
+        file.AddLine(Joined(quoted, ";"));
+    }
+    file.SaveAs(path);
+}
+
+std::string StatistikaFileName(const StatistikaFilters& filters)
+{
+    std::string name = "statistika";
+    for (const std::string& part : {filters.Razina, filters.Program, filters.Smjer, filters.Semestar})
+        name.append("_").append(SanitizeFileNamePart(part));
+    return name + ".csv";
+}
+
+std::string CsvQuote(std::string_view text)
+{
+    if (text.find_first_of(",\"\r\n") == std::string_view::npos)
+        return std::string(text);
+    std::string quoted = "\"";
+    for (const char c : text)
+        quoted.append(c == '"' ? 2 : 1, c);
+    return quoted + "\"";
+}
+
+std::string SanitizeFileNamePart(std::string_view text)
+{
+    std::string part(TrimBlanks(text));
+    static constexpr std::string_view forbidden = "\\/:*?\"<>|";
+    std::ranges::replace_if(
+        part, [](char c) { return forbidden.find(c) != std::string_view::npos; }, '_');
+    return part;
+}
