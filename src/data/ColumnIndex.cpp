@@ -1,16 +1,29 @@
 #include "data/ColumnIndex.h"
 
-#include "data/Numbers.h"
 #include "data/Table.h"
 
-ColumnIndex::ColumnIndex(std::span<const Row> rows, std::size_t column)
+namespace
+{
+
+/// Reads a field as a scan would; false where a scan would end in an error.
+bool ReadKey(const Row& row, std::size_t column, Conversion conversion, std::int32_t& key)
+{
+    if (column >= row.FieldCount())
+        return false;
+    key = 0;
+    return ReadLong(row.Field(column), key) == NumberReading::Whole || conversion == Conversion::Safe;
+}
+
+} // namespace
+
+ColumnIndex::ColumnIndex(std::span<const Row> rows, std::size_t column, Conversion conversion)
 {
     Chains.reserve(rows.size());
     Following.reserve(rows.size());
     for (const Row& row : rows)
     {
         std::int32_t number = 0;
-        if (column >= row.FieldCount() || ReadLong(row.Field(column), number) != NumberReading::Whole)
+        if (!ReadKey(row, column, conversion, number))
             return;
         const auto position = static_cast<std::uint32_t>(Following.size());
         const auto [entry, isNew] = Chains.try_emplace(number, Chain{position, position});

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/Numbers.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -16,7 +18,7 @@ class ColumnIndex
 public:
     static constexpr std::uint32_t None = UINT32_MAX;
 
-    ColumnIndex(std::span<const Row> rows, std::size_t column);
+    ColumnIndex(std::span<const Row> rows, std::size_t column, Conversion conversion);
 
     /// The position of the first row with the number, or None.
     std::uint32_t First(std::int32_t number) const;

@@ -25,6 +25,13 @@ std::int32_t ToLong(std::string_view text);
 /// Safe conversion: 0 for a text that is not numeric or does not fit.
 std::int32_t ToLongOrZero(std::string_view text);
 
+/// How a stored number is converted where it is used.
+enum class Conversion
+{
+    Strict, ///< A text that is no whole number is an error.
+    Safe,   ///< It counts as 0.
+};
+
 /// The sum. @throws Overflow when it does not fit 32 bits signed.
 std::int32_t CheckedSum(std::int32_t a, std::int32_t b);
 

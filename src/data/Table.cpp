@@ -1,7 +1,6 @@
 #include "data/Table.h"
 
 #include "data/Errors.h"
-#include "data/Numbers.h"
 #include "data/Text.h"
 
 #include <algorithm>
@@ -32,10 +31,12 @@ std::string_view Row::Field(std::size_t column) const
     return {text + begin, Ends[column] - begin};
 }
 
-std::int32_t Row::Number(std::size_t column) const
+std::int32_t Row::Number(std::size_t column, Conversion conversion) const
 {
-    std::int32_t value = 0;
     const std::string_view text = Field(column);
+    if (conversion == Conversion::Safe)
+        return ToLongOrZero(text);
+    std::int32_t value = 0;
     const NumberReading reading = ReadLong(text, value);
     if (reading == NumberReading::NotNumeric)
         throw TypeMismatch(text, {Layout->FileName, Line, Layout->Columns[column]});
@@ -78,15 +79,16 @@ void Table::RemoveMatches(std::size_t column, std::int32_t number)
     ForgetIndexes();
 }
 
-const Row* Table::FindFirst(std::size_t column, std::int32_t number) const
+const Row* Table::FindFirst(std::size_t column, std::int32_t number, Conversion conversion) const
 {
-    const std::optional<std::size_t> position = FindPosition(column, number);
+    const std::optional<std::size_t> position = FindPosition(column, number, conversion);
     return position ? &Rows[*position] : nullptr;
 }
 
-std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t number) const
+std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t number,
+                                               Conversion conversion) const
 {
-    const ColumnIndex& index = IndexOf(column);
+    const ColumnIndex& index = IndexOf(column, conversion);
     const std::uint32_t position = index.First(number);
     if (position != ColumnIndex::None)
         return position;
@@ -119,11 +121,11 @@ Row Table::NewRow(std::span<const std::string_view> fields, std::uint32_t line)
     return row;
 }
 
-const ColumnIndex& Table::IndexOf(std::size_t column) const
+const ColumnIndex& Table::IndexOf(std::size_t column, Conversion conversion) const
 {
-    std::optional<ColumnIndex>& index = Indexes[column];
+    std::optional<ColumnIndex>& index = Indexes[column][static_cast<std::size_t>(conversion)];
     if (!index)
-        index.emplace(Rows, column);
+        index.emplace(Rows, column, conversion);
     return *index;
 }
 
@@ -136,6 +138,6 @@ void Table::RequireCovered(const ColumnIndex& index, std::size_t column) const
 
 void Table::ForgetIndexes()
 {
-    for (std::optional<ColumnIndex>& index : Indexes)
-        index.reset();
+    for (auto& ofColumn : Indexes)
+        ofColumn = {};
 }

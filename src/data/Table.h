@@ -1,7 +1,9 @@
 #pragma once
 
 #include "data/ColumnIndex.h"
+#include "data/Numbers.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -32,8 +34,9 @@ public:
     /// A field exactly as stored. @throws SubscriptOutOfRange when the row is too short
     std::string_view Field(std::size_t column) const;
 
-    /// A field as a whole number. @throws TypeMismatch, Overflow, SubscriptOutOfRange, each naming the place
-    std::int32_t Number(std::size_t column) const;
+    /// A field as a whole number. @throws SubscriptOutOfRange when the row is too short, and where the
+    /// conversion is strict TypeMismatch and Overflow, each naming the place
+    std::int32_t Number(std::size_t column, Conversion conversion = Conversion::Strict) const;
 
 private:
     friend class Table;
@@ -72,17 +75,20 @@ public:
 
     /// The first row that holds the number in the column; null when there is none.
     /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row before it that cannot be compared
-    const Row* FindFirst(std::size_t column, std::int32_t number) const;
+    const Row* FindFirst(std::size_t column, std::int32_t number,
+                         Conversion conversion = Conversion::Strict) const;
 
     /// The position of the row that FindFirst gives. @throws as FindFirst
-    std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number) const;
+    std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number,
+                                            Conversion conversion = Conversion::Strict) const;
 
     /// Calls `test` with each row that holds the number in the column, in table order, until one answers
     /// true; returns whether one did. @throws as FindFirst, once the rows before the faulty one are tested
     template<typename Test>
-    bool AnyMatch(std::size_t column, std::int32_t number, const Test& test) const
+    bool AnyMatch(std::size_t column, std::int32_t number, const Test& test,
+                  Conversion conversion = Conversion::Strict) const
     {
-        const ColumnIndex& index = IndexOf(column);
+        const ColumnIndex& index = IndexOf(column, conversion);
         for (std::uint32_t at = index.First(number); at != ColumnIndex::None; at = index.Next(at))
             if (test(Rows[at]))
                 return true;
@@ -92,24 +98,26 @@ public:
 
     /// Calls `visit` with each row that holds the number in the column, in table order. @throws as AnyMatch
     template<typename Visit>
-    void ForEachMatch(std::size_t column, std::int32_t number, const Visit& visit) const
+    void ForEachMatch(std::size_t column, std::int32_t number, const Visit& visit,
+                      Conversion conversion = Conversion::Strict) const
     {
-        AnyMatch(column, number,
-                 [&](const Row& row)
-                 {
-                     visit(row);
-                     return false;
-                 });
+        const auto visitAndGoOn = [&](const Row& row)
+        {
+            visit(row);
+            return false;
+        };
+        AnyMatch(column, number, visitAndGoOn, conversion);
     }
 
 private:
     Row NewRow(std::span<const std::string_view> fields, std::uint32_t line);
-    const ColumnIndex& IndexOf(std::size_t column) const;
+    const ColumnIndex& IndexOf(std::size_t column, Conversion conversion) const;
     void RequireCovered(const ColumnIndex& index, std::size_t column) const;
     void ForgetIndexes();
 
     const TableLayout* TableColumns;
     std::unique_ptr<std::pmr::monotonic_buffer_resource> Memory; // the fields of all rows
     std::vector<Row> Rows;
-    mutable std::vector<std::optional<ColumnIndex>> Indexes; // by column, built when first needed
+    mutable std::vector<std::array<std::optional<ColumnIndex>, 2>> Indexes; // by column and conversion,
+                                                                            // each built when first needed
 };

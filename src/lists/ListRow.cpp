@@ -1,9 +1,25 @@
 #include "lists/ListRow.h"
 
+#include "data/Text.h"
 #include "lists/CroatianOrder.h"
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
+
+ListRow UniformRow(std::vector<std::string> texts, ListColour colour, bool bold)
+{
+    ListRow row;
+    row.reserve(texts.size());
+    for (std::string& text : texts)
+        row.push_back({std::move(text), colour, bold});
+    return row;
+}
+
+ListColour ElectiveColour(std::string_view tip)
+{
+    return IsWord(tip, "IZBORNI") ? Blue : Black;
+}
 
 std::vector<std::size_t> SortedPositions(const std::vector<ListRow>& rows, ListOrder order)
 {

@@ -52,7 +52,30 @@ std::vector<Choice> NastavnikChoices()
 {
     std::vector<Choice> choices;
     for (const Row& nastavnik : modData::Nastavnici)
+        choices.push_back(ChoiceOf(nastavnik, Nastavnik::PrezimeIme));
+    return choices;
+}
+
+std::vector<Choice> NamedNastavnikChoices()
+{
+    std::vector<Choice> choices;
+    for (const Row& nastavnik : modData::Nastavnici)
         if (!TrimBlanks(nastavnik.Field(Nastavnik::PrezimeIme)).empty())
             choices.push_back(ChoiceOf(nastavnik, Nastavnik::PrezimeIme));
+    return choices;
+}
+
+std::vector<Choice> ZavodChoices()
+{
+    std::vector<Choice> choices;
+    for (const Row& zavod : modData::Zavodi)
+        choices.push_back(
+            {std::string(zavod.Field(Zavod::Naziv)), zavod.Number(Zavod::ID, Conversion::Safe)});
+    return choices;
+}
+
+std::vector<Choice> WithSvi(std::vector<Choice> choices)
+{
+    choices.insert(choices.begin(), {std::string(Svi)});
     return choices;
 }

@@ -28,5 +28,14 @@ std::vector<Choice> StudijChoices(std::string_view razina, RazinaMatch match);
 /// The directions of a study, by short name, with their IDs.
 std::vector<Choice> SmjerChoices(std::int32_t studijID);
 
-/// The lecturers whose name is not blank, with their IDs.
+/// The lecturers, with their IDs.
 std::vector<Choice> NastavnikChoices();
+
+/// The lecturers whose name is not blank, with their IDs.
+std::vector<Choice> NamedNastavnikChoices();
+
+/// The departments, with their IDs; an ID that is no number counts as 0.
+std::vector<Choice> ZavodChoices();
+
+/// The entries with "Svi" before them.
+std::vector<Choice> WithSvi(std::vector<Choice> choices);

@@ -1,8 +1,10 @@
 #include "statistics/LoadTable.h"
 
 #include "data/Numbers.h"
+#include "data/Text.h"
 
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -20,15 +22,22 @@ constexpr NamedTip Types[] = {{Tip::Obvezni, "Obvezni"}, {Tip::Izborni, "Izborni
 
 ListRow LoadRow(std::string_view first, std::string_view second, const Load& load, bool bold)
 {
-    ListRow row = {{std::string(first)}, {std::string(second)}};
+    std::vector<std::string> texts = {std::string(first), std::string(second)};
     for (const std::int32_t number : {load.P, load.S, load.V, load.ECTS, load.Kolegija})
-        row.push_back({std::to_string(number)});
-    for (ListCell& cell : row)
-        cell.Bold = bold;
-    return row;
+        texts.push_back(std::to_string(number));
+    return UniformRow(std::move(texts), Black, bold);
 }
 
 } // namespace
+
+std::optional<Tip> TipOf(std::string_view text, OtherTypes others)
+{
+    if (IsWord(text, "OBVEZNI"))
+        return Tip::Obvezni;
+    if (others == OtherTypes::CountAsElective || IsWord(text, "IZBORNI"))
+        return Tip::Izborni;
+    return std::nullopt;
+}
 
 Load& Load::operator+=(const Load& other)
 {

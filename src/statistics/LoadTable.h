@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -17,6 +18,16 @@ enum class Tip : std::size_t
     Obvezni,
     Izborni,
 };
+
+/// What becomes of a course whose type is neither word.
+enum class OtherTypes
+{
+    CountAsElective,
+    DoNotCount,
+};
+
+/// The type that a course's text counts as; nothing when it does not count.
+std::optional<Tip> TipOf(std::string_view text, OtherTypes others);
 
 /// What one cell of the sums holds. All sums are 32-bit signed and checked.
 struct Load

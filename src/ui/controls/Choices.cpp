@@ -43,6 +43,11 @@ std::int32_t DataAt(const wxItemContainer& box, int position)
         reinterpret_cast<std::intptr_t>(box.GetClientData(static_cast<unsigned>(position))));
 }
 
+std::string ChosenText(const wxItemContainer& box)
+{
+    return ToUtf8(box.GetStringSelection());
+}
+
 std::int32_t SelectedData(const wxItemContainer& box)
 {
     const int selected = box.GetSelection();

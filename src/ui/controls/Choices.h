@@ -3,6 +3,7 @@
 #include "lists/Choice.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 class wxItemContainer;
@@ -20,6 +21,9 @@ bool SelectData(wxItemContainer& box, std::int32_t data);
 
 /// The number of the entry at a position.
 std::int32_t DataAt(const wxItemContainer& box, int position);
+
+/// The text of the selected entry (UTF-8); empty when none is selected.
+std::string ChosenText(const wxItemContainer& box);
 
 /// The number of the selected entry; 0 when none is selected.
 std::int32_t SelectedData(const wxItemContainer& box);

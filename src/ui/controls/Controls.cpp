@@ -5,6 +5,7 @@
 #include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/gdicmn.h>
+#include <wx/listbox.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/statbox.h>
@@ -46,6 +47,22 @@ wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters)
                                wxDefaultValidator, ToWx(name));
     box->SetMinSize(box->GetSizeFromTextSize(parent->GetTextExtent(wxString('n', characters)).x));
     return box;
+}
+
+wxListBox* NewListBox(wxWindow* parent, std::string_view name, long style)
+{
+    return new wxListBox(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
+                         style | wxLB_NEEDED_SB, wxDefaultValidator, ToWx(name));
+}
+
+wxStaticText* AddLabelled(wxSizer& row, wxWindow* parent, std::string_view labelName,
+                          std::string_view caption, wxWindow* control)
+{
+    wxStaticText* label = NewLabel(parent, labelName, caption);
+    label->MoveBeforeInTabOrder(control);
+    row.Add(label, wxSizerFlags().CenterVertical().Border(wxRIGHT, Gap(parent)));
+    row.Add(control, wxSizerFlags().CenterVertical().Border(wxRIGHT, 2 * Gap(parent)));
+    return label;
 }
 
 wxStaticBoxSizer* NewFrame(wxWindow* parent, std::string_view name, std::string_view caption)

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <wx/defs.h>
 #include <wx/gdicmn.h>
 
 #include <string_view>
 
 class wxButton;
 class wxChoice;
+class wxListBox;
 class wxSizer;
 class wxStaticBoxSizer;
 class wxStaticText;
@@ -28,6 +30,13 @@ wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters);
 
 /// A one-line text box, wide enough for `characters` of text.
 wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters);
+
+/// A list box of which one entry can be selected, or with another style more.
+wxListBox* NewListBox(wxWindow* parent, std::string_view name, long style = wxLB_SINGLE);
+
+/// Adds a control to a row, a new label before it, also in tab order. Returns the label.
+wxStaticText* AddLabelled(wxSizer& row, wxWindow* parent, std::string_view labelName,
+                          std::string_view caption, wxWindow* control);
 
 /// A frame with a caption; its content goes into the sizer, as children of the sizer's box.
 wxStaticBoxSizer* NewFrame(wxWindow* parent, std::string_view name, std::string_view caption);

@@ -10,19 +10,10 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <string_view>
 #include <vector>
 
 class NativeList;
 class wxKeyEvent;
-
-/// A column of a list: its caption (UTF-8) and its width in twips (1440 to the inch) for text of the usual
-/// size. Larger text makes it wider, and so does a caption that would not fit.
-struct ListColumn
-{
-    std::string_view Caption;
-    int Twips;
-};
 
 /// A report list with grid lines, full-row selection of one row, and colour and bold per cell: the system's
 /// own list view behind one face. Rows are counted in display order.

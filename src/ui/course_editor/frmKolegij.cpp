@@ -98,8 +98,7 @@ wxSizer* frmKolegij::Lists()
     {
         auto* column = new wxBoxSizer(wxVERTICAL);
         column->Add(NewLabel(this, "", label), wxSizerFlags().Border(wxBOTTOM, Gap(this) / 2));
-        auto* list = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
-                                   style | wxLB_NEEDED_SB, wxDefaultValidator, name);
+        wxListBox* list = NewListBox(this, ToUtf8(name), style);
         column->Add(list, wxSizerFlags(1).Expand());
         row->Add(column, wxSizerFlags(proportion).Expand().Border(wxLEFT, row->IsEmpty() ? 0 : Gap(this)));
         return list;
@@ -162,7 +161,7 @@ void frmKolegij::Form_Load()
     FillSemestarList();
     FillSmjerList();
     for (wxListBox* list : lstNastavnik)
-        FillChoices(*list, NastavnikChoices());
+        FillChoices(*list, NamedNastavnikChoices());
 
     if (Mode == "EDIT")
         if (const std::optional<CourseEntry> entry = EntryOf(EditKolegijID))
@@ -210,7 +209,7 @@ void frmKolegij::ShowKolegij(const CourseEntry& entry)
 
 void frmKolegij::cboRazina_Click()
 {
-    CurrentRazina = ToUtf8(cboRazina->GetStringSelection());
+    CurrentRazina = ChosenText(*cboRazina);
     FillProgramCombo();
     SelectFirst(*cboProgram);
     CurrentStudijID = SelectedData(*cboProgram);
@@ -251,7 +250,7 @@ CourseEntry frmKolegij::CurrentEntry() const
     entry.V = ToUtf8(txtV->GetValue());
     entry.ECTS = ToUtf8(txtECTS->GetValue());
     entry.Tip = ToUtf8(cboObvezniIzborni->GetValue());
-    entry.Semestar = ToUtf8(lstSemestar->GetStringSelection());
+    entry.Semestar = ChosenText(*lstSemestar);
     entry.StudijID = CurrentStudijID;
     wxArrayInt selected;
     lstSmjerovi->GetSelections(selected);

@@ -24,20 +24,14 @@ bool Passes(const Row& kolegij, const CourseFilter& filter, std::string_view sea
 
 ListRow CourseRow(const Row& kolegij)
 {
-    const bool elective = IsWord(kolegij.Field(Kolegij::Tip), "IZBORNI");
-    const ListColour colour = elective ? Blue : Black;
     const std::int32_t id = kolegij.Number(Kolegij::ID);
-
-    ListRow row;
-    row.reserve(std::size(ShownFields) + 4);
-    const auto add = [&](std::string text) { row.push_back({std::move(text), colour, false}); };
-    add(std::string(kolegij.Field(Kolegij::ID)));
+    std::vector<std::string> texts = {std::string(kolegij.Field(Kolegij::ID))};
     for (const Kolegij::Column column : ShownFields)
-        add(std::string(kolegij.Field(column)));
-    add(modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID)));
-    add(GetSmjeroviForKolegijString(id));
-    add(GetNastavniciForKolegijString(id));
-    return row;
+        texts.emplace_back(kolegij.Field(column));
+    texts.push_back(modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID)));
+    texts.push_back(GetSmjeroviForKolegijString(id));
+    texts.push_back(GetNastavniciForKolegijString(id));
+    return UniformRow(std::move(texts), ElectiveColour(kolegij.Field(Kolegij::Tip)));
 }
 
 } // namespace

@@ -5,16 +5,11 @@
 
 std::vector<Choice> SmjerFilterChoices(std::optional<std::int32_t> studijID)
 {
-    std::vector<Choice> choices = studijID ? SmjerChoices(*studijID) : std::vector<Choice>();
-    choices.insert(choices.begin(), {std::string(Svi)});
-    return choices;
+    return WithSvi(studijID ? SmjerChoices(*studijID) : std::vector<Choice>());
 }
 
 std::vector<Choice> SemestarFilterChoices(std::string_view razina)
 {
-    std::vector<Choice> choices;
-    if (razina == modData::Preddiplomski || razina == modData::Diplomski)
-        choices = SemestarChoices(razina);
-    choices.insert(choices.begin(), {std::string(Svi)});
-    return choices;
+    const bool isRazina = razina == modData::Preddiplomski || razina == modData::Diplomski;
+    return WithSvi(isRazina ? SemestarChoices(razina) : std::vector<Choice>());
 }

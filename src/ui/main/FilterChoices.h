@@ -9,9 +9,6 @@
 
 // What the filter boxes of the main window offer.
 
-/// The entry of a filter box that switches the filter off.
-inline constexpr std::string_view Svi = "Svi";
-
 /// "Svi", then the directions of a study with their IDs; "Svi" alone when no study is chosen.
 /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for an ID that cannot be read
 std::vector<Choice> SmjerFilterChoices(std::optional<std::int32_t> studijID);

@@ -1,7 +1,6 @@
 #include "ui/main/SemesterStatistics.h"
 
 #include "data/Numbers.h"
-#include "data/Text.h"
 #include "data/modData.h"
 #include "statistics/LoadTable.h"
 
@@ -36,10 +35,10 @@ std::vector<ListRow> StatistikaRows(const CourseFilter& filter, std::string_view
         const std::int32_t semestar = kolegij.Number(Kolegij::Semestar);
         if (!Passes(kolegij, semestar, filter, search) || semestar < 1 || semestar > last)
             continue;
-        const Tip tip = IsWord(kolegij.Field(Kolegij::Tip), "OBVEZNI") ? Tip::Obvezni : Tip::Izborni;
+        const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), OtherTypes::CountAsElective);
         const std::int32_t weight = CountKolegijSmjerLinks(id, filter.SmjerID);
-        if (weight > 0)
-            sums.Add(semestar, tip, LoadOf(kolegij).Times(weight));
+        if (tip && weight > 0)
+            sums.Add(semestar, *tip, LoadOf(kolegij).Times(weight));
     }
     return LoadRows(sums, FlaggingStyle, {.Last = last, .Only = filter.Semestar});
 }

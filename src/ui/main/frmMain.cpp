@@ -9,12 +9,16 @@
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
+#include "ui/controls/ExportCommand.h"
 #include "ui/controls/ListView.h"
 #include "ui/controls/Messages.h"
 #include "ui/controls/SaveDialog.h"
+#include "ui/controls/SharedWindow.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
 #include "ui/course_editor/frmKolegij.h"
+#include "ui/department_stats/frmStatZavodi.h"
+#include "ui/lecturer_stats/frmStatNositelji.h"
 #include "ui/main/CatalogueExport.h"
 #include "ui/main/CourseDeletion.h"
 #include "ui/main/FilterChoices.h"
@@ -49,11 +53,6 @@ constexpr ListColumn StatistikaColumns[] = {
 const wxSize InitialSize = {1120, 720}; // at 96 dots to the inch
 const wxSize SmallestSize = {760, 560};
 
-std::string ChosenText(const wxChoice* box)
-{
-    return ToUtf8(box->GetStringSelection());
-}
-
 /// What a Save command of this window asks and says.
 struct ExportTexts
 {
@@ -77,10 +76,8 @@ void SaveAndTell(wxWindow* parent, const ExportTexts& texts, std::string propose
     options.Title = texts.DialogTitle;
     options.ProposedName = std::move(proposedName);
     const std::optional<std::string> path = ShowSaveDialog(parent, options);
-    if (!path)
-        return;
-    write(*path);
-    ShowInformation(parent, std::string(texts.Success) + "\r\n" + *path);
+    if (path)
+        WriteAndTell(parent, *path, write, texts.Success);
 }
 
 /// Runs a whole export command; an error met anywhere in it is told to the user, and the program goes on.
@@ -228,13 +225,15 @@ void frmMain::BindEvents()
     onPress(cmdAdd, &frmMain::cmdAdd_Click);
     onPress(cmdEdit, &frmMain::cmdEdit_Click);
     onPress(cmdDelete, &frmMain::cmdDelete_Click);
+    onPress(cmdStatNositelji, &frmMain::cmdStatNositelji_Click);
+    onPress(cmdStatZavodi, &frmMain::cmdStatZavodi_Click);
     onPress(cmdExport, &frmMain::cmdExport_Click);
     onPress(cmdExportVarlo, &frmMain::cmdExportVarlo_Click);
     onPress(cmdExit, &frmMain::cmdExit_Click);
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Form_Unload(); });
 
     // Their windows are not there yet.
-    for (wxButton* button : {cmdStatNositelji, cmdStatZavodi, cmdECTSCalc, cmdAbout})
+    for (wxButton* button : {cmdECTSCalc, cmdAbout})
         button->Disable();
 }
 
@@ -276,7 +275,7 @@ void frmMain::FillRazinaCombo()
 
 void frmMain::FillProgramCombo()
 {
-    FillChoices(*cboProgram, StudijChoices(ChosenText(cboRazina), RazinaMatch::Exact));
+    FillChoices(*cboProgram, StudijChoices(ChosenText(*cboRazina), RazinaMatch::Exact));
     SelectFirst(*cboProgram);
 }
 
@@ -291,7 +290,7 @@ void frmMain::FillSmjerCombo()
 
 void frmMain::FillSemestarCombo()
 {
-    FillChoices(*cboSemestar, SemestarFilterChoices(ChosenText(cboRazina)));
+    FillChoices(*cboSemestar, SemestarFilterChoices(ChosenText(*cboRazina)));
     SelectFirst(*cboSemestar);
 }
 
@@ -300,7 +299,7 @@ CourseFilter frmMain::CurrentFilter() const
     CourseFilter filter;
     filter.StudijID = SelectedData(*cboProgram);
     filter.SmjerID = SelectedData(*cboSmjer);
-    const std::string semestar = ChosenText(cboSemestar);
+    const std::string semestar = ChosenText(*cboSemestar);
     if (!TrimBlanks(semestar).empty() && semestar != Svi)
         filter.Semestar = ToLong(semestar);
     filter.Search = ToUtf8(txtSearch->GetValue());
@@ -320,9 +319,9 @@ void frmMain::RefreshStatistika()
     if (!FormReady)
         return;
     CourseFilter filter = CurrentFilter();
-    if (ChosenText(cboSmjer) == Svi) // whatever number goes with it
+    if (ChosenText(*cboSmjer) == Svi) // whatever number goes with it
         filter.SmjerID = 0;
-    lvwStatistika->SetRows(StatistikaRows(filter, ChosenText(cboRazina)));
+    lvwStatistika->SetRows(StatistikaRows(filter, ChosenText(*cboRazina)));
 }
 
 void frmMain::RefreshGrids()
@@ -382,7 +381,7 @@ void frmMain::cmdAdd_Click()
 {
     frmKolegij editor(this);
     editor.Mode = "ADD";
-    editor.StartRazina = ChosenText(cboRazina);
+    editor.StartRazina = ChosenText(*cboRazina);
     editor.StartStudijID = SelectedData(*cboProgram);
     editor.ShowModal();
     RefreshGrids();
@@ -412,6 +411,16 @@ void frmMain::cmdDelete_Click()
         return;
     DeleteKolegij(*id);
     RefreshGrids();
+}
+
+void frmMain::cmdStatNositelji_Click()
+{
+    ShowShared<frmStatNositelji>(this);
+}
+
+void frmMain::cmdStatZavodi_Click()
+{
+    ShowShared<frmStatZavodi>(this);
 }
 
 void frmMain::cmdExport_Click()
@@ -450,7 +459,7 @@ void frmMain::ExportStatistika_SelectedToCSV(std::string_view path)
 
 StatistikaFilters frmMain::ShownFilters() const
 {
-    return {ChosenText(cboRazina), ChosenText(cboProgram), ChosenText(cboSmjer), ChosenText(cboSemestar)};
+    return {ChosenText(*cboRazina), ChosenText(*cboProgram), ChosenText(*cboSmjer), ChosenText(*cboSemestar)};
 }
 
 void frmMain::cmdExit_Click()

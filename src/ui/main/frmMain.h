@@ -59,6 +59,8 @@ private:
     void cmdAdd_Click();
     void cmdEdit_Click();
     void cmdDelete_Click();
+    void cmdStatNositelji_Click();
+    void cmdStatZavodi_Click();
     void cmdExport_Click();
     void cmdExportVarlo_Click();
     void cmdExit_Click();

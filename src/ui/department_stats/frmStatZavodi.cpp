@@ -1,0 +1,139 @@
+#include "ui/department_stats/frmStatZavodi.h"
+
+#include "lists/TableChoices.h"
+#include "statistics/TaughtCourses.h"
+#include "ui/controls/CenterForm.h"
+#include "ui/controls/Choices.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/ListView.h"
+#include "ui/controls/LoadExportCommand.h"
+#include "ui/controls/SortMemory.h"
+#include "ui/controls/Strings.h"
+
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/listbox.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+namespace
+{
+
+constexpr std::string_view Caption = "Zavodi";
+
+constexpr ListColumn StatColumns[] = {
+    {"Semestar", 1400}, {"Tip", 1400}, {"P", 900}, {"S", 900}, {"V", 900}, {"ECTS", 1000}, {"Kolegija", 1400},
+};
+
+constexpr LoadExportTexts ExportTexts = {"Spremi statistiku zavoda", "statistika_svi_zavodi.csv",
+                                         "Statistika za sve zavode je eksportirana u:"};
+
+const wxSize InitialSize = {980, 680}; // at 96 dots to the inch
+const wxSize SmallestSize = {680, 480};
+
+} // namespace
+
+frmStatZavodi::frmStatZavodi(wxWindow* parent)
+{
+    Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
+           "frmStatZavodi");
+    UseProgramFont(*this);
+    Panel = new wxPanel(this);
+
+    // The controls are made in tab order: filters, lists, buttons.
+    auto* content = new wxBoxSizer(wxVERTICAL);
+    content->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
+    content->Add(Grids(), wxSizerFlags(1).Expand().Border(wxBOTTOM, Gap(this)));
+    content->Add(Buttons(), wxSizerFlags().Expand());
+    auto* margin = new wxBoxSizer(wxVERTICAL);
+    margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap(this)));
+    Panel->SetSizer(margin);
+    UseClientSizes(*this, *margin, InitialSize, SmallestSize);
+
+    BindEvents();
+    Form_Load();
+}
+
+wxSizer* frmStatZavodi::FilterRow()
+{
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    Label1 = AddLabelled(*row, Panel, "Label1", "Razina", cboRazina = NewChoice(Panel, "cboRazina", 14));
+    Label2 = AddLabelled(*row, Panel, "Label2", "Zavod", cboZavodi = NewChoice(Panel, "cboZavodi", 36));
+    return row;
+}
+
+wxSizer* frmStatZavodi::Grids()
+{
+    auto* semesters = new wxBoxSizer(wxVERTICAL);
+    semesters->Add(Label3 = NewLabel(Panel, "Label3", "Semestar"),
+                   wxSizerFlags().Border(wxBOTTOM, Gap(this)));
+    semesters->Add(lstSemestri = NewListBox(Panel, "lstSemestri"), wxSizerFlags(1).Expand());
+
+    auto* lists = new wxBoxSizer(wxVERTICAL);
+    lists->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji"), wxSizerFlags(2).Expand());
+    lists->Add(lvwStatZavod = new ListView(Panel, "lvwStatZavod"),
+               wxSizerFlags(3).Expand().Border(wxTOP, Gap(this)));
+
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(semesters, wxSizerFlags().Expand().Border(wxRIGHT, 2 * Gap(this)));
+    row->Add(lists, wxSizerFlags(1).Expand());
+    return row;
+}
+
+wxSizer* frmStatZavodi::Buttons()
+{
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(cmdExportAllStat = NewButton(Panel, "cmdExportAllStat", "E&xport"));
+    row->AddStretchSpacer();
+    row->Add(cmdClose = NewButton(Panel, "cmdClose", "&Zatvori"));
+    return row;
+}
+
+void frmStatZavodi::BindEvents()
+{
+    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ShowSelected(); });
+    cboZavodi->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ShowSelected(); });
+    lstSemestri->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { ShowSelected(); });
+    for (ListView* list : {lvwKolegiji, lvwStatZavod})
+        list->OnColumnClick([list](int column) { SortListViewByColumn(*list, column); });
+    cmdExportAllStat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportAllStat_Click(); });
+    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Close(); });
+}
+
+void frmStatZavodi::Form_Load()
+{
+    lvwStatZavod->SetColumns(StatColumns);
+    lvwKolegiji->SetColumns(TaughtCourseColumns);
+    FillChoices(*cboRazina, WithSvi(RazinaChoices()));
+    FillChoices(*cboZavodi, ZavodChoices());
+    FillChoices(*lstSemestri, WithSvi({{"Zimski"}, {"Ljetni"}, {"1"}, {"2"}, {"3"}, {"4"}, {"5"}, {"6"}}));
+    SelectFirst(*cboZavodi);
+    SelectFirst(*lstSemestri);
+    SelectFirst(*cboRazina);
+    ShowSelected();
+    CenterForm(*this);
+}
+
+DepartmentFilter frmStatZavodi::CurrentFilter() const
+{
+    return {ChosenText(*cboRazina), ChosenText(*lstSemestri)};
+}
+
+void frmStatZavodi::ShowSelected()
+{
+    for (const wxItemContainer* box :
+         {static_cast<const wxItemContainer*>(cboZavodi), static_cast<const wxItemContainer*>(lstSemestri),
+          static_cast<const wxItemContainer*>(cboRazina)})
+        if (box->GetSelection() == wxNOT_FOUND)
+            return;
+    const std::int32_t zavodID = SelectedData(*cboZavodi);
+    lvwKolegiji->SetRows(DepartmentCourseRows(zavodID, CurrentFilter()));
+    lvwStatZavod->SetRows(DepartmentLoadRows(zavodID, CurrentFilter()));
+}
+
+void frmStatZavodi::cmdExportAllStat_Click()
+{
+    RunLoadExport(this, ExportTexts,
+                  [this](const std::string& path) { ExportAllDepartments(path, CurrentFilter()); });
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "ui/department_stats/DepartmentStatistics.h"
+
+#include <wx/frame.h>
+
+class ListView;
+class wxButton;
+class wxChoice;
+class wxListBox;
+class wxPanel;
+class wxSizer;
+class wxStaticText;
+
+/// The load of one department: the courses of its lecturers, and the sums per semester and type. Modeless,
+/// one for the program.
+class frmStatZavodi : public wxFrame
+{
+public:
+    explicit frmStatZavodi(wxWindow* parent);
+
+private:
+    // Layout
+    wxSizer* FilterRow();
+    wxSizer* Grids();
+    wxSizer* Buttons();
+    void BindEvents();
+
+    void Form_Load();
+    DepartmentFilter CurrentFilter() const;
+    void ShowSelected();
+
+    // Events
+    void cmdExportAllStat_Click();
+
+    // Controls
+    wxPanel* Panel;
+    wxStaticText* Label1;
+    wxStaticText* Label2;
+    wxStaticText* Label3;
+    wxChoice* cboRazina;
+    wxChoice* cboZavodi;
+    wxListBox* lstSemestri;
+    ListView* lvwKolegiji;
+    ListView* lvwStatZavod;
+    wxButton* cmdExportAllStat;
+    wxButton* cmdClose;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "lists/ListRow.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The load of lecturers. Everything here throws TypeMismatch, Overflow or SubscriptOutOfRange for a number
+// that it needs and cannot read, and Overflow for a sum that does not fit.
+
+/// What the two filter boxes say; "Svi" means all. Compared exactly; a course without a study passes only
+/// "Svi".
+struct LecturerFilter
+{
+    std::string Razina;
+    std::string Program;
+};
+
+/// The courses that a lecturer is linked to, once per link.
+std::vector<ListRow> LecturerCourseRows(std::int32_t nastavnikID, const LecturerFilter& filter);
+
+/// The lecturer's table of load: every type but "obvezni" counts as elective.
+std::vector<ListRow> LecturerLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter);
+
+/// Writes the tables of all lecturers. Here hours and credits that are not numeric count as 0.
+/// @throws also FileError, and an older file stays
+void ExportAllLecturers(std::string_view path, const LecturerFilter& filter);

@@ -1,0 +1,136 @@
+#include "ui/lecturer_stats/frmStatNositelji.h"
+
+#include "lists/TableChoices.h"
+#include "statistics/TaughtCourses.h"
+#include "ui/controls/CenterForm.h"
+#include "ui/controls/Choices.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/ListView.h"
+#include "ui/controls/LoadExportCommand.h"
+#include "ui/controls/SortMemory.h"
+#include "ui/controls/Strings.h"
+
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/listbox.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+namespace
+{
+
+// The misspelling is the window's own.
+constexpr std::string_view Caption = "Nostielji";
+
+constexpr ListColumn StatColumns[] = {
+    {"Semestar", 900}, {"Tip", 1200},           {"P", 700}, {"S", 700}, {"V", 700},
+    {"ECTS", 900},     {"Broj kolegija", 1200},
+};
+
+constexpr LoadExportTexts ExportTexts = {"Spremi statistiku nastavnika", "statistika_svi_nastavnici.csv",
+                                         "Statistika za sve nastavnike je eksportirana u:"};
+
+const wxSize InitialSize = {980, 680}; // at 96 dots to the inch
+const wxSize SmallestSize = {680, 480};
+
+} // namespace
+
+frmStatNositelji::frmStatNositelji(wxWindow* parent)
+{
+    Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
+           "frmStatNositelji");
+    UseProgramFont(*this);
+    Panel = new wxPanel(this);
+
+    // The controls are made in tab order: lecturers, filters, lists, buttons.
+    auto* content = new wxBoxSizer(wxHORIZONTAL);
+    content->Add(NastavniciColumn(), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * Gap(this)));
+    auto* right = new wxBoxSizer(wxVERTICAL);
+    right->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
+    right->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji"), wxSizerFlags(2).Expand());
+    right->Add(lvwStat = new ListView(Panel, "lvwStat"), wxSizerFlags(3).Expand().Border(wxTOP, Gap(this)));
+    right->Add(Buttons(), wxSizerFlags().Expand().Border(wxTOP, Gap(this)));
+    content->Add(right, wxSizerFlags(4).Expand());
+    auto* margin = new wxBoxSizer(wxVERTICAL);
+    margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap(this)));
+    Panel->SetSizer(margin);
+    UseClientSizes(*this, *margin, InitialSize, SmallestSize);
+
+    BindEvents();
+    Form_Load();
+}
+
+wxSizer* frmStatNositelji::NastavniciColumn()
+{
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(Label1 = NewLabel(Panel, "Label1", "Nostielji"), wxSizerFlags().Border(wxBOTTOM, Gap(this)));
+    column->Add(lstNastavnici = NewListBox(Panel, "lstNastavnici"), wxSizerFlags(1).Expand());
+    return column;
+}
+
+wxSizer* frmStatNositelji::FilterRow()
+{
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    Label2 = AddLabelled(*row, Panel, "Label2", "Razina", cboRazina = NewChoice(Panel, "cboRazina", 14));
+    Label3 = AddLabelled(*row, Panel, "Label3", "Program", cboProgram = NewChoice(Panel, "cboProgram", 8));
+    return row;
+}
+
+wxSizer* frmStatNositelji::Buttons()
+{
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(cmdExportAllStat = NewButton(Panel, "cmdExportAllStat", "E&xport"));
+    row->AddStretchSpacer();
+    row->Add(cmdClose = NewButton(Panel, "cmdClose", "&Zatvori"));
+    return row;
+}
+
+void frmStatNositelji::BindEvents()
+{
+    lstNastavnici->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { lstNastavnici_Click(); });
+    // A filter shows the selected lecturer anew; without a selection it does nothing.
+    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { lstNastavnici_Click(); });
+    cboProgram->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { lstNastavnici_Click(); });
+    for (ListView* list : {lvwKolegiji, lvwStat})
+        list->OnColumnClick([list](int column) { SortListViewByColumn(*list, column); });
+    cmdExportAllStat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportAllStat_Click(); });
+    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Close(); });
+}
+
+void frmStatNositelji::Form_Load()
+{
+    FillChoices(*cboRazina, WithSvi(RazinaChoices()));
+    SelectFirst(*cboRazina);
+    FillChoices(*cboProgram, WithSvi({{"LOR"}, {"BEV"}}));
+    SelectFirst(*cboProgram);
+    FillChoices(*lstNastavnici, NastavnikChoices());
+    lvwKolegiji->SetColumns(TaughtCourseColumns);
+    lvwStat->SetColumns(StatColumns);
+    CenterForm(*this);
+}
+
+LecturerFilter frmStatNositelji::CurrentFilter() const
+{
+    return {ChosenText(*cboRazina), ChosenText(*cboProgram)};
+}
+
+void frmStatNositelji::ShowSelected()
+{
+    lvwKolegiji->SetRows(LecturerCourseRows(SelectedNastavnikID, CurrentFilter()));
+    lvwStat->SetRows(LecturerLoadRows(SelectedNastavnikID, CurrentFilter()));
+}
+
+void frmStatNositelji::lstNastavnici_Click()
+{
+    if (lstNastavnici->GetSelection() == wxNOT_FOUND)
+        return;
+    SelectedNastavnikID = SelectedData(*lstNastavnici);
+    ShowSelected();
+}
+
+void frmStatNositelji::cmdExportAllStat_Click()
+{
+    RunLoadExport(this, ExportTexts,
+                  [this](const std::string& path) { ExportAllLecturers(path, CurrentFilter()); });
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ui/lecturer_stats/LecturerStatistics.h"
+
+#include <wx/frame.h>
+
+#include <cstdint>
+
+class ListView;
+class wxButton;
+class wxChoice;
+class wxListBox;
+class wxPanel;
+class wxSizer;
+class wxStaticText;
+
+/// The load of one lecturer: the courses, and the sums per semester and type. Modeless, one for the program.
+class frmStatNositelji : public wxFrame
+{
+public:
+    explicit frmStatNositelji(wxWindow* parent);
+
+private:
+    // Layout
+    wxSizer* NastavniciColumn();
+    wxSizer* FilterRow();
+    wxSizer* Buttons();
+    void BindEvents();
+
+    void Form_Load();
+    LecturerFilter CurrentFilter() const;
+    void ShowSelected();
+
+    // Events
+    void lstNastavnici_Click();
+    void cmdExportAllStat_Click();
+
+    std::int32_t SelectedNastavnikID = 0; ///< Of the last click in the list.
+
+    // Controls
+    wxPanel* Panel;
+    wxStaticText* Label1;
+    wxStaticText* Label2;
+    wxStaticText* Label3;
+    wxListBox* lstNastavnici;
+    wxChoice* cboRazina;
+    wxChoice* cboProgram;
+    ListView* lvwKolegiji;
+    ListView* lvwStat;
+    wxButton* cmdExportAllStat;
+    wxButton* cmdClose;
+};
