@@ -40,3 +40,13 @@ on_virtual_display() {
     # The accessibility bus would only be missed in warnings, and a Wayland desktop must not take the windows.
     env -u WAYLAND_DISPLAY NO_AT_BRIDGE=1 xvfb-run -a -s "-screen 0 1280x800x24 -nolisten tcp" "$@"
 }
+
+# use_wine FOLDER: lets Wine work in a folder of its own, set up anew, and without its own remarks.
+use_wine() {
+    mkdir -p "$1"
+    WINEPREFIX=$(cd "$1" && pwd)
+    export WINEPREFIX WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
+    say "setting up Wine"
+    on_virtual_display wine wineboot --init >/dev/null 2>&1
+    wineserver --wait
+}

@@ -95,7 +95,7 @@ TEST_F(Program, ReportsAnEmptyFile)
 {
     Replace("db_smjer.csv", "");
     ExpectFailure("Greška 62: Datoteka je prazna, nedostaje joj redak zaglavlja: " +
-                  Folder.PathOf("Varlostudiji/db_smjer.csv"));
+                  Folder.DataPath("db_smjer.csv"));
 }
 
 TEST_F(Program, ReportsAMissingFileAndLeavesItEmpty)
@@ -105,7 +105,7 @@ TEST_F(Program, ReportsAMissingFileAndLeavesItEmpty)
     const Outcome outcome = Run();
     EXPECT_EQ(outcome.Output,
               "Varlostudiji|critical|Greška 62: Datoteka je prazna, nedostaje joj redak zaglavlja: " +
-                  Folder.PathOf("Varlostudiji/db_studij.csv"));
+                  Folder.DataPath("db_studij.csv"));
     EXPECT_EQ(outcome.ExitCode, 1);
     before["db_studij.csv"] = "";
     EXPECT_EQ(Files(), before);
@@ -119,7 +119,7 @@ TEST_F(Program, ReportsAFileThatMayNotBeWrittenAndKeepsIt)
     std::filesystem::permissions(file, write, std::filesystem::perm_options::remove);
     ExpectFailure(
         "Greška 70: Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu: " +
-        Folder.PathOf("Varlostudiji/db_kolegij.csv"));
+        Folder.DataPath("db_kolegij.csv"));
     std::filesystem::permissions(file, write, std::filesystem::perm_options::add);
 }
 

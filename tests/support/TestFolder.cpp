@@ -32,6 +32,12 @@ TestFolder::~TestFolder()
     fs::remove_all(Folder, ignored);
 }
 
+std::string TestFolder::DataPath(std::string_view name) const
+{
+    const std::string separator(System::PathSeparator);
+    return PathOf("") + separator + "Varlostudiji" + separator + std::string(name);
+}
+
 std::string TestFolder::PathOf(std::string_view name) const
 {
     const std::u8string path = (name.empty() ? Folder : Folder / ToPath(name)).u8string();

@@ -20,6 +20,9 @@ public:
     /// The program's data folder, "Varlostudiji" in this one; it exists.
     std::filesystem::path Data() const { return Folder / "Varlostudiji"; }
 
+    /// The path of a file of the data folder as the program writes it in its messages.
+    std::string DataPath(std::string_view name) const;
+
     /// The path of a file of this folder as the program takes it: UTF-8 text.
     std::string PathOf(std::string_view name) const;
 

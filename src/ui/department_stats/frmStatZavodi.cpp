@@ -29,7 +29,7 @@ constexpr ListColumn StatColumns[] = {
 constexpr LoadExportTexts ExportTexts = {"Spremi statistiku zavoda", "statistika_svi_zavodi.csv",
                                          "Statistika za sve zavode je eksportirana u:"};
 
-const wxSize InitialSize = {980, 680}; // at 96 dots to the inch
+const wxSize InitialSize = {980, 740}; // at 96 dots to the inch
 const wxSize SmallestSize = {680, 480};
 
 } // namespace
@@ -71,9 +71,9 @@ wxSizer* frmStatZavodi::Grids()
     semesters->Add(lstSemestri = NewListBox(Panel, "lstSemestri"), wxSizerFlags(1).Expand());
 
     auto* lists = new wxBoxSizer(wxVERTICAL);
-    lists->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji"), wxSizerFlags(2).Expand());
+    lists->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji"), wxSizerFlags(1).Expand());
     lists->Add(lvwStatZavod = new ListView(Panel, "lvwStatZavod"),
-               wxSizerFlags(3).Expand().Border(wxTOP, Gap(this)));
+               wxSizerFlags(2).Expand().Border(wxTOP, Gap(this)));
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(semesters, wxSizerFlags().Expand().Border(wxRIGHT, 2 * Gap(this)));

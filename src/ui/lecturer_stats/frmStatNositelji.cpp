@@ -31,7 +31,7 @@ constexpr ListColumn StatColumns[] = {
 constexpr LoadExportTexts ExportTexts = {"Spremi statistiku nastavnika", "statistika_svi_nastavnici.csv",
                                          "Statistika za sve nastavnike je eksportirana u:"};
 
-const wxSize InitialSize = {980, 680}; // at 96 dots to the inch
+const wxSize InitialSize = {980, 740}; // at 96 dots to the inch
 const wxSize SmallestSize = {680, 480};
 
 } // namespace
@@ -48,8 +48,8 @@ frmStatNositelji::frmStatNositelji(wxWindow* parent)
     content->Add(NastavniciColumn(), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * Gap(this)));
     auto* right = new wxBoxSizer(wxVERTICAL);
     right->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
-    right->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji"), wxSizerFlags(2).Expand());
-    right->Add(lvwStat = new ListView(Panel, "lvwStat"), wxSizerFlags(3).Expand().Border(wxTOP, Gap(this)));
+    right->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji"), wxSizerFlags(1).Expand());
+    right->Add(lvwStat = new ListView(Panel, "lvwStat"), wxSizerFlags(2).Expand().Border(wxTOP, Gap(this)));
     right->Add(Buttons(), wxSizerFlags().Expand().Border(wxTOP, Gap(this)));
     content->Add(right, wxSizerFlags(4).Expand());
     auto* margin = new wxBoxSizer(wxVERTICAL);

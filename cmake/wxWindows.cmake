@@ -1,0 +1,31 @@
+# The target wx::core for Windows: wxWidgets core and base as static libraries, from the folder that
+# tools/windows-toolkit makes. The same name stands for the system's own wxWidgets elsewhere.
+set(VARLO_WINDOWS_TOOLKIT "" CACHE PATH "Windows builds of wxWidgets and GoogleTest")
+if(NOT EXISTS "${VARLO_WINDOWS_TOOLKIT}/complete")
+    message(FATAL_ERROR "VARLO_WINDOWS_TOOLKIT is \"${VARLO_WINDOWS_TOOLKIT}\", which is not a folder made by "
+        "tools/windows-toolkit. Run ./build-windows, or set it to the path which that script prints.")
+endif()
+
+set(libraries ${VARLO_WINDOWS_TOOLKIT}/lib/gcc_x64_lib)
+add_library(wx_windows INTERFACE)
+add_library(wx::core ALIAS wx_windows)
+target_include_directories(wx_windows SYSTEM INTERFACE
+    ${libraries}/mswu # wx/setup.h: what was configured
+    ${VARLO_WINDOWS_TOOLKIT}/include)
+target_compile_definitions(wx_windows INTERFACE __WXMSW__ UNICODE _UNICODE wxUSE_GUI=1)
+target_link_libraries(wx_windows INTERFACE
+    ${libraries}/libwxmsw32u_core.a ${libraries}/libwxbase32u.a
+    # The parts of Windows that they call. (uuid goes before oleacc: both define some of the same names, and
+    # the linker minds only in the other order.)
+    comctl32 comdlg32 gdi32 gdiplus msimg32 ole32 oleaut32 rpcrt4 shell32 shlwapi uuid uxtheme version winmm
+    winspool oleacc)
+
+# Gives a program the icon, the version information and the manifest. A program that opens windows needs the
+# manifest to get today's controls, tests included.
+function(add_windows_resources target)
+    set(folder ${CMAKE_SOURCE_DIR}/packaging/windows)
+    target_sources(${target} PRIVATE ${folder}/varlostudiji.rc)
+    set_source_files_properties(${folder}/varlostudiji.rc TARGET_DIRECTORY ${target} PROPERTIES
+        INCLUDE_DIRECTORIES ${folder}
+        OBJECT_DEPENDS "${folder}/varlostudiji.ico;${folder}/varlostudiji.manifest")
+endfunction()
