@@ -96,7 +96,7 @@ std::string ReadFile(std::string_view path, std::size_t limit)
     const OpenFile opened = Open(file, "rb", path);
 
     std::string content;
-    std::array<char, 64 * 1024> buffer;
+    std::array<char, 0x10000> buffer;
     while (content.size() < limit)
     {
         const std::size_t wanted = std::min(buffer.size(), limit - content.size());

@@ -41,10 +41,10 @@ public:
 private:
     friend class Table;
 
-    const TableLayout* Layout;
-    const std::uint32_t* Ends; // where each field ends in the text, which follows them
-    std::uint32_t Count;
-    std::uint32_t Line; // in the file; 0 when no file holds the row yet
+    const TableLayout* Layout = nullptr;
+    const std::uint32_t* Ends = nullptr; // where each field ends in the text, which follows them
+    std::uint32_t Count = 0;
+    std::uint32_t Line = 0; // in the file; 0 when no file holds the row yet
 };
 
 /// An ordered collection of rows. Searches give what a scan from the first row gives, errors included.

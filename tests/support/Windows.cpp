@@ -77,6 +77,16 @@ void Type(wxWindow* control, const char* text)
     Settle();
 }
 
+void Click(wxWindow* control)
+{
+    const wxSize size = control->GetSize();
+    wxUIActionSimulator simulator;
+    simulator.MouseMove(control->ClientToScreen(wxPoint(size.x / 2, size.y / 2)));
+    Settle();
+    simulator.MouseClick();
+    Settle();
+}
+
 std::vector<std::string> EntriesOfBox(const wxItemContainer* box)
 {
     std::vector<std::string> entries;

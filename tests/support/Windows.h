@@ -55,6 +55,9 @@ void PressKey(wxWindow* control, int keyCode, int modifiers = 0);
 /// Gives a control the focus and types a text of ASCII characters into it.
 void Type(wxWindow* control, const char* text);
 
+/// Clicks into the middle of a control with the mouse.
+void Click(wxWindow* control);
+
 /// The entries of a drop-down list or list box.
 std::vector<std::string> EntriesOfBox(const wxItemContainer* box);
 

@@ -13,7 +13,18 @@ namespace
 class TestApp : public wxApp
 {
 public:
-    bool OnInit() override { return true; }
+    bool OnInit() override
+    {
+        // The toolkit's own checks must fail the test, not wait in a dialog.
+        wxSetAssertHandler(
+            [](const wxString& file, int line, const wxString&, const wxString& condition,
+               const wxString& message)
+            {
+                GTEST_NONFATAL_FAILURE_(
+                    (file + ":" + std::to_string(line) + " " + condition + " " + message).utf8_str());
+            });
+        return true;
+    }
 
     int OnRun() override
     {

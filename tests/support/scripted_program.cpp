@@ -1,11 +1,12 @@
 // The program itself, but for two things: what its message boxes say goes to standard output and each is
-// answered at once, and when the main window stands, the window is left as VARLO_LEAVE_BY says: by the "exit"
-// button or by its "close" box.
+// answered at once, and the splash is dismissed at once, and the main window is left as VARLO_LEAVE_BY says:
+// by the "exit" button or by its "close" box.
 
 #include "data/System.h"
 #include "support/Windows.h"
 #include "ui/app/VarlostudijiApp.h"
 #include "ui/main/frmMain.h"
+#include "ui/startup/frmSplash.h"
 
 #include <wx/button.h>
 
@@ -42,6 +43,7 @@ public:
 private:
     void Leave()
     {
+        FindOpen<frmSplash>()->CloseSplash();
         auto* window = FindOpen<frmMain>();
         if (System::EnvironmentVariable("VARLO_LEAVE_BY") == "close")
         {

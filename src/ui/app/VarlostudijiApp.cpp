@@ -3,7 +3,7 @@
 #include "data/Product.h"
 #include "ui/app/ErrorReport.h"
 #include "ui/controls/Strings.h"
-#include "ui/main/frmMain.h"
+#include "ui/startup/frmSplash.h"
 
 bool VarlostudijiApp::OnInit()
 {
@@ -11,7 +11,7 @@ bool VarlostudijiApp::OnInit()
     SetAppDisplayName(ToWx(ProductName));
     try
     {
-        (new frmMain)->Form_Load();
+        (new frmSplash)->Show();
     }
     catch (...)
     {

@@ -4,6 +4,7 @@
 
 #include <wx/button.h>
 #include <wx/choice.h>
+#include <wx/font.h>
 #include <wx/gdicmn.h>
 #include <wx/listbox.h>
 #include <wx/settings.h>
@@ -15,11 +16,16 @@
 
 #include <algorithm>
 
+wxFont ProgramFont()
+{
+    const wxFont systemFont = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT);
+    wxFont font = systemFont;
+    return font.SetFaceName("Segoe UI") ? font : systemFont;
+}
+
 void UseProgramFont(wxTopLevelWindow& window)
 {
-    wxFont font = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT);
-    if (font.SetFaceName("Segoe UI"))
-        window.SetFont(font);
+    window.SetFont(ProgramFont());
 }
 
 wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption)

@@ -7,6 +7,7 @@
 
 class wxButton;
 class wxChoice;
+class wxFont;
 class wxListBox;
 class wxSizer;
 class wxStaticBoxSizer;
@@ -18,8 +19,10 @@ class wxWindow;
 // Controls as every window of the program makes them: with the name that the code has for them, and captions
 // in UTF-8.
 
-/// Sets the program's font, Segoe UI at the system's size (the system's own font where it is missing), which
-/// every control made in the window from then on inherits.
+/// The program's font: Segoe UI at the system's size, the system's own font where it is missing.
+wxFont ProgramFont();
+
+/// Sets the program's font, which every control made in the window from then on inherits.
 void UseProgramFont(wxTopLevelWindow& window);
 
 wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption);

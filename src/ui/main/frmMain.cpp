@@ -23,6 +23,7 @@
 #include "ui/main/CourseDeletion.h"
 #include "ui/main/FilterChoices.h"
 #include "ui/main/SemesterStatistics.h"
+#include "ui/startup/frmAbout.h"
 #include "validation/modCSVValidator.h"
 
 #include <wx/button.h>
@@ -140,18 +141,15 @@ wxSizer* frmMain::FilterRow()
     };
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    const wxSizerFlags labelFlags = wxSizerFlags().CenterVertical().Border(wxRIGHT, Gap(this));
-    const wxSizerFlags boxFlags = wxSizerFlags().CenterVertical().Border(wxRIGHT, 2 * Gap(this));
     for (const Filter& filter : filters)
     {
-        row->Add(NewLabel(Panel, filter.LabelName, filter.Caption), labelFlags);
         *filter.Box = NewChoice(Panel, filter.Name, filter.Characters);
-        row->Add(*filter.Box, boxFlags);
+        AddLabelled(*row, Panel, filter.LabelName, filter.Caption, *filter.Box);
     }
-    Label1 = NewLabel(Panel, "Label1", "Traži:");
-    row->Add(Label1, labelFlags);
     txtSearch = NewTextBox(Panel, "txtSearch", 16);
-    row->Add(txtSearch, wxSizerFlags(1).CenterVertical());
+    Label1 = AddLabelled(*row, Panel, "Label1", "Traži:", txtSearch);
+    row->GetItem(txtSearch)->SetProportion(1); // it takes the width that the boxes leave
+    row->GetItem(txtSearch)->SetBorder(0);
     return row;
 }
 
@@ -229,11 +227,12 @@ void frmMain::BindEvents()
     onPress(cmdStatZavodi, &frmMain::cmdStatZavodi_Click);
     onPress(cmdExport, &frmMain::cmdExport_Click);
     onPress(cmdExportVarlo, &frmMain::cmdExportVarlo_Click);
+    onPress(cmdAbout, &frmMain::cmdAbout_Click);
     onPress(cmdExit, &frmMain::cmdExit_Click);
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Form_Unload(); });
 
     // Their windows are not there yet.
-    for (wxButton* button : {cmdECTSCalc, cmdAbout})
+    for (wxButton* button : {cmdECTSCalc})
         button->Disable();
 }
 
@@ -421,6 +420,11 @@ void frmMain::cmdStatNositelji_Click()
 void frmMain::cmdStatZavodi_Click()
 {
     ShowShared<frmStatZavodi>(this);
+}
+
+void frmMain::cmdAbout_Click()
+{
+    frmAbout(this).ShowModal();
 }
 
 void frmMain::cmdExport_Click()

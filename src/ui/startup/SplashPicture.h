@@ -1,0 +1,9 @@
+#pragma once
+
+#include <wx/gdicmn.h>
+
+class wxDC;
+
+/// Draws the splash picture to fill a size in pixels: the program's name on a shelf of catalogue cards. It is
+/// drawn, not stored, so that it is sharp at every resolution.
+void DrawSplashPicture(wxDC& dc, wxSize size);

@@ -1,0 +1,59 @@
+#include "ui/startup/frmSplash.h"
+
+#include "data/Product.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/Strings.h"
+#include "ui/main/frmMain.h"
+#include "ui/startup/SplashPicture.h"
+
+#include <wx/dcbuffer.h>
+
+namespace
+{
+
+constexpr int ShownMilliseconds = 1000;
+
+const wxSize PictureSize = {480, 270}; // at 96 dots to the inch
+
+} // namespace
+
+frmSplash::frmSplash() : Timer1(this)
+{
+    Create(nullptr, wxID_ANY, ToWx(ProductName), wxDefaultPosition, wxDefaultSize,
+           wxBORDER_NONE | wxFRAME_NO_TASKBAR, "frmSplash");
+    UseProgramFont(*this);
+
+    Picture1 =
+        new wxWindow(this, wxID_ANY, wxDefaultPosition, FromDIP(PictureSize), wxWANTS_CHARS, "Picture1");
+    Picture1->SetBackgroundStyle(wxBG_STYLE_PAINT);
+    Picture1->Bind(wxEVT_PAINT,
+                   [this](wxPaintEvent&)
+                   {
+                       wxAutoBufferedPaintDC dc(Picture1);
+                       DrawSplashPicture(dc, Picture1->GetClientSize());
+                   });
+    SetClientSize(Picture1->GetSize());
+    CentreOnScreen();
+
+    Picture1->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { CloseSplash(); });
+    Picture1->Bind(wxEVT_KEY_DOWN, &frmSplash::Form_KeyDown, this);
+    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { CloseSplash(); });
+    Picture1->SetFocus();
+    Timer1.StartOnce(ShownMilliseconds);
+}
+
+void frmSplash::CloseSplash()
+{
+    if (Closing)
+        return;
+    Closing = true;
+    Timer1.Stop();
+    (new frmMain)->Form_Load();
+    Destroy();
+}
+
+void frmSplash::Form_KeyDown(wxKeyEvent& key)
+{
+    if (key.GetKeyCode() == WXK_ESCAPE)
+        CloseSplash();
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <wx/frame.h>
+#include <wx/timer.h>
+
+class wxKeyEvent;
+
+/// The program's first window: its picture for a moment, then the main window.
+class frmSplash : public wxFrame
+{
+public:
+    frmSplash();
+
+    /// Shows the main window and goes; only once, whatever calls it. @throws RuntimeError from loading the
+    /// tables
+    void CloseSplash();
+
+private:
+    void Form_KeyDown(wxKeyEvent& key);
+
+    bool Closing = false;
+
+    // Controls
+    wxWindow* Picture1;
+    wxTimer Timer1;
+};

@@ -1,0 +1,150 @@
+#include "support/Catalogue.h"
+#include "support/TestFolder.h"
+#include "support/Windows.h"
+#include "ui/main/frmMain.h"
+#include "ui/startup/frmAbout.h"
+#include "ui/startup/frmSplash.h"
+
+#include <wx/datetime.h>
+#include <wx/stattext.h>
+#include <wx/stopwatch.h>
+
+#include <algorithm>
+
+namespace
+{
+
+class Startup : public testing::Test
+{
+protected:
+    Startup() { SmallCatalogue().WriteTo(Folder.Data()); }
+    void TearDown() override { CloseAllWindows(); }
+
+    static frmSplash* ShowSplash()
+    {
+        auto* splash = new frmSplash;
+        splash->Show();
+        Settle();
+        return splash;
+    }
+
+    /// What is open: the splash window, and how many main windows.
+    static std::pair<bool, long> OpenWindows()
+    {
+        const auto isMain = [](wxWindow* window) { return dynamic_cast<frmMain*>(window) != nullptr; };
+        return {FindOpen<frmSplash>() != nullptr, std::ranges::count_if(wxTopLevelWindows, isMain)};
+    }
+
+    TestFolder Folder;
+};
+
+using Open = std::pair<bool, long>;
+
+TEST_F(Startup, TheSplashLeadsIntoTheMainWindowAfterASecond)
+{
+    const wxStopWatch watch;
+    ShowSplash();
+    EXPECT_EQ(OpenWindows(), Open(true, 0));
+    while (FindOpen<frmSplash>() != nullptr && watch.Time() < 10'000)
+        Settle();
+    EXPECT_GE(watch.Time(), 1000);
+    EXPECT_EQ(OpenWindows(), Open(false, 1));
+}
+
+TEST_F(Startup, EscapeEndsTheSplashAtOnceAndOtherKeysDoNot)
+{
+    frmSplash* splash = ShowSplash();
+    auto* picture = Find<wxWindow>(splash, "Picture1");
+    PressKey(picture, WXK_SPACE);
+    PressKey(picture, WXK_RETURN);
+    EXPECT_EQ(OpenWindows(), Open(true, 0));
+    PressKey(picture, WXK_ESCAPE);
+    EXPECT_EQ(OpenWindows(), Open(false, 1));
+}
+
+TEST_F(Startup, AClickEndsTheSplash)
+{
+    frmSplash* splash = ShowSplash();
+    Click(Find<wxWindow>(splash, "Picture1"));
+    EXPECT_EQ(OpenWindows(), Open(false, 1));
+}
+
+TEST_F(Startup, TheMainWindowOpensOnceWhateverComesTogether)
+{
+    frmSplash* splash = ShowSplash();
+    splash->CloseSplash();
+    splash->CloseSplash();
+    wxMilliSleep(1100);
+    Settle();
+    EXPECT_EQ(OpenWindows(), Open(false, 1));
+}
+
+/// Runs a script while the About box is open, then closes the box by its button.
+class AboutBox : public Startup
+{
+protected:
+    template<typename Script>
+    void WhileOpen(Script script)
+    {
+        frmAbout about(nullptr);
+        about.CallAfter(
+            [&]
+            {
+                script(about);
+                Press(&about, "cmdOk");
+            });
+        EXPECT_EQ(about.ShowModal(), wxID_OK);
+    }
+
+    static std::string Label(wxWindow& about, const char* name)
+    {
+        return Find<wxStaticText>(&about, name)->GetLabelText().utf8_string();
+    }
+};
+
+TEST_F(AboutBox, SaysWhatTheProgramIs)
+{
+    WhileOpen(
+        [this](frmAbout& about)
+        {
+            EXPECT_EQ(about.GetTitle(), "About Varlostudiji");
+            EXPECT_EQ(Label(about, "lblTitle"), "Varlostudiji");
+            EXPECT_EQ(Find<wxWindow>(&about, "lblTitle")->GetFont().GetPointSize(), 14);
+            EXPECT_EQ(Find<wxWindow>(&about, "lblTitle")->GetFont().GetWeight(), wxFONTWEIGHT_BOLD);
+            EXPECT_EQ(Label(about, "lblVersion"), "Verzija 1.0.20260309");
+            EXPECT_EQ(Label(about, "lblAuthor"), "Autor: Varlostudiji tim");
+            EXPECT_EQ(Label(about, "lblWeb"), "https://varlostudiji.example");
+            EXPECT_EQ(Label(about, "lblEmail"), "podrska@varlostudiji.example");
+            const std::string folder = Folder.DataPath("");
+            EXPECT_EQ(Label(about, "lblPathData"), "Baza: " + folder.substr(0, folder.size() - 1));
+        });
+}
+
+TEST_F(AboutBox, ShowsTheCurrentYear)
+{
+    const std::string year = std::to_string(wxDateTime::Now().GetYear());
+    WhileOpen(
+        [&](frmAbout& about) {
+            EXPECT_NE(Label(about, "lblDescription").find("© " + year + " Varlostudiji"), std::string::npos);
+        });
+    EXPECT_EQ(AboutDescription(2031), "Aplikacija za upravljanje kolegijima, nositeljima i statistikama.\r\n"
+                                      "Razina: Preddiplomski i Diplomski studij.\r\n"
+                                      "© 2031 Varlostudiji");
+}
+
+TEST_F(AboutBox, HandsItsLinksToTheSystem)
+{
+    std::vector<std::string> opened;
+    SetLinkOpener([&](const std::string& address) { opened.push_back(address); });
+    WhileOpen(
+        [](frmAbout& about)
+        {
+            Click(Find<wxWindow>(&about, "lblWeb"));
+            Click(Find<wxWindow>(&about, "lblEmail"));
+        });
+    SetLinkOpener({});
+    EXPECT_EQ(opened, (std::vector<std::string>{"https://varlostudiji.example",
+                                                "mailto:podrska@varlostudiji.example"}));
+}
+
+} // namespace

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "support/Windows.h"
+#include "ui/course_editor/frmKolegij.h"
+
+#include <exception>
+#include <functional>
+#include <stdexcept>
+#include <utility>
+
+/// What a script has made of the course editor.
+enum class EditorEnd
+{
+    Closed,   ///< Saved or cancelled.
+    LeftOpen, ///< Still open when the script was through; it is cancelled then.
+};
+
+/// Runs a script in the first course editor that is shown modally while it lives, from inside its event loop.
+class EditorSession : public wxModalDialogHook
+{
+public:
+    using Script = std::function<void(frmKolegij* editor)>;
+
+    explicit EditorSession(Script script) : Steps(std::move(script)) { Register(); }
+    ~EditorSession() override { Unregister(); }
+
+    bool Opened() const { return HasOpened; }
+
+    /// How the script left the editor; throws what the script threw.
+    EditorEnd Outcome() const
+    {
+        if (Failure)
+            std::rethrow_exception(Failure);
+        return End;
+    }
+
+protected:
+    int Enter(wxDialog* dialog) override
+    {
+        auto* editor = dynamic_cast<frmKolegij*>(dialog);
+        if (editor != nullptr && !HasOpened)
+        {
+            HasOpened = true;
+            editor->CallAfter([this, editor] { Run(editor); });
+        }
+        return wxID_NONE; // the editor itself is to be shown
+    }
+
+private:
+    void Run(frmKolegij* editor)
+    {
+        Settle();
+        try
+        {
+            Steps(editor);
+        }
+        catch (...)
+        {
+            Failure = std::current_exception();
+        }
+        if (!editor->IsShown())
+            return;
+        End = EditorEnd::LeftOpen;
+        editor->EndModal(wxID_CANCEL);
+    }
+
+    Script Steps;
+    bool HasOpened = false;
+    EditorEnd End = EditorEnd::Closed;
+    std::exception_ptr Failure;
+};
+
+/// Opens the course editor by `open` and runs a script in it; the test fails by an exception when none opens.
+inline EditorEnd RunEditor(const std::function<void()>& open, EditorSession::Script script)
+{
+    const EditorSession session(std::move(script));
+    open();
+    Settle();
+    if (!session.Opened())
+        throw std::runtime_error("no course editor opened");
+    return session.Outcome();
+}
