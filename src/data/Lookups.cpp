@@ -3,6 +3,8 @@
 #include "data/Text.h"
 #include "data/modData.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace modData
@@ -17,6 +19,9 @@ std::string TextOf(const Table& table, std::int32_t id, std::size_t column)
     const Row* row = table.FindFirst(idColumn, id);
     return row == nullptr ? std::string() : std::string(row->Field(column));
 }
+
+/// As many links as there are.
+constexpr std::size_t NoLimit = SIZE_MAX;
 
 struct PlacedID
 {
@@ -87,7 +92,7 @@ std::string GetSmjeroviKraticeString(std::int32_t kolegijId)
 std::string GetNositeljiString(std::int32_t kolegijId)
 {
     std::string joined;
-    for (const PlacedID& nositelj : LinkedNastavnici(kolegijId, std::string::npos))
+    for (const PlacedID& nositelj : LinkedNastavnici(kolegijId, NoLimit))
         AppendJoined(joined, "; ", GetNastavnikIme(nositelj.NastavnikID));
     return joined;
 }
@@ -98,7 +103,7 @@ void GetNositelji123(std::int32_t kolegijId, std::string& first, std::string& se
     for (std::string* name : names)
         name->clear();
     const std::vector<PlacedID> kept = LinkedNastavnici(kolegijId, std::size(names));
-    for (std::size_t i = 0; i < kept.size(); ++i)
+    for (std::size_t i = 0; i < std::min(kept.size(), std::size(names)); ++i)
         *names[i] = GetNastavnikIme(kept[i].NastavnikID);
 }
 

@@ -11,7 +11,8 @@ void FillChoices(wxItemContainer& box, const std::vector<Choice>& choices)
     for (const Choice& choice : choices)
     {
         texts.push_back(ToWx(choice.Text));
-        // The toolkit keeps a pointer with each entry; it never follows it. NOLINTNEXTLINE(performance-no-int-to-ptr)
+        // The toolkit keeps a pointer with each entry; it never follows it.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         data.push_back(reinterpret_cast<void*>(static_cast<std::intptr_t>(choice.Data)));
     }
     if (texts.empty())

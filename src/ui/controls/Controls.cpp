@@ -1,5 +1,6 @@
 #include "ui/controls/Controls.h"
 
+#include "ui/controls/ProgramIcons.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -23,9 +24,10 @@ wxFont ProgramFont()
     return font.SetFaceName("Segoe UI") ? font : systemFont;
 }
 
-void UseProgramFont(wxTopLevelWindow& window)
+void UseProgramLook(wxTopLevelWindow& window)
 {
     window.SetFont(ProgramFont());
+    window.SetIcons(ProgramIcons());
 }
 
 wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption)

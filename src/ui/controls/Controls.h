@@ -22,8 +22,8 @@ class wxWindow;
 /// The program's font: Segoe UI at the system's size, the system's own font where it is missing.
 wxFont ProgramFont();
 
-/// Sets the program's font, which every control made in the window from then on inherits.
-void UseProgramFont(wxTopLevelWindow& window);
+/// Gives a window the program's icon, and its font, which every control made in it from then on inherits.
+void UseProgramLook(wxTopLevelWindow& window);
 
 wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption);
 wxStaticText* NewLabel(wxWindow* parent, std::string_view name, std::string_view caption);

@@ -33,7 +33,7 @@ frmKolegij::frmKolegij(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Title), wxDefaultPosition, wxDefaultSize,
            wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, "frmKolegij");
-    UseProgramFont(*this);
+    UseProgramLook(*this);
 
     // The controls are made in tab order: fields, lists, buttons.
     auto* content = new wxBoxSizer(wxVERTICAL);

@@ -38,7 +38,7 @@ frmStatZavodi::frmStatZavodi(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmStatZavodi");
-    UseProgramFont(*this);
+    UseProgramLook(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: filters, lists, buttons.

@@ -40,7 +40,7 @@ frmStatNositelji::frmStatNositelji(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmStatNositelji");
-    UseProgramFont(*this);
+    UseProgramLook(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: lecturers, filters, lists, buttons.

@@ -100,7 +100,7 @@ frmMain::frmMain()
 {
     Create(nullptr, wxID_ANY, ToWx(ProductName), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmMain");
-    UseProgramFont(*this);
+    UseProgramLook(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: filters, lists, commands.

@@ -46,7 +46,7 @@ frmAbout::frmAbout(wxWindow* parent)
 {
     Create(parent, wxID_ANY, "About " + ToWx(ProductName), wxDefaultPosition, wxDefaultSize,
            wxDEFAULT_DIALOG_STYLE, "frmAbout");
-    UseProgramFont(*this);
+    UseProgramLook(*this);
 
     const std::string version(ProductVersion);
     const std::string email(EmailAddress);

@@ -21,7 +21,7 @@ frmSplash::frmSplash() : Timer1(this)
 {
     Create(nullptr, wxID_ANY, ToWx(ProductName), wxDefaultPosition, wxDefaultSize,
            wxBORDER_NONE | wxFRAME_NO_TASKBAR, "frmSplash");
-    UseProgramFont(*this);
+    UseProgramLook(*this);
 
     Picture1 =
         new wxWindow(this, wxID_ANY, wxDefaultPosition, FromDIP(PictureSize), wxWANTS_CHARS, "Picture1");

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <wx/iconbndl.h>
+
+/// The program's icon in the sizes that the system asks for.
+wxIconBundle ProgramIcons();
