@@ -43,10 +43,17 @@ on_virtual_display() {
 
 # use_wine FOLDER: lets Wine work in a folder of its own, set up anew, and without its own remarks.
 use_wine() {
-    mkdir -p "$1"
+    rm -rf "$1"
+    mkdir -p "$1/drive_c/windows/Fonts"
     WINEPREFIX=$(cd "$1" && pwd)
     export WINEPREFIX WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
     say "setting up Wine"
+    # Debian's Wine does not look for its own fonts where they are.
+    cp /usr/share/wine/fonts/*.ttf "$1/drive_c/windows/Fonts/"
     on_virtual_display wine wineboot --init >/dev/null 2>&1
+    # There is no window manager: left to itself, Wine waits for one whenever a window goes.
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
     wineserver --wait
+    # Kept running, the server saves every program the start of one.
+    wineserver --persistent=60
 }

@@ -49,12 +49,22 @@ void WriteContent(const fs::path& file, std::string_view content, std::string_vi
         throw FileError(LastFailure(), path);
 }
 
+/// What stands at a path, or that nothing does; what cannot even be asked is an error.
+fs::file_type TypeOf(const fs::path& file, std::string_view path)
+{
+    std::error_code failure;
+    const fs::file_type type = fs::status(file, failure).type();
+    if (type == fs::file_type::none)
+        throw FileError(failure, path);
+    return type;
+}
+
 void RequireWritable(const fs::path& file, fs::file_type type, std::string_view path)
 {
     if (type == fs::file_type::directory)
         throw FileError(std::make_error_code(std::errc::is_a_directory), path);
     const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-    if (!fs::is_directory(folder))
+    if (TypeOf(folder, path) != fs::file_type::directory)
         throw FileError(std::make_error_code(std::errc::no_such_file_or_directory), path);
     if (!System::MayWrite(folder) || (type != fs::file_type::not_found && !System::MayWrite(file)))
         throw FileError(std::make_error_code(std::errc::permission_denied), path);
@@ -69,8 +79,8 @@ void WriteBesideAndReplace(const fs::path& file, std::string_view content, std::
     try
     {
         WriteContent(temporary, content, path);
-        if (fs::exists(file, ignored))
-            fs::permissions(temporary, fs::status(file).permissions(), ignored);
+        if (const fs::file_status former = fs::status(file, ignored); fs::exists(former))
+            fs::permissions(temporary, former.permissions(), ignored);
         if (const std::error_code failure = System::Replace(temporary, file))
             throw FileError(failure, path);
     }
@@ -91,7 +101,7 @@ fs::path ToPath(std::string_view path)
 std::string ReadFile(std::string_view path, std::size_t limit)
 {
     const fs::path file = ToPath(path);
-    if (fs::is_directory(file))
+    if (TypeOf(file, path) == fs::file_type::directory)
         throw FileError(std::make_error_code(std::errc::is_a_directory), path);
     const OpenFile opened = Open(file, "rb", path);
 
@@ -113,7 +123,7 @@ std::string ReadFile(std::string_view path, std::size_t limit)
 void CreateFileIfMissing(std::string_view path)
 {
     const fs::path file = ToPath(path);
-    if (!fs::exists(file))
+    if (TypeOf(file, path) == fs::file_type::not_found)
         Open(file, "ab", path);
 }
 
@@ -124,7 +134,7 @@ void ReplaceFile(std::string_view path, std::string_view content)
     const fs::path named = ToPath(path);
     const fs::path file = fs::is_symlink(named, ignored) ? fs::weakly_canonical(named, ignored) : named;
 
-    const fs::file_type type = fs::status(file, ignored).type();
+    const fs::file_type type = TypeOf(file, path);
     RequireWritable(file, type, path);
     if (type == fs::file_type::regular || type == fs::file_type::not_found)
         WriteBesideAndReplace(file, content, path);

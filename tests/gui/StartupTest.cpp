@@ -8,6 +8,7 @@
 #include <wx/datetime.h>
 #include <wx/stattext.h>
 #include <wx/stopwatch.h>
+#include <wx/uiaction.h>
 
 #include <algorithm>
 
@@ -24,6 +25,11 @@ protected:
     {
         auto* splash = new frmSplash;
         splash->Show();
+        Settle();
+        // A window manager would give the new window the keyboard; without one it goes by the mouse.
+        const wxRect place = splash->GetScreenRect();
+        wxUIActionSimulator().MouseMove(place.GetPosition() + place.GetSize() / 2);
+        splash->Raise();
         Settle();
         return splash;
     }

@@ -564,14 +564,14 @@ TEST_F(FailingExport, AFileThatAnotherProgramHasLocked)
 TEST_F(FailingExport, ATypeMismatchWhileTheDataAreChecked)
 {
     Open();
-    modData::KolegijNastavnici.Append({"1", "x7", "Nositelj", "1"});
+    modData::Nastavnici.Append({"9", "Bez zavoda", "", "x7"});
     const SaveAnswers save(Folder.PathOf("s.csv"));
     MessageAnswers answers;
     Press(Window, "cmdExport");
     EXPECT_EQ(TakeUncaughtError(), "");
     const MessageShown message = answers.TakeOnly();
     EXPECT_EQ(message.Text, "Greška pri izvozu: Vrijednost \"x7\" nije broj (datoteka "
-                            "db_kolegij_nastavnik.csv, redak unesen u programu, stupac \"NastavnikID\").");
+                            "db_nastavnici.csv, redak unesen u programu, stupac \"ZavodID\").");
     EXPECT_TRUE(message.Has(wxICON_ERROR | wxOK));
     EXPECT_TRUE(save.Shown().empty());
     ExpectStillWorks();

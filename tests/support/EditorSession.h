@@ -49,6 +49,7 @@ protected:
 private:
     void Run(frmKolegij* editor)
     {
+        editor->Raise(); // where there is no window manager, nobody else makes a new window the active one
         Settle();
         try
         {

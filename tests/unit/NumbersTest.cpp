@@ -3,6 +3,19 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
+TEST(Numbers, ANumberIsBlanksASignDigitsAndOneSeparator)
+{
+    for (const char* text : {"7", " 7 ", "+7", "-7", "7.", ".5", "7,0", "0007", "  -0,5  "})
+        EXPECT_TRUE(IsNumeric(text)) << text;
+    for (const char* text : {"", " ", "-", "+", ".", "-,", "7a", "1e3", "0x10", "1.000.000", "1.2,3", "- 7",
+                             "7 7", "\t7", "7\n", "--7",
+                             "\xC2\xA0"
+                             "7"})
+        EXPECT_FALSE(IsNumeric(text)) << text;
+}
+
 TEST(Numbers, HalvesAreRoundedToEven)
 {
     EXPECT_EQ(ToLong("0.5"), 0);
@@ -12,15 +25,49 @@ TEST(Numbers, HalvesAreRoundedToEven)
     EXPECT_EQ(ToLong("-1.5"), -2);
     EXPECT_EQ(ToLong("-0.5"), 0);
     EXPECT_EQ(ToLong("1.49999"), 1);
+    EXPECT_EQ(ToLong("7.0"), 7);
 }
 
 TEST(Numbers, TheRangeEndsWithRounding)
 {
-    EXPECT_EQ(ToLong("2147483647"), 2147483647);
-    EXPECT_EQ(ToLong("2147483647.4"), 2147483647);
+    EXPECT_EQ(ToLong("2147483647"), INT32_MAX);
+    EXPECT_EQ(ToLong("2147483647.4"), INT32_MAX);
     EXPECT_THROW(ToLong("2147483647.5"), Overflow);
     EXPECT_EQ(ToLong("-2147483648.5"), INT32_MIN);
     EXPECT_THROW(ToLong("-2147483648.51"), Overflow);
     EXPECT_THROW(ToLong("99999999999999999999999999"), Overflow);
     EXPECT_EQ(ToLong("00000000000000000000000007"), 7);
+}
+
+TEST(Numbers, ATextThatIsNoNumberIsATypeMismatch)
+{
+    EXPECT_THROW(ToLong(""), TypeMismatch);
+    EXPECT_THROW(ToLong("abc"), TypeMismatch);
+    try
+    {
+        ToLong("sedam");
+        FAIL();
+    }
+    catch (const RuntimeError& error)
+    {
+        EXPECT_EQ(error.Number(), 13);
+        EXPECT_EQ(error.Description(), "Vrijednost \"sedam\" nije broj.");
+    }
+}
+
+TEST(Numbers, SafeConversionNeverFails)
+{
+    EXPECT_EQ(ToLongOrZero(""), 0);
+    EXPECT_EQ(ToLongOrZero("abc"), 0);
+    EXPECT_EQ(ToLongOrZero("99999999999"), 0);
+    EXPECT_EQ(ToLongOrZero(" 12,5 "), 12);
+}
+
+TEST(Numbers, SumsAndProductsAreChecked)
+{
+    EXPECT_EQ(CheckedSum(INT32_MAX, -1), INT32_MAX - 1);
+    EXPECT_THROW(CheckedSum(INT32_MAX, 1), Overflow);
+    EXPECT_THROW(CheckedSum(INT32_MIN, -1), Overflow);
+    EXPECT_EQ(CheckedProduct(46340, 46340), 2147395600);
+    EXPECT_THROW(CheckedProduct(46341, 46341), Overflow);
 }

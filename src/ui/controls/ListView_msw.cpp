@@ -3,6 +3,7 @@
 #include "ui/controls/ListView.h"
 #include "ui/controls/NativeList.h"
 
+#include <wx/imaglist.h>
 #include <wx/itemattr.h>
 #include <wx/listctrl.h>
 
@@ -97,6 +98,8 @@ protected:
         return View.CellText(static_cast<int>(row), static_cast<int>(column));
     }
 
+    int OnGetItemImage(long) const override { return NoImage; }
+    int OnGetItemColumnImage(long, long) const override { return NoImage; }
     wxItemAttr* OnGetItemAttr(long) const override { return nullptr; }
 
     wxItemAttr* OnGetItemColumnAttr(long row, long column) const override
@@ -111,6 +114,8 @@ protected:
     }
 
 private:
+    static constexpr int NoImage = -1;
+
     ListView& View;
     Listener ToView;
     mutable wxItemAttr Attributes; // of the cell asked for last: the list takes it over before it asks again

@@ -43,7 +43,7 @@ std::optional<EntryFault> CheckNositelji(const CourseEntry& entry)
         return EntryFault{NastavnikFields[0], "Odaberite barem jednog nastavnika."};
     for (std::size_t later = 1; later < ids.size(); ++later)
         for (std::size_t earlier = 0; earlier < later; ++earlier)
-            if (ids[earlier] && ids[earlier] == ids[later])
+            if (ids[earlier].value_or(0) != 0 && ids[earlier] == ids[later])
                 return EntryFault{NastavnikFields[later],
                                   "Ne možete odabrati istog nastavnika više puta. Promijenite odabir."};
     return std::nullopt;

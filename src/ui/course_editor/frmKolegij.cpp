@@ -6,6 +6,7 @@
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/Messages.h"
+#include "ui/controls/OptionalSelection.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -129,15 +130,9 @@ void frmKolegij::BindEvents()
     cboProgram->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboProgram_Click(); });
     cmdSave->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdSave_Click(); });
     cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_CANCEL); });
+    LetSelectionBeEmpty(*lstSemestar);
     for (wxListBox* list : lstNastavnik)
-        list->Bind(wxEVT_KEY_DOWN,
-                   [list](wxKeyEvent& key)
-                   {
-                       if (key.GetKeyCode() == WXK_DELETE)
-                           list->SetSelection(wxNOT_FOUND);
-                       else
-                           key.Skip();
-                   });
+        LetSelectionBeEmpty(*list);
 }
 
 int frmKolegij::ShowModal()

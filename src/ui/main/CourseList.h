@@ -17,7 +17,7 @@ struct CourseFilter
     std::int32_t StudijID = 0;
     std::int32_t SmjerID = 0;
     std::int32_t Semestar = 0;
-    std::string Search;
+    std::string Search = {};
 };
 
 /// The course list's rows: one per course that passes the filter, in table order; electives are blue.

@@ -134,10 +134,10 @@ wxSizer* frmMain::FilterRow()
         int Characters;
     };
     const Filter filters[] = {
-        {&cboRazina, "cboRazina", "lblRazina", "Razina:", 14},
-        {&cboProgram, "cboProgram", "lblProgram", "Program:", 8},
-        {&cboSmjer, "cboSmjer", "lblSmjer", "Smjer:", 8},
-        {&cboSemestar, "cboSemestar", "lblSemestar", "Semestar:", 4},
+        {&cboRazina, "cboRazina", "lblRazina", "Razina:", 12},
+        {&cboProgram, "cboProgram", "lblProgram", "Program:", 5},
+        {&cboSmjer, "cboSmjer", "lblSmjer", "Smjer:", 5},
+        {&cboSemestar, "cboSemestar", "lblSemestar", "Semestar:", 3},
     };
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);
@@ -146,7 +146,7 @@ wxSizer* frmMain::FilterRow()
         *filter.Box = NewChoice(Panel, filter.Name, filter.Characters);
         AddLabelled(*row, Panel, filter.LabelName, filter.Caption, *filter.Box);
     }
-    txtSearch = NewTextBox(Panel, "txtSearch", 16);
+    txtSearch = NewTextBox(Panel, "txtSearch", 6);
     Label1 = AddLabelled(*row, Panel, "Label1", "Traži:", txtSearch);
     row->GetItem(txtSearch)->SetProportion(1); // it takes the width that the boxes leave
     row->GetItem(txtSearch)->SetBorder(0);

@@ -1,0 +1,66 @@
+#include "ui/controls/OptionalSelection.h"
+
+#include <wx/button.h>
+#include <wx/listbox.h>
+#include <wx/toplevel.h>
+#include <wx/utils.h>
+
+namespace
+{
+
+/// Some systems select the first entry when the list gets the focus by the keyboard or from code.
+void OnFocus(wxListBox& list, wxFocusEvent& event)
+{
+    event.Skip();
+    if (list.GetSelection() == wxNOT_FOUND && !wxGetMouseState().LeftIsDown())
+        list.CallAfter([&list] { list.SetSelection(wxNOT_FOUND); });
+}
+
+void OnClick(wxListBox& list, wxMouseEvent& event)
+{
+    const int clicked = list.HitTest(event.GetPosition());
+    if (!event.ControlDown() || clicked == wxNOT_FOUND || clicked != list.GetSelection())
+    {
+        event.Skip();
+        return;
+    }
+    list.SetFocus();
+    list.SetSelection(wxNOT_FOUND);
+}
+
+void PressDefaultButton(wxListBox& list)
+{
+    auto* window = dynamic_cast<wxTopLevelWindow*>(wxGetTopLevelParent(&list));
+    auto* button = window == nullptr ? nullptr : dynamic_cast<wxButton*>(window->GetDefaultItem());
+    if (button == nullptr || !button->IsEnabled())
+        return;
+    wxCommandEvent press(wxEVT_BUTTON, button->GetId());
+    press.SetEventObject(button);
+    wxPostEvent(button, press);
+}
+
+void OnKey(wxListBox& list, wxKeyEvent& event)
+{
+    switch (event.GetKeyCode())
+    {
+    case WXK_DELETE:
+    case WXK_NUMPAD_DELETE:
+        list.SetSelection(wxNOT_FOUND);
+        break;
+    case WXK_RETURN:
+    case WXK_NUMPAD_ENTER:
+        PressDefaultButton(list);
+        break;
+    default:
+        event.Skip();
+    }
+}
+
+} // namespace
+
+void LetSelectionBeEmpty(wxListBox& list)
+{
+    list.Bind(wxEVT_SET_FOCUS, [&list](wxFocusEvent& event) { OnFocus(list, event); });
+    list.Bind(wxEVT_LEFT_DOWN, [&list](wxMouseEvent& event) { OnClick(list, event); });
+    list.Bind(wxEVT_KEY_DOWN, [&list](wxKeyEvent& event) { OnKey(list, event); });
+}

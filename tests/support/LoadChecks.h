@@ -1,0 +1,86 @@
+#pragma once
+
+#include "lists/ListRow.h"
+#include "support/TestFolder.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+// What the tests of teaching load share: rows and files as lines, and the demo catalogue.
+
+/// The rows of a list as lines, the cells joined by ";".
+inline std::vector<std::string> LinesOfRows(const std::vector<ListRow>& rows)
+{
+    std::vector<std::string> lines;
+    for (const ListRow& row : rows)
+    {
+        std::string line = row.empty() ? std::string() : row.front().Text;
+        for (std::size_t i = 1; i < row.size(); ++i)
+            line.append(";").append(row[i].Text);
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+/// The first cell of each such line.
+inline std::vector<std::string> FirstCells(std::vector<std::string> lines)
+{
+    for (std::string& line : lines)
+        line.resize(std::min(line.find(';'), line.size()));
+    return lines;
+}
+
+/// The lines of a file's content without their ends; what stands behind the last CR LF is a line too, if it
+/// is not empty.
+inline std::vector<std::string> FileLines(std::string_view content)
+{
+    std::vector<std::string> lines;
+    while (!content.empty())
+    {
+        const std::size_t end = content.find("\r\n");
+        lines.emplace_back(content.substr(0, end));
+        content = end == std::string_view::npos ? std::string_view() : content.substr(end + 2);
+    }
+    return lines;
+}
+
+/// Puts the demo catalogue into a test's data folder.
+inline void CopyDemo(const TestFolder& folder)
+{
+    const std::filesystem::path source = VARLO_SOURCE_DIR;
+    for (const auto& file : std::filesystem::directory_iterator(source / "demo"))
+        std::filesystem::copy_file(file.path(), folder.Data() / file.path().filename());
+}
+
+/// A file that a script of its own made for the demo catalogue.
+inline std::string ExpectedFile(const char* name)
+{
+    return ReadBytes(std::filesystem::path(VARLO_SOURCE_DIR) / "tests" / "expected" / name);
+}
+
+/// While it lives, a file is marked as not to be written.
+class ReadOnly
+{
+public:
+    explicit ReadOnly(std::filesystem::path file) : File(std::move(file))
+    {
+        std::filesystem::permissions(File, Write, std::filesystem::perm_options::remove);
+    }
+    ~ReadOnly()
+    {
+        std::error_code ignored;
+        std::filesystem::permissions(File, Write, std::filesystem::perm_options::add, ignored);
+    }
+    ReadOnly(const ReadOnly&) = delete;
+    ReadOnly& operator=(const ReadOnly&) = delete;
+
+private:
+    static constexpr std::filesystem::perms Write = std::filesystem::perms::owner_write |
+                                                    std::filesystem::perms::group_write |
+                                                    std::filesystem::perms::others_write;
+    std::filesystem::path File;
+};

@@ -1,0 +1,208 @@
+// Writing files: what fails leaves the old content whole and nothing beside it.
+
+#include "data/Files.h"
+#include "data/Errors.h"
+#include "data/modData.h"
+#include "support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+constexpr fs::perms AnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+
+class Files : public testing::Test
+{
+protected:
+    /// Expects that replacing a file fails with an error of that number that names the path.
+    void ExpectFailure(const std::string& path, int number)
+    {
+        try
+        {
+            ReplaceFile(path, "new");
+            FAIL() << path;
+        }
+        catch (const FileError& error)
+        {
+            EXPECT_EQ(error.Number(), number) << error.Description();
+            EXPECT_NE(error.Description().find(path), std::string::npos) << error.Description();
+        }
+    }
+
+    TestFolder Folder;
+    fs::path File = Folder.Path() / "file.csv";
+    std::string Path = Folder.PathOf("file.csv");
+};
+
+TEST_F(Files, ANewContentTakesTheOldOnesPlace)
+{
+    ReplaceFile(Path, "first");
+    EXPECT_EQ(ReadBytes(File), "first");
+    ReplaceFile(Path, "");
+    EXPECT_EQ(ReadBytes(File), "");
+    EXPECT_EQ(EntriesOf(Folder.Path()), (std::vector<std::string>{"Varlostudiji", "file.csv"}));
+}
+
+TEST_F(Files, AFileThatIsMarkedReadOnlyKeepsItsContent)
+{
+    WriteBytes(File, "old");
+    fs::permissions(File, AnyWrite, fs::perm_options::remove);
+    ExpectFailure(Path, 70);
+    EXPECT_EQ(ReadBytes(File), "old");
+    EXPECT_EQ(EntriesOf(Folder.Path()).size(), 2U) << "nothing temporary stays";
+    fs::permissions(File, AnyWrite, fs::perm_options::add);
+}
+
+TEST_F(Files, AFolderIsNoFile)
+{
+    fs::create_directory(File);
+    ExpectFailure(Path, 75);
+    EXPECT_THROW(ReadFile(Path), FileError);
+}
+
+TEST_F(Files, AFolderThatIsNotThereIsAnError)
+{
+    ExpectFailure(Folder.PathOf("missing") + "/file.csv", 53);
+    EXPECT_THROW(ReadFile(Folder.PathOf("missing.csv")), FileError);
+}
+
+TEST_F(Files, ANameThatNoSystemTakesIsAnError)
+{
+    const std::string path = Folder.PathOf(std::string(5000, 'a'));
+    EXPECT_THROW(ReplaceFile(path, "new"), FileError);
+    EXPECT_THROW(ReadFile(path), FileError);
+    EXPECT_THROW(ReplaceFile(path + "/file.csv", "new"), FileError);
+}
+
+TEST_F(Files, ALeftoverTemporaryFileIsOverwritten)
+{
+    WriteBytes(Folder.Path() / "file.csv.tmp", "left over from a crash");
+    ReplaceFile(Path, "new");
+    EXPECT_EQ(ReadBytes(File), "new");
+    EXPECT_FALSE(fs::exists(Folder.Path() / "file.csv.tmp"));
+}
+
+TEST_F(Files, LinesAreWrittenInWindows1250WithCrLf)
+{
+    TextFile file;
+    file.AddLine("Žičani;č");
+    file.AddLine("");
+    file.AddLine("two\nparts");
+    file.SaveAs(Path);
+    EXPECT_EQ(ReadBytes(File), "\x8Ei\xE8"
+                               "ani;\xE8\r\n\r\ntwo\nparts\r\n");
+}
+
+TEST_F(Files, NamesMayHoldAnyLetter)
+{
+    const std::string path = Folder.PathOf("Željka Šćepanović €.csv");
+    ReplaceFile(path, "x");
+    EXPECT_EQ(ReadFile(path), "x");
+    EXPECT_TRUE(fs::exists(Folder.Path() / u8"Željka Šćepanović €.csv"));
+}
+
+#ifndef _WIN32 // Windows has no mark on folders that keeps files from being written there, no devices, other
+               // links.
+
+TEST_F(Files, AFolderThatIsMarkedReadOnlyIsAnError)
+{
+    WriteBytes(File, "old");
+    fs::permissions(Folder.Path(), AnyWrite, fs::perm_options::remove);
+    ExpectFailure(Path, 70);
+    fs::permissions(Folder.Path(), AnyWrite, fs::perm_options::add);
+    EXPECT_EQ(ReadBytes(File), "old");
+}
+
+TEST_F(Files, AFullDeviceIsAnErrorAndStaysADevice)
+{
+    ExpectFailure("/dev/full", 61);
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+    EXPECT_NO_THROW(ReplaceFile("/dev/null", "gone"));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST_F(Files, ALinkStaysALink)
+{
+    WriteBytes(Folder.Path() / "real.csv", "old");
+    fs::create_symlink("real.csv", File);
+    ReplaceFile(Path, "new");
+    EXPECT_TRUE(fs::is_symlink(File));
+    EXPECT_EQ(ReadBytes(Folder.Path() / "real.csv"), "new");
+}
+
+TEST_F(Files, AFileKeepsItsPermissions)
+{
+    WriteBytes(File, "old");
+    fs::permissions(File, fs::perms::owner_read | fs::perms::owner_write);
+    ReplaceFile(Path, "new");
+    EXPECT_EQ(fs::status(File).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+#endif
+
+// Bringing a file to windows-1250
+
+class Encoding : public Files
+{
+protected:
+    std::string Normalized(std::string_view content)
+    {
+        WriteBytes(File, content);
+        modData::NormalizeFileEncoding(Path);
+        return ReadBytes(File);
+    }
+};
+
+TEST_F(Encoding, AMarkedFileIsConvertedWithItsLineEndsAsTheyWere)
+{
+    EXPECT_EQ(Normalized("\xEF\xBB\xBFID;Naziv\n1;Čćđ\r\n\r\n  2;\xE2\x82\xAC\r"),
+              "ID;Naziv\n1;\xC8\xE6\xF0\r\n\r\n  2;\x80\r");
+    EXPECT_EQ(EntriesOf(Folder.Path()).size(), 2U);
+}
+
+TEST_F(Encoding, TheMarkAloneBecomesAnEmptyFile)
+{
+    EXPECT_EQ(Normalized("\xEF\xBB\xBF"), "");
+}
+
+TEST_F(Encoding, AFileWithoutTheMarkStays)
+{
+    for (const char* content : {"1;Č", "\xEF", "\xEF\xBB", "\xEF\xBBx", "x\xEF\xBB\xBF", ""})
+        EXPECT_EQ(Normalized(content), content);
+}
+
+TEST_F(Encoding, Utf8WithoutTheMarkReadsAsTwoWrongCharactersALetter)
+{
+    WriteBytes(File, "h\r\n1;č\r\n");
+    modData::NormalizeFileEncoding(Path);
+    EXPECT_EQ(modData::LoadTable(Path, modData::Zavodi.Layout())[0].Field(1), "ÄŤ");
+}
+
+TEST_F(Encoding, CharactersThatWindows1250LacksBecomeQuestionMarks)
+{
+    EXPECT_EQ(Normalized("\xEF\xBB\xBFЖ\xEF\xBB\xBF\x80"), "???") << "a second mark and a broken byte, too";
+}
+
+TEST_F(Encoding, AMissingFileIsCreatedEmpty)
+{
+    modData::NormalizeFileEncoding(Path);
+    EXPECT_EQ(ReadBytes(File), "");
+}
+
+TEST_F(Encoding, AReadOnlyFileIsConvertedNotAtAll)
+{
+    WriteBytes(File, "\xEF\xBB\xBFx");
+    fs::permissions(File, AnyWrite, fs::perm_options::remove);
+    EXPECT_THROW(modData::NormalizeFileEncoding(Path), FileError);
+    EXPECT_EQ(ReadBytes(File), "\xEF\xBB\xBFx");
+    WriteBytes(Folder.Path() / "plain.csv", "x");
+    fs::permissions(Folder.Path() / "plain.csv", AnyWrite, fs::perm_options::remove);
+    EXPECT_NO_THROW(modData::NormalizeFileEncoding(Folder.PathOf("plain.csv"))) << "nothing to write there";
+    for (const char* name : {"file.csv", "plain.csv"})
+        fs::permissions(Folder.Path() / name, AnyWrite, fs::perm_options::add);
+}
+
+} // namespace

@@ -1,0 +1,65 @@
+#include "lists/CroatianOrder.h"
+#include "lists/ListRow.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace
+{
+
+using Texts = std::vector<std::string>;
+
+/// Expects that these texts stand in this order, each before the next.
+void ExpectOrder(const Texts& texts)
+{
+    for (std::size_t i = 0; i + 1 < texts.size(); ++i)
+        EXPECT_LT(CroatianSortKey(texts[i]), CroatianSortKey(texts[i + 1]))
+            << texts[i] << " < " << texts[i + 1];
+}
+
+TEST(CroatianOrder, FollowsTheAlphabet)
+{
+    ExpectOrder({"a", "b", "c",  "č", "ć", "d", "dž", "đ", "e", "f", "g", "h", "i", "j", "k", "l", "lj",
+                 "m", "n", "nj", "o", "p", "q", "r",  "s", "š", "t", "u", "v", "w", "x", "y", "z", "ž"});
+}
+
+TEST(CroatianOrder, ADigraphIsALetterOfItsOwn)
+{
+    ExpectOrder({"ludost", "lužina", "ljeto"});
+    ExpectOrder({"nz", "njegov", "o"});
+    ExpectOrder({"dz", "džep", "đak"});
+    EXPECT_EQ(CroatianSortKey("Ljeto"), CroatianSortKey("LJETO"));
+    EXPECT_EQ(CroatianSortKey("Džep"), CroatianSortKey("DŽEP"));
+}
+
+TEST(CroatianOrder, CaseDoesNotCountAndForeignLettersCountAsTheirOwn)
+{
+    EXPECT_EQ(CroatianSortKey("ČĆĐ š"), CroatianSortKey("čćđ Š"));
+    EXPECT_EQ(CroatianSortKey("Müller ß é ł"), CroatianSortKey("muller s E l"));
+}
+
+TEST(CroatianOrder, NumbersSortAsTextBeforeLetters)
+{
+    ExpectOrder({"", " a", "(1)", "10", "5", "5a", "a", "a 1", "a1", "ab", "–"});
+}
+
+Texts Sorted(const Texts& texts, bool descending)
+{
+    std::vector<ListRow> rows;
+    for (const std::string& text : texts)
+        rows.push_back({{"x"}, {text}});
+    Texts sorted;
+    for (const std::size_t position : SortedPositions(rows, {.Column = 1, .Descending = descending}))
+        sorted.push_back(texts[position]);
+    return sorted;
+}
+
+TEST(Sorting, EqualTextsKeepTheirOrderInBothDirections)
+{
+    EXPECT_EQ(Sorted({"b", "A", "a", "B", "č"}, false), (Texts{"A", "a", "b", "B", "č"}));
+    EXPECT_EQ(Sorted({"b", "A", "a", "B", "č"}, true), (Texts{"č", "b", "B", "A", "a"}));
+    EXPECT_EQ(Sorted({}, false), Texts{});
+}
+
+} // namespace

@@ -1,0 +1,290 @@
+// The tables and their files, compared byte for byte.
+
+#include "data/Errors.h"
+#include "data/Files.h"
+#include "data/modData.h"
+#include "support/Catalogue.h"
+#include "support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using Lines = std::vector<std::string>;
+
+class Tables : public testing::Test
+{
+protected:
+    /// Loads a file of two columns with this content.
+    Table Load(std::string_view content)
+    {
+        WriteBytes(ToPath(Path), content);
+        return modData::LoadTable(Path, modData::KolegijSmjerovi.Layout());
+    }
+
+    std::string Saved(const Table& table)
+    {
+        modData::SaveTable(Path, "KolegijID;SmjerID", table);
+        return ReadBytes(ToPath(Path));
+    }
+
+    /// What a file with these lines behind its header looks like after a load and a save.
+    std::string RoundTrip(const std::string& lines)
+    {
+        return Saved(Load("header\r\n" + lines)).substr(std::string("KolegijID;SmjerID\r\n").size());
+    }
+
+    TestFolder Folder;
+    std::string Path = Folder.PathOf("table.csv");
+};
+
+TEST_F(Tables, AHeaderAloneIsAnEmptyTableAndIsSavedAsTheHeaderAlone)
+{
+    const Table table = Load("whatever;it;says");
+    EXPECT_EQ(table.RowCount(), 0U);
+    EXPECT_EQ(Saved(table), "KolegijID;SmjerID\r\n");
+}
+
+TEST_F(Tables, BlankLinesAreSkippedAndDoNotComeBack)
+{
+    EXPECT_EQ(RoundTrip("1;2\r\n\r\n   \r\n3;4\r\n"), "1;2\r\n3;4\r\n");
+}
+
+TEST_F(Tables, BlanksAroundAFieldStay)
+{
+    EXPECT_EQ(RoundTrip(" 1 ;  a b  \r\n"), " 1 ;  a b  \r\n");
+}
+
+TEST_F(Tables, LeadingEmptyFieldsLeaveNoSeparator)
+{
+    EXPECT_EQ(RoundTrip(";2\r\n"), "2\r\n");
+    EXPECT_EQ(RoundTrip(";;2;;3;\r\n"), "2;;3;\r\n");
+    EXPECT_EQ(RoundTrip(";;\r\n"), "\r\n");
+}
+
+TEST_F(Tables, CrLfOrCrEndsALineAndALoneLfDoesNot)
+{
+    EXPECT_EQ(LinesOf(Load("h\r1;2\r3;4\r\n5;6")), (Lines{"1;2", "3;4", "5;6"}));
+    EXPECT_EQ(LinesOf(Load("h\r\n1;a\nb\r\n")), (Lines{"1;a\nb"}));
+    EXPECT_EQ(LinesOf(Load("h\n1;2\n3;4\n")), Lines{}) << "all of it is the header";
+    EXPECT_EQ(LinesOf(Load("h\r\r\n1;2\r")), (Lines{"1;2"}));
+    EXPECT_EQ(RoundTrip("1;a\nb\r\n"), "1;a\nb\r\n");
+}
+
+TEST_F(Tables, FieldsAreNeitherUnquotedNorCounted)
+{
+    const Table table = Load("h\r\n\"1;2\"\r\n7\r\n1;2;3;4;5\r\n");
+    EXPECT_EQ(table[0].Field(0), "\"1");
+    EXPECT_EQ(table[1].FieldCount(), 1U);
+    EXPECT_EQ(table[2].FieldCount(), 5U);
+}
+
+TEST_F(Tables, EveryByteSurvivesLoadAndSave)
+{
+    std::string field;
+    for (int byte = 0; byte < 256; ++byte)
+        if (byte != '\r' && byte != ';')
+            field += static_cast<char>(byte);
+    EXPECT_EQ(RoundTrip("1;" + field + "\r\n"), "1;" + field + "\r\n");
+}
+
+TEST_F(Tables, ACharacterThatWindows1250LacksIsSavedAsAQuestionMark)
+{
+    Table table(modData::KolegijSmjerovi.Layout());
+    table.Append({"1", "Ж"});
+    EXPECT_EQ(Saved(table), "KolegijID;SmjerID\r\n1;?\r\n");
+}
+
+TEST_F(Tables, AnEmptyFileEndsBeforeItsHeader)
+{
+    EXPECT_THROW(Load(""), InputPastEnd);
+    EXPECT_NO_THROW(Load("\r\n"));
+}
+
+TEST_F(Tables, AHugeLineIsOneRow)
+{
+    const std::string field(2'000'000, 'x');
+    EXPECT_EQ(RoundTrip("1;" + field + "\r\n"), "1;" + field + "\r\n");
+}
+
+TEST_F(Tables, AFieldThatIsMissingIsOutOfRangeAndNamesItsPlace)
+{
+    const Table table = Load("h\r\n\r\n1;2\r\n3\r\n");
+    try
+    {
+        table[1].Field(KolegijSmjer::SmjerID);
+        FAIL();
+    }
+    catch (const SubscriptOutOfRange& error)
+    {
+        EXPECT_EQ(error.Number(), 9);
+        EXPECT_EQ(error.Description(),
+                  "Redak ima premalo polja (datoteka db_kolegij_smjer.csv, redak 4, stupac \"SmjerID\").");
+    }
+}
+
+TEST_F(Tables, ABadNumberNamesItsPlace)
+{
+    const Table table = Load("h\r\nx;99999999999\r\n");
+    const auto description = [&](std::size_t column) -> std::string
+    {
+        try
+        {
+            table[0].Number(column);
+        }
+        catch (const RuntimeError& error)
+        {
+            return error.Description();
+        }
+        return "";
+    };
+    EXPECT_EQ(description(0),
+              "Vrijednost \"x\" nije broj (datoteka db_kolegij_smjer.csv, redak 2, stupac \"KolegijID\").");
+    EXPECT_EQ(description(1), "Broj \"99999999999\" je izvan dopuštenog raspona od -2147483648 do 2147483647 "
+                              "(datoteka db_kolegij_smjer.csv, redak 2, stupac \"SmjerID\").");
+}
+
+TEST_F(Tables, ARowEnteredInTheProgramSaysSo)
+{
+    Table table(modData::KolegijSmjerovi.Layout());
+    table.Append({"a", "1"});
+    try
+    {
+        table[0].Number(0);
+        FAIL();
+    }
+    catch (const TypeMismatch& error)
+    {
+        EXPECT_NE(error.Description().find("redak unesen u programu"), std::string::npos);
+    }
+}
+
+// Searching
+
+TEST_F(Tables, TheFirstMatchWinsAndEndsTheSearch)
+{
+    const Table table = Load("h\r\n07;1\r\n7;2\r\nbad;3\r\n8;4\r\n");
+    EXPECT_EQ(table.FindFirst(0, 7)->Field(1), "1");
+    EXPECT_THROW(table.FindFirst(0, 8), TypeMismatch) << "the bad row stands before it";
+    EXPECT_THROW(table.FindFirst(0, 99), TypeMismatch);
+}
+
+TEST_F(Tables, GatheringPassesTheWholeTable)
+{
+    const Table table = Load("h\r\n7;1\r\n7.0;2\r\n\r\n7;3\r\nbad;4\r\n");
+    std::string gathered;
+    const auto gather = [&](const Row& row) { gathered += row.Field(1); };
+    EXPECT_THROW(table.ForEachMatch(0, 7, gather), TypeMismatch);
+    EXPECT_EQ(gathered, "123") << "the rows before the bad one were visited";
+}
+
+TEST_F(Tables, ASearchSeesEveryChange)
+{
+    Table table = Load("h\r\n1;a\r\n2;b\r\n");
+    EXPECT_EQ(table.FindFirst(0, 3), nullptr);
+    table.Append({"3", "c"});
+    EXPECT_EQ(table.FindFirst(0, 3)->Field(1), "c");
+    table.Replace(0, {"9", "z"});
+    EXPECT_EQ(table.FindFirst(0, 1), nullptr);
+    EXPECT_EQ(table.FindPosition(0, 9), 0U);
+    table.RemoveMatches(0, 2);
+    EXPECT_EQ(LinesOf(table), (Lines{"9;z", "3;c"}));
+    EXPECT_EQ(table.FindFirst(0, 2), nullptr);
+}
+
+TEST_F(Tables, SafeSearchTakesWhatIsNoNumberAsZero)
+{
+    const Table table = Load("h\r\nx;1\r\n0;2\r\n5;3\r\n");
+    std::string gathered;
+    table.ForEachMatch(
+        0, 0, [&](const Row& row) { gathered += row.Field(1); }, Conversion::Safe);
+    EXPECT_EQ(gathered, "12");
+    EXPECT_EQ(table.FindFirst(0, 5, Conversion::Safe)->Field(1), "3");
+}
+
+TEST_F(Tables, RemovingStopsAtABadRowWithNothingRemoved)
+{
+    Table table = Load("h\r\n1;a\r\nbad;b\r\n1;c\r\n");
+    EXPECT_THROW(table.RemoveMatches(0, 1), TypeMismatch);
+    EXPECT_EQ(table.RowCount(), 3U);
+}
+
+// The whole catalogue
+
+TEST_F(Tables, TheDemoCatalogueComesBackByteForByte)
+{
+    const std::filesystem::path demo = std::filesystem::path(VARLO_SOURCE_DIR) / "demo";
+    std::filesystem::copy(demo, Folder.Data(),
+                          std::filesystem::copy_options::recursive |
+                              std::filesystem::copy_options::overwrite_existing);
+    modData::LoadAllTables();
+    modData::SaveAllTables();
+    for (const std::string& name : EntriesOf(demo))
+        EXPECT_EQ(ReadBytes(Folder.Data() / name), ReadBytes(demo / name)) << name;
+    EXPECT_EQ(EntriesOf(Folder.Data()), EntriesOf(demo));
+}
+
+TEST_F(Tables, TheHeadersAreTheColumnNames)
+{
+    const Table* tables[] = {&modData::Zavodi,           &modData::Nastavnici, &modData::Studiji,
+                             &modData::Smjerovi,         &modData::Kolegiji,   &modData::KolegijSmjerovi,
+                             &modData::KolegijNastavnici};
+    Lines headers;
+    for (const Table* table : tables)
+        headers.push_back(std::string(table->Layout().FileName) + " " + table->Layout().Header());
+    EXPECT_EQ(headers,
+              (Lines{"db_zavod.csv ID;Naziv;Kratica", "db_nastavnici.csv ID;PrezimeIme;Titula;ZavodID",
+                     "db_studij.csv ID;Naziv;Kratica;Razina", "db_smjer.csv ID;Naziv;Kratica;StudijID;Razina",
+                     "db_kolegij.csv ID;Naziv;P;S;V;ECTS;Tip;Semestar;StudijID",
+                     "db_kolegij_smjer.csv KolegijID;SmjerID",
+                     "db_kolegij_nastavnik.csv KolegijID;NastavnikID;Uloga;Redoslijed"}));
+}
+
+TEST_F(Tables, LoadingStopsAtTheFirstBadFile)
+{
+    SmallCatalogue().WriteTo(Folder.Data());
+    WriteBytes(Folder.Data() / "db_studij.csv", "");
+    EXPECT_THROW(modData::LoadAllTables(), InputPastEnd);
+}
+
+TEST_F(Tables, TheNextIDIsTheLargestPlusOne)
+{
+    const auto nextAfter = [](Catalogue::Lines kolegiji)
+    {
+        Catalogue catalogue;
+        catalogue.Kolegiji = std::move(kolegiji);
+        catalogue.Use();
+        return modData::NextKolegijID();
+    };
+    EXPECT_EQ(nextAfter({}), 1);
+    EXPECT_EQ(nextAfter({"3;a", "17;b", "5;c"}), 18);
+    EXPECT_EQ(nextAfter({"-5;a"}), 1);
+    EXPECT_THROW(nextAfter({"2147483647;a"}), Overflow);
+    EXPECT_THROW(nextAfter({"1;a", "x;b"}), TypeMismatch);
+}
+
+// The data folder
+
+TEST_F(Tables, TheDataFolderLiesInLocalAppData)
+{
+    std::filesystem::remove_all(Folder.Data());
+    EXPECT_EQ(ToPath(modData::GetDataFolder()), Folder.Data());
+    EXPECT_TRUE(std::filesystem::is_directory(Folder.Data()));
+    EXPECT_NE(modData::GetDataFolder().find("Varlostudiji"), std::string::npos);
+    EXPECT_EQ(modData::GetDataFolder().back(), 'i') << "no separator behind it";
+}
+
+TEST_F(Tables, WithoutLocalAppDataTheFolderLiesInTheUserProfileAndIsCreated)
+{
+    SetEnvironment("LOCALAPPDATA", "");
+    SetEnvironment("USERPROFILE", Folder.PathOf("profile"));
+    const std::string folder = modData::GetDataFolder();
+    SetEnvironment("USERPROFILE", "");
+    const std::filesystem::path expected =
+        Folder.Path() / "profile" / "Local Settings" / "Application Data" / "Varlostudiji";
+    EXPECT_TRUE(std::filesystem::is_directory(expected));
+    EXPECT_EQ(ToPath(folder), expected);
+}
+
+} // namespace

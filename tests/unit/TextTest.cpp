@@ -1,0 +1,71 @@
+#include "data/Text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+TEST(Text, TrimmingTakesBlanksAlone)
+{
+    EXPECT_EQ(TrimBlanks("  a b  "), "a b");
+    EXPECT_EQ(TrimBlanks("\ta\n"), "\ta\n");
+    EXPECT_EQ(TrimBlanks("\xC2\xA0 "), "\xC2\xA0") << "a no-break space is no blank";
+    EXPECT_EQ(TrimBlanks("   "), "");
+    EXPECT_EQ(TrimBlanks(""), "");
+}
+
+TEST(Text, UpperCaseCoversEveryLetterOfWindows1250)
+{
+    EXPECT_EQ(UpperCase("abcxyz019 -;"), "ABCXYZ019 -;");
+    EXPECT_EQ(UpperCase("čćđšž"), "ČĆĐŠŽ");
+    EXPECT_EQ(UpperCase("śťźłąşľżŕáâăäĺçéęëěíîďńňóôőöřůúűüýţ"), "ŚŤŹŁĄŞĽŻŔÁÂĂÄĹÇÉĘËĚÍÎĎŃŇÓÔŐÖŘŮÚŰÜÝŢ");
+    EXPECT_EQ(UpperCase("ß÷×˙µ€"), "ß÷×˙µ€");
+    EXPECT_EQ(UpperCase("ČĆĐŠŽ"), "ČĆĐŠŽ");
+}
+
+TEST(Text, AWordIsFoundTrimmedAndInAnyCase)
+{
+    EXPECT_TRUE(IsWord(" Izborni ", "IZBORNI"));
+    EXPECT_FALSE(IsWord("izborni.", "IZBORNI"));
+    EXPECT_FALSE(IsWord("", "IZBORNI"));
+}
+
+TEST(Text, CharactersComeAndGoAsUtf8)
+{
+    const std::string text = "A\xC4\x8D\xE2\x82\xAC\xF0\x9F\x98\x80";
+    std::string_view rest = text;
+    std::u32string characters;
+    std::string written;
+    while (!rest.empty())
+    {
+        characters += TakeCodePoint(rest);
+        AppendCodePoint(written, characters.back());
+    }
+    EXPECT_EQ(characters, U"A\u010D\u20AC\U0001F600");
+    EXPECT_EQ(written, text);
+}
+
+TEST(Text, ABrokenByteIsOneReplacementCharacter)
+{
+    // A follower alone, a cut sequence, a longer form than needed, a surrogate, a code beyond the last.
+    for (const std::string_view broken :
+         {"\x80", "\xC4", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF"})
+    {
+        std::string_view rest = broken;
+        while (!rest.empty())
+            EXPECT_EQ(TakeCodePoint(rest), U'\uFFFD');
+    }
+    std::string_view rest = "\xC4z";
+    EXPECT_EQ(TakeCodePoint(rest), U'\uFFFD');
+    EXPECT_EQ(rest, "z");
+}
+
+TEST(Text, ListsAreJoinedWithSeparatorsBetween)
+{
+    std::string list;
+    AppendJoined(list, "; ", "");
+    AppendJoined(list, "; ", "a");
+    AppendJoined(list, "; ", "");
+    EXPECT_EQ(list, "a; ");
+    EXPECT_EQ(Joined({"", "a", "", "b"}, ";"), ";a;;b");
+    EXPECT_EQ(Joined({}, ";"), "");
+}

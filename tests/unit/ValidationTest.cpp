@@ -1,0 +1,135 @@
+#include "data/Errors.h"
+#include "support/Catalogue.h"
+#include "validation/modCSVValidator.h"
+
+#include <gtest/gtest.h>
+
+using namespace modCSVValidator;
+
+namespace
+{
+
+Messages MessagesOf(const Catalogue& catalogue)
+{
+    catalogue.Use();
+    const Messages messages = AllMessages();
+    EXPECT_EQ(ValidateAll(), messages.empty());
+    return messages;
+}
+
+Messages With(void (*change)(Catalogue&))
+{
+    Catalogue catalogue = SmallCatalogue();
+    change(catalogue);
+    return MessagesOf(catalogue);
+}
+
+TEST(Validation, EmptyTablesAndACleanCataloguePass)
+{
+    EXPECT_EQ(MessagesOf({}), Messages{});
+    EXPECT_EQ(MessagesOf(SmallCatalogue()), Messages{});
+}
+
+TEST(Validation, EveryFurtherRowWithALecturersIDIsADuplicate)
+{
+    EXPECT_EQ(With(
+                  [](Catalogue& c) {
+                      c.Nastavnici.insert(c.Nastavnici.end(), {"03;B;;1", " 3 ;C;;1"});
+                  }),
+              (Messages{"Nastavnici: dupli ID_nastavnik = 3", "Nastavnici: dupli ID_nastavnik = 3"}));
+}
+
+TEST(Validation, ALecturerNeedsANameAndADepartment)
+{
+    EXPECT_EQ(With([](Catalogue& c) { c.Nastavnici.push_back("07;   ;;99 "); }),
+              (Messages{"Nastavnici: prazno ime za ID 7", "Nastavnici: ID_zavod ne postoji › 99 "}));
+}
+
+TEST(Validation, ACourseNeedsItsOwnIDASemesterAndAStudy)
+{
+    EXPECT_EQ(With(
+                  [](Catalogue& c) {
+                      c.Kolegiji.insert(c.Kolegiji.end(), {"5;A;;;;;;0;1", "6;B;;;;;;7;9", "7;C;;;;;;6;1"});
+                  }),
+              (Messages{"Kolegiji: dupli ID_kolegij = 5", "Kolegiji: neispravan semestar (0) za ID 5",
+                        "Kolegiji: neispravan semestar (7) za ID 6", "Kolegiji: ID_studij ne postoji › 9"}));
+}
+
+TEST(Validation, ALecturersLinkNeedsACourseALecturerAndAPlace)
+{
+    EXPECT_EQ(With(
+                  [](Catalogue& c)
+                  {
+                      c.KolegijNastavnici.insert(c.KolegijNastavnici.end(),
+                                                 {"99;98;;1", "1;2;;4", "1;2;;0", "1;2;whatever;3"});
+                  }),
+              (Messages{"KolegijNastavnik: ID_kolegij ne postoji › 99",
+                        "KolegijNastavnik: ID_nastavnik ne postoji › 98",
+                        "KolegijNastavnik: neispravan redoslijed (4) za kolegij 1",
+                        "KolegijNastavnik: neispravan redoslijed (0) za kolegij 1"}));
+}
+
+TEST(Validation, ADirectionsLinkNeedsACourseAndADirection)
+{
+    EXPECT_EQ(
+        With([](Catalogue& c) { c.KolegijSmjerovi.push_back("99;98"); }),
+        (Messages{"KolegijSmjer: ID_kolegij ne postoji › 99", "KolegijSmjer: ID_smjer ne postoji › 98"}));
+}
+
+TEST(Validation, ADirectionNeedsAStudyAndAStudyALevel)
+{
+    EXPECT_EQ(With(
+                  [](Catalogue& c)
+                  {
+                      c.Smjerovi.push_back("9;X;X;99;whatever");
+                      c.Studiji.insert(c.Studiji.end(), {"8;X;X;diplomski", "8;X;X;Diplomski "});
+                  }),
+              (Messages{"Smjerovi: ID_studij ne postoji › 99", "Studiji: neispravna razina › diplomski",
+                        "Studiji: neispravna razina › Diplomski "}));
+}
+
+TEST(Validation, WhatIsNotCheckedPasses)
+{
+    EXPECT_EQ(With(
+                  [](Catalogue& c)
+                  {
+                      c.Zavodi.insert(c.Zavodi.end(), {"1;twice;", "2"});
+                      c.Studiji.push_back("1;again;X;Diplomski");
+                      c.Smjerovi.push_back("1;again;X;2;");
+                      c.Kolegiji.push_back("6;Bez ičega;x;-1;;abc;whatever;1;1");
+                      c.KolegijSmjerovi.insert(c.KolegijSmjerovi.end(), {"1;3", "1;3"});
+                  }),
+              Messages{});
+}
+
+TEST(Validation, ATableIsSearchedOnlyToTheMatch)
+{
+    EXPECT_EQ(With([](Catalogue& c) { c.Zavodi.push_back("x;bad;"); }), Messages{});
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Zavodi.insert(catalogue.Zavodi.begin(), "x;bad;");
+    catalogue.Use();
+    EXPECT_THROW(ValidateAll(), TypeMismatch);
+}
+
+TEST(Validation, WhatIsNoNumberOrMissingIsAnErrorNotAMessage)
+{
+    const auto validateWith = [](auto change)
+    {
+        Catalogue catalogue = SmallCatalogue();
+        change(catalogue);
+        catalogue.Use();
+        return ValidateAll();
+    };
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.Nastavnici.push_back("x;A;;1"); }), TypeMismatch);
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.Nastavnici.push_back("9;A;;"); }), TypeMismatch);
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.Kolegiji.push_back("9;A;;;;;;treći;1"); }), TypeMismatch);
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.Kolegiji.push_back("9;A;;;;;;99999999999;1"); }),
+                 Overflow);
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.Kolegiji.push_back("9;A"); }), SubscriptOutOfRange);
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.KolegijNastavnici.push_back("1;1;;"); }), TypeMismatch);
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.KolegijSmjerovi.push_back("1"); }), SubscriptOutOfRange);
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.Smjerovi.push_back("9;X;X;x;"); }), TypeMismatch);
+    EXPECT_THROW(validateWith([](Catalogue& c) { c.Studiji.push_back("9;X;X"); }), SubscriptOutOfRange);
+}
+
+} // namespace
