@@ -33,7 +33,8 @@ TEST(CourseList, RowsShowTheFieldsAsStored)
     catalogue.KolegijNastavnici = {};
     catalogue.Use();
     Texts texts;
-    for (const ListCell& cell : CourseRows({}).at(0))
+    const std::vector<ListRow> rows = CourseRows({});
+    for (const ListCell& cell : rows.at(0))
         texts.push_back(cell.Text);
     EXPECT_EQ(texts, (Texts{"07", " Naziv ", "2,0", "x", "", "05", " Tip ", "01", "LOR", "OPC", ""}));
 }

@@ -17,9 +17,10 @@ constexpr CountingRules ExportRules = {
 bool Passes(const Row& kolegij, const LecturerFilter& filter)
 {
     const Row* studij = modData::Studiji.FindFirst(Studij::ID, kolegij.Number(Kolegij::StudijID));
-    const auto matches = [studij](const std::string& wanted, Studij::Column column)
-    { return wanted == Svi || (studij == nullptr ? "" : studij->Field(column)) == wanted; };
-    return matches(filter.Razina, Studij::Razina) && matches(filter.Program, Studij::Kratica);
+    const std::string_view razina = studij == nullptr ? "" : studij->Field(Studij::Razina);
+    const std::string_view kratica = studij == nullptr ? "" : studij->Field(Studij::Kratica);
+    return (filter.Razina == Svi || filter.Razina == razina) &&
+           (filter.Program == Svi || filter.Program == kratica);
 }
 
 template<typename Visit>

@@ -5,6 +5,7 @@
 #include "data/Numbers.h"
 #include "data/Text.h"
 #include "data/modData.h"
+#include "ects/frmECTSCalc.h"
 #include "lists/TableChoices.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
@@ -227,13 +228,10 @@ void frmMain::BindEvents()
     onPress(cmdStatZavodi, &frmMain::cmdStatZavodi_Click);
     onPress(cmdExport, &frmMain::cmdExport_Click);
     onPress(cmdExportVarlo, &frmMain::cmdExportVarlo_Click);
+    onPress(cmdECTSCalc, &frmMain::cmdECTSCalc_Click);
     onPress(cmdAbout, &frmMain::cmdAbout_Click);
     onPress(cmdExit, &frmMain::cmdExit_Click);
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Form_Unload(); });
-
-    // Their windows are not there yet.
-    for (wxButton* button : {cmdECTSCalc})
-        button->Disable();
 }
 
 void frmMain::Form_Load()
@@ -420,6 +418,11 @@ void frmMain::cmdStatNositelji_Click()
 void frmMain::cmdStatZavodi_Click()
 {
     ShowShared<frmStatZavodi>(this);
+}
+
+void frmMain::cmdECTSCalc_Click()
+{
+    ShowShared<frmECTSCalc>(this);
 }
 
 void frmMain::cmdAbout_Click()

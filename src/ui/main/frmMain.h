@@ -61,6 +61,7 @@ private:
     void cmdDelete_Click();
     void cmdStatNositelji_Click();
     void cmdStatZavodi_Click();
+    void cmdECTSCalc_Click();
     void cmdAbout_Click();
     void cmdExport_Click();
     void cmdExportVarlo_Click();

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Numbers as the calculator's fields hold them: text in the user's own form.
+
+/// How a figure is shown: with one decimal or with two.
+inline constexpr std::string_view OneDecimal = "0.0";
+inline constexpr std::string_view TwoDecimals = "0.00";
+
+/// The value of a field's text, blanks around it ignored. ".", "," and the user's own separator all stand
+/// before the decimals; nothing separates thousands. 0 for a text that is no number, or one too large.
+double ReadNumber(std::string_view text, std::string_view separator);
+
+/// The text of a value with as many decimals as the pattern has, halves rounded away from zero, and the
+/// separator before them. A value that is not finite shows as zero, as it would read.
+std::string FormatFixed(double value, std::string_view pattern, std::string_view separator);

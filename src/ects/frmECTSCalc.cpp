@@ -1,0 +1,192 @@
+#include "ects/frmECTSCalc.h"
+
+#include "data/Text.h"
+#include "ects/EctsReport.h"
+#include "ects/WorkloadLabels.h"
+#include "ui/controls/CenterForm.h"
+#include "ui/controls/Choices.h"
+#include "ui/controls/DecimalSeparator.h"
+#include "ui/controls/Messages.h"
+#include "ui/controls/SaveDialog.h"
+#include "ui/controls/Strings.h"
+
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/radiobut.h>
+#include <wx/stattext.h>
+#include <wx/textbuf.h>
+#include <wx/textctrl.h>
+
+#include <optional>
+#include <span>
+
+namespace
+{
+
+/// The text of a box; line breaks of the user's are CR LF, as they are to be in a file.
+std::string ShownText(const wxTextCtrl& box)
+{
+    return ToUtf8(wxTextBuffer::Translate(box.GetValue(), wxTextFileType_Dos));
+}
+
+} // namespace
+
+void frmECTSCalc::BindEvents()
+{
+    for (std::size_t row = 0; row < txtKontaktniSati.size(); ++row)
+        OnLostFocus(txtKontaktniSati[row], [this, row] { txtKontaktniSati_LostFocus(row); });
+    const auto recalculateAfter = [this](std::span<wxTextCtrl* const> boxes)
+    {
+        for (wxTextCtrl* box : boxes)
+            OnLostFocus(box, [this] { Recalculate(); });
+    };
+    recalculateAfter(txtSamostalniSati);
+    recalculateAfter(txtLitStranice);
+    recalculateAfter(txtLitProcjena);
+    recalculateAfter(std::array{txtOpsegStranice, txtOpsegRijeci, txtPismeniProcjena});
+    recalculateAfter(txtOstaleMetode);
+
+    for (wxRadioButton* option : {optLitIzracun, optLitProcjena})
+        option->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { optLiteratura_Click(); });
+    for (wxRadioButton* option : {optPismeniIzracun, optPismeniProcjena})
+        option->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { optPismeni_Click(); });
+    cbo1ECTS->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { Recalculate(); });
+    cmdIzracunaj->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Recalculate(); });
+    cmdOcisti->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdOcisti_Click(); });
+    cmdExport->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExport_Click(); });
+    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Close(); });
+}
+
+void frmECTSCalc::OnLostFocus(wxTextCtrl* box, const std::function<void()>& handler)
+{
+    box->Bind(wxEVT_KILL_FOCUS,
+              [this, handler](wxFocusEvent& event)
+              {
+                  event.Skip();
+                  if (!IsBeingDeleted()) // a window that goes away takes the focus from its fields
+                      handler();
+              });
+}
+
+void frmECTSCalc::Form_Load()
+{
+    CenterForm(*this);
+    lblUpozorenje->SetForegroundColour(wxColour(Red));
+    for (const std::string_view hours : HoursPerEctsChoices)
+        cbo1ECTS->Append(ToWx(hours));
+    cbo1ECTS->SetSelection(InitialHoursPerEcts);
+    optLitIzracun->SetValue(true);
+    optPismeniIzracun->SetValue(true);
+    ApplyLiteratureMode();
+    ApplyWrittenMode();
+    Recalculate();
+    txtNazivKolegija->SetFocus();
+}
+
+void frmECTSCalc::ApplyLiteratureMode()
+{
+    for (wxTextCtrl* box : txtLitStranice)
+        box->Enable(optLitIzracun->GetValue());
+    for (wxTextCtrl* box : txtLitProcjena)
+        box->Enable(optLitProcjena->GetValue());
+}
+
+void frmECTSCalc::ApplyWrittenMode()
+{
+    txtOpsegStranice->Enable(optPismeniIzracun->GetValue());
+    txtOpsegRijeci->Enable(optPismeniIzracun->GetValue());
+    txtPismeniProcjena->Enable(optPismeniProcjena->GetValue());
+}
+
+void frmECTSCalc::ReadFields()
+{
+    for (const Field& field : Boxes)
+        *field.Text = ShownText(*field.Box);
+    Fields.LitByEstimate = optLitProcjena->GetValue();
+    Fields.PismeniByEstimate = optPismeniProcjena->GetValue();
+    Fields.SatiPoEcts = ChosenText(*cbo1ECTS);
+}
+
+void frmECTSCalc::ShowFields()
+{
+    for (const Field& field : Boxes)
+        if (ShownText(*field.Box) != *field.Text)
+            field.Box->ChangeValue(ToWx(*field.Text));
+    lblUpozorenje->SetForegroundColour(wxColour(Fields.BojaUpozorenja));
+    lblUpozorenje->SetLabel(ToWx(Fields.Upozorenje));
+}
+
+void frmECTSCalc::Recalculate()
+{
+    if (Busy)
+        return;
+    Busy = true;
+    std::string failure;
+    ReadFields();
+    try
+    {
+        WorkloadModel(Fields, SystemDecimalSeparator()).Recalculate();
+    }
+    catch (const std::exception& error)
+    {
+        failure = error.what();
+    }
+    ShowFields(); // after an error too: what was computed before it is right
+    Busy = false;
+    if (!failure.empty())
+        ShowWarning(this, "Greška kod preračuna: " + failure, EctsCaption);
+}
+
+void frmECTSCalc::txtKontaktniSati_LostFocus(std::size_t row)
+{
+    ReadFields();
+    WorkloadModel(Fields, SystemDecimalSeparator()).ProposeSelfStudy(row);
+    ShowFields();
+    Recalculate();
+}
+
+void frmECTSCalc::optLiteratura_Click()
+{
+    ApplyLiteratureMode();
+    Recalculate();
+}
+
+void frmECTSCalc::optPismeni_Click()
+{
+    ApplyWrittenMode();
+    Recalculate();
+}
+
+void frmECTSCalc::cmdOcisti_Click()
+{
+    for (const Field& field : Boxes)
+        field.Box->ChangeValue("");
+    optLitIzracun->SetValue(true);
+    optPismeniIzracun->SetValue(true);
+    ApplyLiteratureMode();
+    ApplyWrittenMode();
+    Recalculate();
+}
+
+void frmECTSCalc::cmdExport_Click()
+{
+    Recalculate();
+    try
+    {
+        SaveDialogOptions options;
+        options.Title = "Spremi CSV izvještaj";
+        options.ProposedName = EctsReportFileName(Fields.NazivKolegija);
+        options.OverwritePrompt = false;
+        options.PathMustExist = false;
+        const std::optional<std::string> chosen = ShowSaveDialog(this, options);
+        const std::string path(TrimBlanks(chosen.value_or("")));
+        if (path.empty())
+            return;
+        WriteEctsReport(path, Fields);
+        ShowInformation(this, "CSV izvještaj je uspješno spremljen.", "Export");
+    }
+    catch (const std::exception& error)
+    {
+        ShowWarning(this, std::string("Greška kod izvoza: ") + error.what(), "Export");
+    }
+}

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "ects/WorkloadModel.h"
+
+#include <wx/frame.h>
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class wxButton;
+class wxChoice;
+class wxRadioButton;
+class wxScrolledWindow;
+class wxSizer;
+class wxStaticBoxSizer;
+class wxStaticText;
+class wxTextCtrl;
+
+/// The ECTS calculator: what a course asks of a student, the hours and points that it comes to, and what the
+/// entries lack. Modeless, one for the program; it has nothing to do with the catalogue.
+class frmECTSCalc : public wxFrame
+{
+public:
+    explicit frmECTSCalc(wxWindow* parent);
+
+private:
+    // Layout
+    wxSizer* CourseFrame();
+    wxSizer* ContactFrame();
+    wxSizer* LiteratureFrame();
+    wxSizer* WrittenFrame();
+    wxSizer* OtherMethodsFrame();
+    wxSizer* TotalsFrame();
+    wxSizer* CommandRow();
+    wxTextCtrl* NewField(const std::string& name, std::string& text, long style = 0);
+    /// A read-only box; Tab passes over it, so that entries follow one another, unless it is a tab stop.
+    wxTextCtrl* NewOutput(const std::string& name, std::string& text, bool tabStop = false);
+    wxTextCtrl* AddField(wxTextCtrl* box, std::string& text);
+    void AddOptions(wxStaticBoxSizer& frame, wxRadioButton*& norm, std::string_view normName,
+                    wxRadioButton*& estimate, std::string_view estimateName);
+    void FitToScreen(wxSizer& content);
+    void BindEvents();
+    void OnLostFocus(wxTextCtrl* box, const std::function<void()>& handler);
+
+    void Form_Load();
+    void ApplyLiteratureMode();
+    void ApplyWrittenMode();
+
+    /// Computes all figures from what the window shows, and shows them.
+    void Recalculate();
+    void ReadFields();
+    void ShowFields();
+
+    // Events
+    void txtKontaktniSati_LostFocus(std::size_t row);
+    void optLiteratura_Click();
+    void optPismeni_Click();
+    void cmdOcisti_Click();
+    void cmdExport_Click();
+
+    /// A text box and the text that it shows.
+    struct Field
+    {
+        wxTextCtrl* Box;
+        std::string* Text;
+    };
+
+    WorkloadFields Fields;
+    std::vector<Field> Boxes; ///< Every text box of the window.
+    bool Busy = false;        ///< True while the figures are computed: not again meanwhile.
+
+    wxStaticText* WidestLabel; ///< The caption that gets a second line where the screen is narrow.
+
+    // Controls. Of an array with gaps in its indices the elements stand side by side.
+    wxScrolledWindow* Panel;
+    wxTextCtrl* txtNazivKolegija;
+    wxTextCtrl* txtNositelj;
+    wxTextCtrl* txtKomentar;
+    std::array<wxTextCtrl*, 3> txtKontaktniSati;
+    std::array<wxTextCtrl*, 3> txtSamostalniSati;
+    wxTextCtrl* txtKontaktniUkupno;  ///< index 3 alone
+    wxTextCtrl* txtSamostalniUkupno; ///< index 3 alone
+    wxRadioButton* optLitIzracun;
+    wxRadioButton* optLitProcjena;
+    std::array<wxTextCtrl*, 4> txtLitStranice;
+    std::array<wxTextCtrl*, 4> txtLitIzracun;
+    std::array<wxTextCtrl*, 4> txtLitProcjena;
+    wxTextCtrl* txtLitUkupno;
+    wxRadioButton* optPismeniIzracun;
+    wxRadioButton* optPismeniProcjena;
+    wxTextCtrl* txtOpsegStranice;
+    wxTextCtrl* txtOpsegRijeci;
+    wxTextCtrl* txtPismeniIzracun;
+    wxTextCtrl* txtPismeniProcjena;
+    std::array<wxTextCtrl*, 9> txtOstaleMetode; ///< indices 0 to 6, 8 and 9
+    wxTextCtrl* txtOstaleMetodeUkupno;
+    std::array<wxTextCtrl*, 5> txtUkupnoOpter;
+    wxChoice* cbo1ECTS;
+    wxStaticText* lblUpozorenje;
+    wxButton* cmdIzracunaj;
+    wxButton* cmdOcisti;
+    wxButton* cmdExport;
+    wxButton* cmdClose;
+};

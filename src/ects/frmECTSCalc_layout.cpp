@@ -1,0 +1,333 @@
+// How the calculator's window is laid out; what it does is in frmECTSCalc.cpp.
+
+#include "ects/frmECTSCalc.h"
+
+#include "ects/WorkloadLabels.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/Strings.h"
+
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/radiobut.h>
+#include <wx/scrolwin.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <algorithm>
+#include <span>
+
+namespace
+{
+
+constexpr std::string_view WrittenNormNote = "Normativ: 250 riječi po stranici, 100 riječi/sat";
+
+constexpr int NumberCharacters = 6;
+constexpr int CommentLines = 2;
+
+/// The name of an element of a control array.
+std::string Element(std::string_view array, std::size_t index)
+{
+    return std::string(array) + "(" + std::to_string(index) + ")";
+}
+
+wxFlexGridSizer* NewGrid(const wxWindow* window, int columns)
+{
+    return new wxFlexGridSizer(columns, window->FromDIP(2), Gap(window));
+}
+
+/// Adds the captions of a grid's columns, each over its column.
+void AddHeads(wxFlexGridSizer& grid, wxWindow* parent, std::span<const std::string_view> captions)
+{
+    for (const std::string_view caption : captions)
+        grid.Add(NewLabel(parent, "lblHead", caption), wxSizerFlags().CenterVertical());
+}
+
+wxStaticText* AddLabel(wxFlexGridSizer& grid, wxWindow* parent, std::string_view caption)
+{
+    wxStaticText* label = NewLabel(parent, "lblRow", caption);
+    grid.Add(label, wxSizerFlags().CenterVertical());
+    return label;
+}
+
+void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box)
+{
+    grid.Add(box, wxSizerFlags().Expand());
+}
+
+/// Makes a box wide enough for its characters, and high enough for large text, for which some systems' own
+/// height of it is too little.
+void UseTextSize(wxTextCtrl* box, int characters)
+{
+    const int width = box->GetSizeFromTextSize(box->GetTextExtent(wxString('n', characters)).x).x;
+    const int height = std::max(box->GetBestSize().y, box->GetCharHeight() + box->FromDIP(4));
+    box->SetMinSize({width, height});
+}
+
+/// A box that shows a figure. Whether Tab stops at it is the window's choice; the systems do not agree.
+class OutputBox : public wxTextCtrl
+{
+public:
+    OutputBox(wxWindow* parent, const std::string& name, bool tabStop)
+        : wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_READONLY,
+                     wxDefaultValidator, ToWx(name)),
+          TabStop(tabStop)
+    {
+        SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+    }
+
+    bool AcceptsFocusFromKeyboard() const override { return TabStop && AcceptsFocus(); }
+
+private:
+    bool TabStop;
+};
+
+/// Adds something to a frame, as wide as the frame.
+void AddWide(wxStaticBoxSizer& frame, wxSizer* content, int proportion = 0)
+{
+    const int gap = Gap(frame.GetStaticBox());
+    auto* framed = new wxBoxSizer(wxVERTICAL);
+    framed->Add(content, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, gap));
+    frame.Add(framed, wxSizerFlags(proportion).Expand().Border(wxTOP | wxBOTTOM, gap / 2));
+}
+
+} // namespace
+
+frmECTSCalc::frmECTSCalc(wxWindow* parent)
+{
+    Create(parent, wxID_ANY, ToWx(EctsCaption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
+           "frmECTSCalc");
+    UseProgramLook(*this);
+    Panel = new wxScrolledWindow(this, wxID_ANY);
+
+    // The controls are made in tab order: column by column, then the results and the commands. They are the
+    // panel's children, not their frames': the access key of a button must be found from every field, and
+    // some systems look for it among the siblings only.
+    const wxSizerFlags below = wxSizerFlags().Expand().Border(wxTOP, Gap(this));
+    auto* left = new wxBoxSizer(wxVERTICAL);
+    left->Add(CourseFrame(), wxSizerFlags(1).Expand());
+    left->Add(ContactFrame(), below);
+    left->Add(LiteratureFrame(), below);
+    auto* right = new wxBoxSizer(wxVERTICAL);
+    right->Add(WrittenFrame(), wxSizerFlags().Expand());
+    right->Add(OtherMethodsFrame(), below);
+    auto* columns = new wxFlexGridSizer(2, wxSize(2 * Gap(this), 0)); // each as wide as it needs, and more
+    columns->AddGrowableCol(0, 1);
+    columns->AddGrowableCol(1, 1);
+    columns->AddGrowableRow(0);
+    columns->Add(left, wxSizerFlags().Expand());
+    columns->Add(right, wxSizerFlags().Expand());
+
+    auto* content = new wxBoxSizer(wxVERTICAL);
+    content->Add(columns, wxSizerFlags(1).Expand());
+    content->Add(TotalsFrame(), below);
+    content->Add(lblUpozorenje = NewLabel(Panel, "lblUpozorenje", ""), below);
+    content->Add(CommandRow(), below);
+    auto* margin = new wxBoxSizer(wxVERTICAL);
+    margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap(this)));
+    Panel->SetSizer(margin);
+    FitToScreen(*margin);
+
+    BindEvents();
+    Form_Load();
+}
+
+wxTextCtrl* frmECTSCalc::NewField(const std::string& name, std::string& text, long style)
+{
+    auto* box = new wxTextCtrl(Panel, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, style,
+                               wxDefaultValidator, ToWx(name));
+    return AddField(box, text);
+}
+
+wxTextCtrl* frmECTSCalc::NewOutput(const std::string& name, std::string& text, bool tabStop)
+{
+    return AddField(new OutputBox(Panel, name, tabStop), text);
+}
+
+wxTextCtrl* frmECTSCalc::AddField(wxTextCtrl* box, std::string& text)
+{
+    UseTextSize(box, NumberCharacters);
+    Boxes.push_back({box, &text});
+    return box;
+}
+
+wxSizer* frmECTSCalc::CourseFrame()
+{
+    wxStaticBoxSizer* frame = NewFrame(Panel, "fraOpciPodaci", "Opći podaci");
+    wxFlexGridSizer* grid = NewGrid(this, 2);
+    grid->AddGrowableCol(1);
+    grid->AddGrowableRow(2);
+    AddLabel(*grid, Panel, EctsLabel::NazivKolegija);
+    AddBox(*grid, txtNazivKolegija = NewField("txtNazivKolegija", Fields.NazivKolegija));
+    AddLabel(*grid, Panel, "Nositelj(i):");
+    AddBox(*grid, txtNositelj = NewField("txtNositelj", Fields.Nositelj));
+    AddLabel(*grid, Panel, EctsLabel::Komentar);
+    AddBox(*grid, txtKomentar = NewField("txtKomentar", Fields.Komentar, wxTE_MULTILINE));
+    txtKomentar->SetMinSize({-1, CommentLines * GetCharHeight() + FromDIP(10)});
+    AddWide(*frame, grid, 1);
+    return frame;
+}
+
+wxSizer* frmECTSCalc::ContactFrame()
+{
+    static constexpr std::string_view heads[] = {EctsLabel::VrstaNastave, EctsLabel::KontaktniSati,
+                                                 EctsLabel::SamostalniSati};
+    wxStaticBoxSizer* frame = NewFrame(Panel, "fraKontaktnaNastava", EctsGroup::Kontaktna);
+    wxFlexGridSizer* grid = NewGrid(this, static_cast<int>(std::size(heads)));
+    grid->AddGrowableCol(0);
+    AddHeads(*grid, Panel, heads);
+    for (std::size_t i = 0; i < ContactRows.size(); ++i)
+    {
+        AddLabel(*grid, Panel, ContactRows[i].Label);
+        txtKontaktniSati[i] = NewField(Element("txtKontaktniSati", i), Fields.KontaktniSati[i]);
+        AddBox(*grid, txtKontaktniSati[i]);
+        txtSamostalniSati[i] = NewField(Element("txtSamostalniSati", i), Fields.SamostalniSati[i]);
+        AddBox(*grid, txtSamostalniSati[i]);
+    }
+    AddLabel(*grid, Panel, EctsLabel::Ukupno);
+    AddBox(*grid, txtKontaktniUkupno = NewOutput("txtKontaktniUkupno(3)", Fields.KontaktniUkupno));
+    AddBox(*grid, txtSamostalniUkupno = NewOutput("txtSamostalniUkupno(3)", Fields.SamostalniUkupno));
+    AddWide(*frame, grid);
+    return frame;
+}
+
+wxSizer* frmECTSCalc::LiteratureFrame()
+{
+    static constexpr std::string_view heads[] = {EctsLabel::VrstaLiterature, EctsLabel::BrojStranica, "Norma",
+                                                 EctsLabel::IzracunSati, EctsLabel::Procjena};
+    wxStaticBoxSizer* frame = NewFrame(Panel, "fraLiteratura", EctsGroup::Literatura);
+    AddOptions(*frame, optLitIzracun, "optLitIzracun", optLitProcjena, "optLitProcjena");
+
+    wxFlexGridSizer* grid = NewGrid(this, static_cast<int>(std::size(heads)));
+    grid->AddGrowableCol(0);
+    AddHeads(*grid, Panel, heads);
+    for (std::size_t i = 0; i < LiteratureRows.size(); ++i)
+    {
+        AddLabel(*grid, Panel, LiteratureRows[i].Label);
+        AddBox(*grid, txtLitStranice[i] = NewField(Element("txtLitStranice", i), Fields.LitStranice[i]));
+        AddLabel(*grid, Panel, LiteratureRows[i].NormLabel);
+        AddBox(*grid, txtLitIzracun[i] = NewOutput(Element("txtLitIzracun", i), Fields.LitIzracun[i]));
+        AddBox(*grid, txtLitProcjena[i] = NewField(Element("txtLitProcjena", i), Fields.LitProcjena[i]));
+    }
+    AddLabel(*grid, Panel, EctsLabel::Ukupno);
+    grid->AddStretchSpacer();
+    grid->AddStretchSpacer();
+    AddBox(*grid, txtLitUkupno = NewOutput("txtLitUkupno", Fields.LitUkupno));
+    AddWide(*frame, grid);
+    return frame;
+}
+
+wxSizer* frmECTSCalc::WrittenFrame()
+{
+    wxStaticBoxSizer* frame = NewFrame(Panel, "fraPismeniZadatak", EctsGroup::Pismeni);
+    AddOptions(*frame, optPismeniIzracun, "optPismeniIzracun", optPismeniProcjena, "optPismeniProcjena");
+
+    wxFlexGridSizer* grid = NewGrid(this, 2);
+    grid->AddGrowableCol(0);
+    AddLabel(*grid, Panel, EctsLabel::OpsegStranice);
+    AddBox(*grid, txtOpsegStranice = NewField("txtOpsegStranice", Fields.OpsegStranice));
+    AddLabel(*grid, Panel, EctsLabel::OpsegRijeci);
+    AddBox(*grid, txtOpsegRijeci = NewField("txtOpsegRijeci", Fields.OpsegRijeci));
+    AddLabel(*grid, Panel, EctsLabel::IzracunatoVrijeme);
+    AddBox(*grid, txtPismeniIzracun = NewOutput("txtPismeniIzracun", Fields.PismeniIzracun));
+    AddLabel(*grid, Panel, EctsLabel::VlastitaProcjena);
+    AddBox(*grid, txtPismeniProcjena = NewField("txtPismeniProcjena", Fields.PismeniProcjena));
+    AddWide(*frame, grid);
+    auto* note = new wxBoxSizer(wxHORIZONTAL);
+    note->Add(NewLabel(Panel, "lblPismeniNormativ", WrittenNormNote));
+    AddWide(*frame, note);
+    return frame;
+}
+
+wxSizer* frmECTSCalc::OtherMethodsFrame()
+{
+    wxStaticBoxSizer* frame = NewFrame(Panel, "fraOstaleMetode", EctsGroup::Ostale);
+    wxFlexGridSizer* grid = NewGrid(this, 2);
+    grid->AddGrowableCol(0);
+    for (std::size_t i = 0; i < OtherMethods.size(); ++i)
+    {
+        const auto index = static_cast<std::size_t>(OtherMethods[i].Index);
+        wxStaticText* label = AddLabel(*grid, Panel, OtherMethods[i].Label);
+        if (i == 0 || label->GetBestSize().x > WidestLabel->GetBestSize().x)
+            WidestLabel = label;
+        txtOstaleMetode[i] = NewField(Element("txtOstaleMetode", index), Fields.OstaleMetode[i]);
+        grid->Add(txtOstaleMetode[i], wxSizerFlags().CenterVertical());
+    }
+    AddLabel(*grid, Panel, EctsLabel::Ukupno);
+    AddBox(*grid, txtOstaleMetodeUkupno = NewOutput("txtOstaleMetodeUkupno", Fields.OstaleMetodeUkupno));
+    AddWide(*frame, grid);
+    return frame;
+}
+
+wxSizer* frmECTSCalc::TotalsFrame()
+{
+    wxStaticBoxSizer* frame = NewFrame(Panel, "fraUkupnoOpter", EctsGroup::UkupnoOpter);
+    wxFlexGridSizer* grid = NewGrid(this, static_cast<int>(TotalLabels.size()));
+    AddHeads(*grid, Panel, TotalLabels);
+    for (std::size_t i = 0; i < TotalLabels.size(); ++i)
+    {
+        grid->AddGrowableCol(i, 1);
+        txtUkupnoOpter[i] = NewOutput(Element("txtUkupnoOpter", i), Fields.UkupnoOpter[i], true);
+        AddBox(*grid, txtUkupnoOpter[i]);
+    }
+    AddWide(*frame, grid);
+    return frame;
+}
+
+wxSizer* frmECTSCalc::CommandRow()
+{
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    AddLabelled(*row, Panel, "lbl1ECTS", "1 ECTS", cbo1ECTS = NewChoice(Panel, "cbo1ECTS", 4));
+    row->Add(NewLabel(Panel, "lblSati", "sati"), wxSizerFlags().CenterVertical());
+    row->AddStretchSpacer();
+    const auto add = [&](std::string_view name, std::string_view caption)
+    {
+        wxButton* button = NewButton(Panel, name, caption);
+        row->Add(button, wxSizerFlags().CenterVertical().Border(wxLEFT, Gap(this)));
+        return button;
+    };
+    cmdIzracunaj = add("cmdIzracunaj", "&Izračunaj");
+    cmdOcisti = add("cmdOcisti", "&Očisti");
+    cmdExport = add("cmdExport", "E&xport");
+    cmdClose = add("cmdClose", "&Zatvori");
+    return row;
+}
+
+void frmECTSCalc::AddOptions(wxStaticBoxSizer& frame, wxRadioButton*& norm, std::string_view normName,
+                             wxRadioButton*& estimate, std::string_view estimateName)
+{
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    const auto add = [&](std::string_view name, std::string_view caption, long style)
+    {
+        auto* option = new wxRadioButton(Panel, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize,
+                                         style, wxDefaultValidator, ToWx(name));
+        row->Add(option, wxSizerFlags().Border(wxRIGHT, 2 * Gap(this)));
+        return option;
+    };
+    norm = add(normName, EctsLabel::Normativ, wxRB_GROUP);
+    estimate = add(estimateName, EctsLabel::VlastitaProcjena, 0);
+    AddWide(frame, row);
+}
+
+void frmECTSCalc::FitToScreen(wxSizer& content)
+{
+    wxSize screen = wxGetClientDisplayRect().GetSize();
+    screen.DecBy(GetSize() - GetClientSize());
+    wxSize size = content.CalcMin();
+    if (size.x > screen.x)
+    {
+        WidestLabel->Wrap(WidestLabel->GetBestSize().x - (size.x - screen.x));
+        size = content.CalcMin();
+    }
+    // On a screen that is still too small the content scrolls.
+    if (size.y > screen.y)
+        size.x += wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
+    if (size.x > screen.x)
+        size.y += wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, this);
+    size.DecTo(screen);
+    Panel->SetScrollRate(FromDIP(10), FromDIP(10));
+    SetMinClientSize(size);
+    SetClientSize(size);
+}

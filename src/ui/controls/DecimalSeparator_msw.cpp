@@ -1,0 +1,15 @@
+#include "ui/controls/DecimalSeparator.h"
+
+#include "ui/controls/Strings.h"
+
+#include <windows.h>
+
+std::string SystemDecimalSeparator()
+{
+    // The toolkit would speak of the program's own locale, which is nobody's.
+    constexpr int longest = 8;
+    wchar_t text[longest] = {};
+    if (GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, text, longest) <= 1)
+        return ".";
+    return ToUtf8(text);
+}
