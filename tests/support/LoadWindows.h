@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Catalogue.h"
 #include "support/LoadChecks.h"
 #include "support/Windows.h"
 #include "ui/main/frmMain.h"
@@ -7,8 +8,9 @@
 #include <wx/button.h>
 #include <wx/listbox.h>
 #include <wx/stattext.h>
+#include <wx/uiaction.h>
 
-#include <initializer_list>
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -33,9 +35,14 @@ inline void ExpectColumns(const ListView* list, const std::vector<ExpectedColumn
     {
         const ExpectedColumn& column = expected[static_cast<std::size_t>(i)];
         EXPECT_EQ(list->ColumnCaption(i), column.Caption);
-        // A caption that does not fit makes its column wider, by a little only.
+        // A caption that does not fit makes its column wider, by no more than it needs where it is bold.
+        const wxFont bold = list->GetFont().Bold();
+        wxSize caption;
+        list->GetTextExtent(column.Caption, &caption.x, &caption.y, nullptr, nullptr, &bold);
         EXPECT_GE(list->ColumnWidth(i), list->FromDIP(column.Twips / 15)) << column.Caption;
-        EXPECT_LE(list->ColumnWidth(i), list->FromDIP(column.Twips / 15 + 30)) << column.Caption;
+        EXPECT_LE(list->ColumnWidth(i),
+                  std::max(list->FromDIP(column.Twips / 15), caption.x) + list->FromDIP(40))
+            << column.Caption;
     }
 }
 
@@ -104,6 +111,7 @@ protected:
     void OpenMain(const Catalogue& catalogue = SmallCatalogue())
     {
         catalogue.WriteTo(Folder.Data());
+        const MessageAnswers warning; // of data that are not valid
         Main = new frmMain;
         Main->Form_Load();
         Settle();

@@ -1,6 +1,7 @@
 // The program itself, but for two things: what its message boxes say goes to standard output and each is
 // answered at once, and the splash is dismissed at once, and the main window is left as VARLO_LEAVE_BY says:
-// by the "exit" button or by its "close" box.
+// by the "exit" button or by its "close" box. Where VARLO_EXPORT_LOAD names one of its buttons that open a
+// window of teaching load, that window's export goes to load.csv in LOCALAPPDATA before that.
 
 #include "data/System.h"
 #include "support/Windows.h"
@@ -41,18 +42,39 @@ public:
     }
 
 private:
+    static void PressButton(wxWindow* window, const char* name)
+    {
+        auto* button = Find<wxButton>(window, name);
+        wxCommandEvent press(wxEVT_BUTTON, button->GetId());
+        button->ProcessWindowEvent(press);
+    }
+
+    static void ExportLoad(frmMain* window, const std::string& openingButton)
+    {
+        const SaveAnswers save(System::EnvironmentVariable("LOCALAPPDATA") +
+                               std::string(System::PathSeparator) + "load.csv");
+        PressButton(window, openingButton.c_str());
+        for (wxWindow* open : wxTopLevelWindows)
+            if (wxWindow::FindWindowByName("cmdExportAllStat", open) != nullptr)
+            {
+                PressButton(open, "cmdExportAllStat");
+                return;
+            }
+    }
+
     void Leave()
     {
         FindOpen<frmSplash>()->CloseSplash();
         auto* window = FindOpen<frmMain>();
+        const std::string load = System::EnvironmentVariable("VARLO_EXPORT_LOAD");
+        if (!load.empty())
+            ExportLoad(window, load);
         if (System::EnvironmentVariable("VARLO_LEAVE_BY") == "close")
         {
             window->Close();
             return;
         }
-        auto* button = Find<wxButton>(window, "cmdExit");
-        wxCommandEvent press(wxEVT_BUTTON, button->GetId());
-        button->ProcessWindowEvent(press);
+        PressButton(window, "cmdExit");
     }
 
     PrintingAnswers Answers;

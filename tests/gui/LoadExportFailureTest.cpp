@@ -1,0 +1,86 @@
+// The exports of teaching load in the whole program: an error in writing ends it with the last report.
+
+#include "support/Catalogue.h"
+#include "support/LoadChecks.h"
+#include "support/Windows.h"
+
+#include <wx/filename.h>
+#include <wx/stdpaths.h>
+#include <wx/utils.h>
+
+namespace
+{
+
+struct Outcome
+{
+    long ExitCode;
+    std::string Output; ///< The message boxes, a line each: title, severity, text.
+};
+
+/// By the button that opens the window of load.
+class LoadExportInProgram : public testing::TestWithParam<const char*>
+{
+protected:
+    LoadExportInProgram()
+    {
+        SmallCatalogue().WriteTo(Folder.Data());
+        // A blank line, which saving drops: it tells whether the program has saved.
+        WriteBytes(Folder.Data() / "db_zavod.csv", Unsaved);
+    }
+    ~LoadExportInProgram() override { SetEnvironment("VARLO_EXPORT_LOAD", ""); }
+
+    static Outcome Run()
+    {
+        SetEnvironment("VARLO_EXPORT_LOAD", GetParam());
+        wxFileName program(wxStandardPaths::Get().GetExecutablePath());
+        program.SetName("scripted_program");
+        wxArrayString output;
+        wxArrayString errors;
+        const long exitCode = wxExecute("\"" + program.GetFullPath() + "\"", output, errors, wxEXEC_SYNC);
+        return {exitCode, wxJoin(output, '\n', '\0').utf8_string()};
+    }
+
+    bool HasSaved() const { return ReadBytes(Folder.Data() / "db_zavod.csv") != Unsaved; }
+
+    static constexpr std::string_view Unsaved = "ID;Naziv;Kratica\r\n1;Zavod;Z\r\n\r\n2;Drugi;D\r\n";
+    TestFolder Folder;
+};
+
+TEST_P(LoadExportInProgram, WrittenItTellsAndGoesOn)
+{
+    const Outcome outcome = Run();
+    EXPECT_EQ(outcome.ExitCode, 0);
+    EXPECT_EQ(outcome.Output.find("Izvoz završen|other|Statistika za sve "), 0U) << outcome.Output;
+    EXPECT_NE(outcome.Output.find(Folder.PathOf("load.csv")), std::string::npos) << outcome.Output;
+    EXPECT_EQ(outcome.Output.find("critical"), std::string::npos) << outcome.Output;
+    EXPECT_GE(FileLines(ReadBytes(Folder.Path() / "load.csv")).size(), 33U);
+    EXPECT_TRUE(HasSaved());
+}
+
+TEST_P(LoadExportInProgram, AFileThatMayNotBeWrittenEndsTheProgramAndStays)
+{
+    WriteBytes(Folder.Path() / "load.csv", "older");
+    const ReadOnly marked(Folder.Path() / "load.csv");
+    const Outcome outcome = Run();
+    EXPECT_EQ(outcome.Output, "Varlostudiji|critical|Greška 70: Pristup nije dopušten; možda je zaštićeno od "
+                              "pisanja ili otvoreno u drugom programu: " +
+                                  Folder.PathOf("load.csv"));
+    EXPECT_EQ(outcome.ExitCode, 1);
+    EXPECT_EQ(ReadBytes(Folder.Path() / "load.csv"), "older");
+    EXPECT_EQ(EntriesOf(Folder.Path()), (std::vector<std::string>{"Varlostudiji", "load.csv"}));
+    EXPECT_FALSE(HasSaved());
+}
+
+TEST_P(LoadExportInProgram, AFolderInTheFilesPlaceEndsTheProgram)
+{
+    std::filesystem::create_directory(Folder.Path() / "load.csv");
+    const Outcome outcome = Run();
+    EXPECT_EQ(outcome.Output, "Varlostudiji|critical|Greška 75: Na tom mjestu nije datoteka nego mapa: " +
+                                  Folder.PathOf("load.csv"));
+    EXPECT_EQ(outcome.ExitCode, 1);
+    EXPECT_FALSE(HasSaved());
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, LoadExportInProgram, testing::Values("cmdStatNositelji", "cmdStatZavodi"));
+
+} // namespace
