@@ -86,9 +86,20 @@ void WriteBesideAndReplace(const fs::path& file, std::string_view content, std::
     }
     catch (const FileError&)
     {
-        fs::remove(temporary, ignored);
+        if (fs::is_regular_file(temporary, ignored)) // and not something else that stood in its place
+            fs::remove(temporary, ignored);
         throw;
     }
+}
+
+/// What a link leads to in the end, whether it is there or not; any other path is its own end.
+fs::path EndOfLinks(fs::path file)
+{
+    constexpr int most = 40; // as many as the systems follow
+    std::error_code failure;
+    for (int i = 0; i < most && fs::is_symlink(file, failure); ++i)
+        file = file.parent_path() / fs::read_symlink(file, failure);
+    return file;
 }
 
 } // namespace
@@ -130,10 +141,7 @@ void CreateFileIfMissing(std::string_view path)
 void ReplaceFile(std::string_view path, std::string_view content)
 {
     // A link stays a link: what it leads to is what gets the new content.
-    std::error_code ignored;
-    const fs::path named = ToPath(path);
-    const fs::path file = fs::is_symlink(named, ignored) ? fs::weakly_canonical(named, ignored) : named;
-
+    const fs::path file = EndOfLinks(ToPath(path));
     const fs::file_type type = TypeOf(file, path);
     RequireWritable(file, type, path);
     if (type == fs::file_type::regular || type == fs::file_type::not_found)

@@ -159,6 +159,21 @@ TEST_F(LecturerWindow, ALecturerWithoutCoursesHasATableOfZeros)
     EXPECT_EQ(Total(), "TOTAL;Sve;0;0;0;0;0");
 }
 
+TEST_F(LecturerWindow, AListThatShrinksForgetsTheSelectionBehindItsEnd)
+{
+    Open();
+    SelectEntry(Nastavnici(), "Anić Ana");
+    Kolegiji()->SelectRow(1);
+    Table()->SelectRow(14);
+    Choose(Box("cboProgram"), "BEV");
+    EXPECT_EQ(Kolegiji()->RowCount(), 0);
+    EXPECT_EQ(Kolegiji()->SelectedRow(), -1);
+    EXPECT_EQ(Table()->SelectedRow(), -1);
+    SelectEntry(Nastavnici(), "Šarić Žarko");
+    EXPECT_EQ(Names(), Texts{"Bevska kultura"});
+    EXPECT_EQ(TakeUncaughtError(), "");
+}
+
 // Filters
 
 TEST_F(LecturerWindow, TheFiltersNarrowTheCoursesAndTheTable)

@@ -140,6 +140,94 @@ TEST(CourseList, ABadNumberEndsTheListOnlyWhereItIsNeeded)
     EXPECT_THROW(CourseRows({.StudijID = 1, .Semestar = 1}), TypeMismatch);
 }
 
+TEST(CourseList, ANumberFiltersHoweverItIsWritten)
+{
+    Catalogue catalogue;
+    catalogue.Kolegiji = {"1;A;;;;;;02; 3 ", "02;B;;;;;;2.0;+3", "3;C;;;;;;3;3"};
+    catalogue.KolegijSmjerovi = {" 2; 7,0"};
+    catalogue.Use();
+    EXPECT_EQ(IDs({.StudijID = 3, .Semestar = 2}), (Texts{"1", "02"}));
+    EXPECT_EQ(IDs({.SmjerID = 7}), Texts{"02"});
+}
+
+TEST(CourseList, TheSearchFindsATextInEachOfItsFourFieldsAndInNoOther)
+{
+    Catalogue catalogue;
+    catalogue.Studiji = {"5;Q;Q5;Preddiplomski"};
+    catalogue.Smjerovi = {"5;Q;Q5;5;Preddiplomski"};
+    catalogue.Nastavnici = {"1;Ivo Q5;dr. Q6;1"};
+    catalogue.Kolegiji = {
+        "1;naziv q5;1;1;1;1;obvezni;1;5", "2;A;1;1;1;Q5;obvezni;1;5", "3;A;1;1;1;1;Q5;1;5",
+        "4;A;1;1;1;1;obvezni;1;5",        "55;A;5;5;5;1;obvezni;5;5", "6;A;Q5;Q5;Q5;1;obvezni;1;5"};
+    catalogue.KolegijNastavnici = {"4;1;Gost;1"};
+    catalogue.KolegijSmjerovi = {"55;5"};
+    catalogue.Use();
+    EXPECT_EQ(Found("q5"), (Texts{"1", "2", "3", "4"}));
+    EXPECT_EQ(Found("5"), (Texts{"1", "2", "3", "4"}));
+    EXPECT_EQ(Found("q6"), Texts{}) << "a lecturer's title is not searched";
+}
+
+TEST(CourseList, TheSearchKnowsNoWordsAndNoWildcards)
+{
+    SmallCatalogue().Use();
+    EXPECT_EQ(Found("apredn"), Texts{"4"});
+    for (const char* search : {"*", "?", "u*d", "%", "uvod  u", "u_od"})
+        EXPECT_EQ(Found(search), Texts{}) << search;
+}
+
+TEST(CourseList, LecturersAreSearchedInTheOrderOfTheirPlaces)
+{
+    Catalogue catalogue;
+    catalogue.Nastavnici = {"1;Ana;;1", "2;Iva;;1"};
+    catalogue.Kolegiji = {"1;A;1;1;1;1;obvezni;1;1"};
+    catalogue.KolegijNastavnici = {"1;2;N;2", "1;1;N;1"};
+    catalogue.Use();
+    EXPECT_EQ(Found("ana, iva"), Texts{"1"});
+    EXPECT_EQ(Found("iva, ana"), Texts{});
+}
+
+TEST(CourseList, ACourseWithoutDirectionsIsHiddenByADirectionAndHasAnEmptyCell)
+{
+    SmallCatalogue().Use();
+    EXPECT_EQ(IDs({.StudijID = 1, .SmjerID = 1}), Texts{"1"});
+    EXPECT_EQ(CourseRows({}).at(4).at(1).Text, "Kolegij bez smjera");
+    EXPECT_EQ(CourseRows({}).at(4).at(9).Text, "");
+}
+
+TEST(CourseList, AnElectiveIsBlueInEveryColumnAndAnyOtherCourseBlack)
+{
+    Catalogue catalogue;
+    catalogue.Kolegiji = {"1;A;;;;;Obvezni ;1;1", "2;B;;;;; izborni;1;1", "3;C;;;;;fakultativni;1;1"};
+    catalogue.Use();
+    const std::vector<ListRow> rows = CourseRows({});
+    for (std::size_t row = 0; row < rows.size(); ++row)
+    {
+        ASSERT_EQ(rows[row].size(), 11U);
+        for (const ListCell& cell : rows[row])
+            EXPECT_EQ(cell.Colour, row == 1 ? Blue : Black) << row;
+    }
+}
+
+TEST(CourseList, ACourseThatIsFilteredOutNeedsNoFurtherField)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Kolegiji.push_back("x;Loš ID;1;1;1;1;obvezni;1;2");
+    catalogue.Use();
+    EXPECT_NO_THROW(CourseRows({.StudijID = 1}));
+    EXPECT_NO_THROW(CourseRows({.StudijID = 2, .Semestar = 3}));
+    EXPECT_THROW(CourseRows({.StudijID = 2}), TypeMismatch);
+}
+
+TEST(CourseList, ACourseWithTooFewFieldsIsAnError)
+{
+    Catalogue catalogue;
+    catalogue.Kolegiji = {"1;A;1;1;1;1;obvezni;1"};
+    catalogue.Use();
+    EXPECT_THROW(CourseRows({}), SubscriptOutOfRange);
+    EXPECT_THROW(CourseRows({.StudijID = 1}), SubscriptOutOfRange);
+    EXPECT_NO_THROW(CourseRows({.Semestar = 2})) << "the semester rules it out before";
+}
+
 TEST(CourseDeletion, TakesTheCourseAndItsLinksAndNothingElse)
 {
     Catalogue catalogue = SmallCatalogue();
@@ -152,6 +240,19 @@ TEST(CourseDeletion, TakesTheCourseAndItsLinksAndNothingElse)
     EXPECT_EQ(modData::Nastavnici.RowCount(), 3U);
     DeleteKolegij(99);
     EXPECT_EQ(modData::Kolegiji.RowCount(), 4U);
+}
+
+TEST(CourseDeletion, ComparesNumbers)
+{
+    Catalogue catalogue;
+    catalogue.Kolegiji = {" 1 ;A", "10;B", "1.0;C"};
+    catalogue.KolegijSmjerovi = {"01;1", "10;1"};
+    catalogue.KolegijNastavnici = {"10;1", "+1;1"};
+    catalogue.Use();
+    DeleteKolegij(1);
+    EXPECT_EQ(LinesOf(modData::Kolegiji), Texts{"10;B"});
+    EXPECT_EQ(LinesOf(modData::KolegijSmjerovi), Texts{"10;1"});
+    EXPECT_EQ(LinesOf(modData::KolegijNastavnici), Texts{"10;1"});
 }
 
 Texts TextsOf(const std::vector<Choice>& choices)

@@ -2,10 +2,18 @@
 
 #include "data/Files.h"
 #include "data/Errors.h"
+#include "data/Windows1250.h"
 #include "data/modData.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <chrono>
+
+#ifndef _WIN32 // limits on the size of files
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 namespace fs = std::filesystem;
 
@@ -104,6 +112,44 @@ TEST_F(Files, NamesMayHoldAnyLetter)
     EXPECT_TRUE(fs::exists(Folder.Path() / u8"Željka Šćepanović €.csv"));
 }
 
+TEST_F(Files, AFolderInTheTemporaryFilesPlaceIsAnErrorAndStays)
+{
+    WriteBytes(File, "old");
+    fs::create_directory(Folder.Path() / "file.csv.tmp");
+    EXPECT_THROW(ReplaceFile(Path, "new"), FileError);
+    EXPECT_EQ(ReadBytes(File), "old");
+    EXPECT_TRUE(fs::exists(Folder.Path() / "file.csv.tmp"));
+}
+
+TEST_F(Files, AFileInAFoldersPlaceIsAnError)
+{
+    WriteBytes(File, "old");
+    EXPECT_THROW(ReplaceFile(Path + "/inner.csv", "new"), FileError);
+    EXPECT_THROW(ReadFile(Path + "/inner.csv"), FileError);
+    EXPECT_EQ(ReadBytes(File), "old");
+}
+
+TEST_F(Files, ReadingStopsAtItsLimit)
+{
+    WriteBytes(File, std::string("ab\0\r\n\x1Az", 7));
+    EXPECT_EQ(ReadFile(Path, 2), "ab");
+    EXPECT_EQ(ReadFile(Path, 0), "");
+    EXPECT_EQ(ReadFile(Path), std::string("ab\0\r\n\x1Az", 7)) << "no byte ends a file early";
+    WriteBytes(File, std::string(200'000, 'x'));
+    EXPECT_EQ(ReadFile(Path, 100'000).size(), 100'000U);
+    EXPECT_EQ(ReadFile(Path).size(), 200'000U);
+}
+
+TEST_F(Files, AMissingFileIsCreatedAndAnExistingOneLeftAlone)
+{
+    CreateFileIfMissing(Path);
+    EXPECT_EQ(ReadBytes(File), "");
+    WriteBytes(File, "content");
+    CreateFileIfMissing(Path);
+    EXPECT_EQ(ReadBytes(File), "content");
+    EXPECT_THROW(CreateFileIfMissing(Folder.PathOf("missing") + "/file.csv"), FileError);
+}
+
 #ifndef _WIN32 // Windows has no mark on folders that keeps files from being written there, no devices, other
                // links.
 
@@ -131,6 +177,72 @@ TEST_F(Files, ALinkStaysALink)
     ReplaceFile(Path, "new");
     EXPECT_TRUE(fs::is_symlink(File));
     EXPECT_EQ(ReadBytes(Folder.Path() / "real.csv"), "new");
+}
+
+TEST_F(Files, ALinkWhoseFileIsMissingStaysALinkAndGetsItsFile)
+{
+    fs::create_symlink("real.csv", File);
+    ReplaceFile(Path, "new");
+    EXPECT_TRUE(fs::is_symlink(File));
+    EXPECT_EQ(ReadBytes(Folder.Path() / "real.csv"), "new");
+}
+
+TEST_F(Files, ALinkToALinkInAnotherFolderReachesTheFile)
+{
+    fs::create_directory(Folder.Path() / "inner");
+    WriteBytes(Folder.Path() / "inner/real.csv", "old");
+    fs::create_symlink("real.csv", Folder.Path() / "inner/second.csv");
+    fs::create_symlink("inner/second.csv", File);
+    ReplaceFile(Path, "new");
+    EXPECT_TRUE(fs::is_symlink(File) && fs::is_symlink(Folder.Path() / "inner/second.csv"));
+    EXPECT_EQ(ReadBytes(Folder.Path() / "inner/real.csv"), "new");
+    EXPECT_EQ(EntriesOf(Folder.Path() / "inner"), (std::vector<std::string>{"real.csv", "second.csv"}));
+}
+
+TEST_F(Files, AFileBehindALinkThatIsMarkedReadOnlyKeepsItsContent)
+{
+    WriteBytes(Folder.Path() / "real.csv", "old");
+    fs::permissions(Folder.Path() / "real.csv", AnyWrite, fs::perm_options::remove);
+    fs::create_symlink("real.csv", File);
+    ExpectFailure(Path, 70);
+    EXPECT_EQ(ReadBytes(Folder.Path() / "real.csv"), "old");
+}
+
+TEST_F(Files, LinksInACircleAreAnError)
+{
+    fs::create_symlink("other.csv", File);
+    fs::create_symlink("file.csv", Folder.Path() / "other.csv");
+    EXPECT_THROW(ReplaceFile(Path, "new"), FileError);
+    EXPECT_THROW(ReadFile(Path), FileError);
+    EXPECT_TRUE(fs::is_symlink(File));
+}
+
+TEST_F(Files, ADiskThatFillsUpOnTheWayLeavesTheOldContent)
+{
+    WriteBytes(File, "old");
+    const auto replaceWithinLimit = [&]
+    {
+        const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN); // the write shall fail, not the process
+        rlimit former;
+        ::getrlimit(RLIMIT_FSIZE, &former);
+        const rlimit small = {100'000, former.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+        bool failed = false;
+        try
+        {
+            ReplaceFile(Path, std::string(1'000'000, 'x'));
+        }
+        catch (const FileError&)
+        {
+            failed = true;
+        }
+        ::setrlimit(RLIMIT_FSIZE, &former);
+        std::signal(SIGXFSZ, formerHandler);
+        return !failed;
+    };
+    EXPECT_FALSE(replaceWithinLimit());
+    EXPECT_EQ(ReadBytes(File), "old");
+    EXPECT_EQ(EntriesOf(Folder.Path()).size(), 2U) << "nothing temporary stays";
 }
 
 TEST_F(Files, AFileKeepsItsPermissions)
@@ -172,6 +284,44 @@ TEST_F(Encoding, AFileWithoutTheMarkStays)
 {
     for (const char* content : {"1;Č", "\xEF", "\xEF\xBB", "\xEF\xBBx", "x\xEF\xBB\xBF", ""})
         EXPECT_EQ(Normalized(content), content);
+}
+
+TEST_F(Encoding, AFileWithoutTheMarkIsNotEvenWrittenAgain)
+{
+    WriteBytes(File, "1;\x8E\r\n");
+    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(48);
+    fs::last_write_time(File, longAgo);
+    const auto before = fs::last_write_time(File);
+    modData::NormalizeFileEncoding(Path);
+    EXPECT_EQ(fs::last_write_time(File), before);
+}
+
+TEST_F(Encoding, ALeftoverTemporaryFileIsOverwritten)
+{
+    WriteBytes(Folder.Path() / "file.csv.tmp", "left over from a crash, and longer than the new content");
+    EXPECT_EQ(Normalized("\xEF\xBB\xBFx"), "x");
+    EXPECT_FALSE(fs::exists(Folder.Path() / "file.csv.tmp"));
+}
+
+TEST_F(Encoding, EveryCharacterOfWindows1250GetsItsByte)
+{
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
+    EXPECT_EQ(Normalized("\xEF\xBB\xBF" + FromWindows1250(bytes)), bytes);
+}
+
+TEST_F(Encoding, AConversionThatFailsLeavesTheMarkedFile)
+{
+    fs::create_directory(Folder.Path() / "file.csv.tmp");
+    EXPECT_THROW(Normalized("\xEF\xBB\xBFx"), FileError);
+    EXPECT_EQ(ReadBytes(File), "\xEF\xBB\xBFx");
+}
+
+TEST_F(Encoding, AFolderOrAMissingFolderIsAnError)
+{
+    EXPECT_THROW(modData::NormalizeFileEncoding(Folder.PathOf("")), FileError);
+    EXPECT_THROW(modData::NormalizeFileEncoding(Folder.PathOf("missing") + "/file.csv"), FileError);
 }
 
 TEST_F(Encoding, Utf8WithoutTheMarkReadsAsTwoWrongCharactersALetter)

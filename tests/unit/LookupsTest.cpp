@@ -127,4 +127,59 @@ TEST(Lookups, AFieldIsReadOnlyWhereTheOnesBeforeItHold)
     EXPECT_NO_THROW(Nositelji123()) << "a fourth link is not looked at";
 }
 
+TEST(Lookups, TheExchangesSettleTheOrderOfMoreEqualPlaces)
+{
+    UseLinks({"1;1;N;2", "1;2;N;2", "1;3;N;2", "1;4;N;1"});
+    EXPECT_EQ(NastavniciForKolegij(), "D1B2C2A2");
+    EXPECT_EQ(GetNositeljiString(1), "D; B; C; A");
+    UseLinks({"1;1;N;3", "1;2;N;2", "1;3;N;3", "1;4;N;1"});
+    EXPECT_EQ(NastavniciForKolegij(), "D1B2C3A3");
+    EXPECT_EQ(GetNositeljiString(1), "D; B; C; A");
+    UseLinks({"1;1;N;1", "1;2;N;1", "1;3;N;1"});
+    EXPECT_EQ(Nositelji123(), "A|B|C") << "equal places alone are not exchanged";
+}
+
+TEST(Lookups, GatheringFailsOnABadCourseBehindTheLastLinkAsWell)
+{
+    UseLinks({"1;1;N;1", "1;2;N;2", "1;3;N;3", "x;1;N;1"});
+    EXPECT_THROW(GetNositeljiString(1), TypeMismatch);
+    EXPECT_THROW(GetNastavniciForKolegij(1), TypeMismatch);
+    EXPECT_THROW(Nositelji123(), TypeMismatch);
+    EXPECT_THROW(GetNositeljiString(7), TypeMismatch) << "also where nothing is found";
+}
+
+TEST(Lookups, ALecturerComesWithTheWholeRowAndOfEqualIDsTheFirst)
+{
+    Catalogue catalogue;
+    catalogue.Nastavnici = {"07;Anić Ana; dr. sc. ;2;x", "7;Drugi;;1"};
+    catalogue.KolegijNastavnici = {"1;7;;2,0"};
+    catalogue.Use();
+    const auto found = GetNastavniciForKolegij(1);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].Nastavnik.FieldCount(), 5U);
+    EXPECT_EQ(found[0].Nastavnik.Field(Nastavnik::Titula), " dr. sc. ");
+    EXPECT_EQ(found[0].Redoslijed, 2);
+}
+
+TEST(Lookups, ARowWithoutTheFieldIsAnErrorWhereItMatches)
+{
+    Catalogue catalogue;
+    catalogue.Studiji = {"1;X", "2;X;K2;Diplomski"};
+    catalogue.Use();
+    EXPECT_EQ(GetStudijKratica(2), "K2");
+    EXPECT_THROW(GetStudijKratica(1), SubscriptOutOfRange);
+    EXPECT_THROW(GetStudijRazina(1), SubscriptOutOfRange);
+}
+
+TEST(Lookups, ABadDirectionIsAnErrorForItsOwnCourseAlone)
+{
+    Catalogue catalogue;
+    catalogue.Smjerovi = {"1;X;A;1;R"};
+    catalogue.KolegijSmjerovi = {"1;1", "2;x", "3"};
+    catalogue.Use();
+    EXPECT_EQ(GetSmjeroviKraticeString(1), "A");
+    EXPECT_THROW(GetSmjeroviKraticeString(2), TypeMismatch);
+    EXPECT_THROW(GetSmjeroviKraticeString(3), SubscriptOutOfRange);
+}
+
 } // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string>
 
 TEST(Numbers, ANumberIsBlanksASignDigitsAndOneSeparator)
 {
@@ -70,4 +71,29 @@ TEST(Numbers, SumsAndProductsAreChecked)
     EXPECT_THROW(CheckedSum(INT32_MIN, -1), Overflow);
     EXPECT_EQ(CheckedProduct(46340, 46340), 2147395600);
     EXPECT_THROW(CheckedProduct(46341, 46341), Overflow);
+}
+
+TEST(Numbers, WhatOnlyLooksLikeANumberIsNone)
+{
+    for (const char* text : {"1,2.3", "1..2", "1 000", "7-", "(7)", "7 kn", "&H10", "7%", "nan", "inf", "1e",
+                             "\u0667", "\uFF17", "\u22127", "½"})
+        EXPECT_FALSE(IsNumeric(text)) << text;
+}
+
+TEST(Numbers, ANumberIsOneWhateverItsSize)
+{
+    EXPECT_TRUE(IsNumeric("99999999999999999999"));
+    EXPECT_TRUE(IsNumeric(std::string(100'000, '9')));
+    EXPECT_THROW(ToLong(std::string(100'000, '9')), Overflow);
+    EXPECT_EQ(ToLong("7," + std::string(100'000, '4')), 7);
+}
+
+TEST(Numbers, AReadingThatFailsLeavesTheValueAlone)
+{
+    std::int32_t value = 42;
+    EXPECT_EQ(ReadLong("abc", value), NumberReading::NotNumeric);
+    EXPECT_EQ(ReadLong("2147483648", value), NumberReading::TooLarge);
+    EXPECT_EQ(value, 42);
+    EXPECT_EQ(ReadLong("-2147483648", value), NumberReading::Whole);
+    EXPECT_EQ(value, INT32_MIN);
 }

@@ -39,6 +39,28 @@ TEST(CroatianOrder, CaseDoesNotCountAndForeignLettersCountAsTheirOwn)
     EXPECT_EQ(CroatianSortKey("Müller ß é ł"), CroatianSortKey("muller s E l"));
 }
 
+TEST(CroatianOrder, EveryForeignLetterOfWindows1250StandsWithItsOwn)
+{
+    EXPECT_EQ(CroatianSortKey("śťźłąşľżŕáâăäĺçéęëěíîďńňóôőöřůúűüýţß"),
+              CroatianSortKey("stzlaslzraaaalceeeeiidnnooooruuuuyts"));
+    EXPECT_EQ(CroatianSortKey("ŚŤŹŁĄŞĽŻŔÁÂĂÄĹÇÉĘËĚÍÎĎŃŇÓÔŐÖŘŮÚŰÜÝŢ"),
+              CroatianSortKey("STZLASLZRAAAALCEEEEIIDNNOOOORUUUUYT"));
+}
+
+TEST(CroatianOrder, ADigraphIsOneInEveryCase)
+{
+    for (const char* text : {"dž", "Dž", "dŽ", "DŽ"})
+        EXPECT_EQ(CroatianSortKey(text), CroatianSortKey("dž")) << text;
+    ExpectOrder({"lz", "lJ", "m"});
+    ExpectOrder({"Nz", "nJ", "O"});
+    ExpectOrder({"l j", "lz", "lj"});
+}
+
+TEST(CroatianOrder, ATextStandsBeforeALongerOneThatBeginsWithIt)
+{
+    ExpectOrder({"n", "na", "nz", "nj", "nja"});
+}
+
 TEST(CroatianOrder, NumbersSortAsTextBeforeLetters)
 {
     ExpectOrder({"", " a", "(1)", "10", "5", "5a", "a", "a 1", "a1", "ab", "–"});
@@ -60,6 +82,22 @@ TEST(Sorting, EqualTextsKeepTheirOrderInBothDirections)
     EXPECT_EQ(Sorted({"b", "A", "a", "B", "č"}, false), (Texts{"A", "a", "b", "B", "č"}));
     EXPECT_EQ(Sorted({"b", "A", "a", "B", "č"}, true), (Texts{"č", "b", "B", "A", "a"}));
     EXPECT_EQ(Sorted({}, false), Texts{});
+}
+
+TEST(Sorting, ManyEqualTextsKeepTheirOrderInBothDirections)
+{
+    std::vector<ListRow> rows(100, ListRow{{"Lov"}});
+    std::vector<std::size_t> asTheyStood;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        asTheyStood.push_back(i);
+    EXPECT_EQ(SortedPositions(rows, {.Column = 0, .Descending = false}), asTheyStood);
+    EXPECT_EQ(SortedPositions(rows, {.Column = 0, .Descending = true}), asTheyStood);
+}
+
+TEST(Sorting, NumbersAreTexts)
+{
+    EXPECT_EQ(Sorted({"5", "10", "9", "1"}, false), (Texts{"1", "10", "5", "9"}));
+    EXPECT_EQ(Sorted({"5", "10", "9", "1"}, true), (Texts{"9", "5", "10", "1"}));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "data/Errors.h"
 #include "data/Files.h"
+#include "data/System.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/TestFolder.h"
@@ -102,6 +103,46 @@ TEST_F(Tables, AnEmptyFileEndsBeforeItsHeader)
     EXPECT_NO_THROW(Load("\r\n"));
 }
 
+TEST_F(Tables, AFileOfLineEndsAloneIsAnEmptyTable)
+{
+    for (const char* content : {"\r", "\n", "\r\r\r", "\r\n\r\n", "header\r", "header\n", "h\r\n  \r"})
+        EXPECT_EQ(Load(content).RowCount(), 0U) << testing::PrintToString(content);
+}
+
+TEST_F(Tables, ALineOfOtherWhiteSpaceIsARow)
+{
+    EXPECT_EQ(LinesOf(Load("h\r\n\t\r\n\xA0\r\n \n \r\n")), (Lines{"\t", "\u00A0", " \n "}));
+}
+
+TEST_F(Tables, ARowMayHaveManyFields)
+{
+    std::string line = "1";
+    for (int field = 2; field <= 50; ++field)
+        line += ";" + std::to_string(field);
+    const Table table = Load("h\r\n" + line);
+    EXPECT_EQ(table[0].FieldCount(), 50U);
+    EXPECT_EQ(table[0].Field(1), "2");
+    EXPECT_EQ(Saved(table), "KolegijID;SmjerID\r\n" + line + "\r\n");
+    EXPECT_EQ(RoundTrip("1" + std::string(100'000, ';') + "\r\n"), "1" + std::string(100'000, ';') + "\r\n");
+}
+
+TEST_F(Tables, ASemicolonTypedIntoAFieldSplitsItOnTheNextLoad)
+{
+    Table table(modData::KolegijSmjerovi.Layout());
+    table.Append({"1", "a;b"});
+    EXPECT_EQ(Load(Saved(table))[0].FieldCount(), 3U);
+}
+
+TEST_F(Tables, AFailedSaveLeavesTheFormerFile)
+{
+    const Table table = Load("h\r\n1;2\r\n");
+    std::filesystem::create_directory(ToPath(Path + ".tmp"));
+    WriteBytes(ToPath(Path + ".tmp") / "in the way", "");
+    EXPECT_THROW(modData::SaveTable(Path, "KolegijID;SmjerID", table), FileError);
+    EXPECT_EQ(ReadBytes(ToPath(Path)), "h\r\n1;2\r\n");
+    EXPECT_TRUE(std::filesystem::exists(ToPath(Path + ".tmp") / "in the way"));
+}
+
 TEST_F(Tables, AHugeLineIsOneRow)
 {
     const std::string field(2'000'000, 'x');
@@ -122,6 +163,25 @@ TEST_F(Tables, AFieldThatIsMissingIsOutOfRangeAndNamesItsPlace)
         EXPECT_EQ(error.Description(),
                   "Redak ima premalo polja (datoteka db_kolegij_smjer.csv, redak 4, stupac \"SmjerID\").");
     }
+}
+
+TEST_F(Tables, EveryLineEndOfTheFileCountsForTheLineNumber)
+{
+    const Table table = Load("h\r\r\n   \r\r\n1\n;x\r9;x");
+    const auto place = [&](std::size_t row) -> std::string
+    {
+        try
+        {
+            table[row].Number(1);
+        }
+        catch (const TypeMismatch& error)
+        {
+            return error.Description();
+        }
+        return "";
+    };
+    EXPECT_NE(place(0).find("redak 5,"), std::string::npos) << place(0);
+    EXPECT_NE(place(1).find("redak 6,"), std::string::npos) << place(1);
 }
 
 TEST_F(Tables, ABadNumberNamesItsPlace)
@@ -278,9 +338,10 @@ TEST_F(Tables, TheDataFolderLiesInLocalAppData)
 TEST_F(Tables, WithoutLocalAppDataTheFolderLiesInTheUserProfileAndIsCreated)
 {
     SetEnvironment("LOCALAPPDATA", "");
+    const std::string formerProfile = System::EnvironmentVariable("USERPROFILE");
     SetEnvironment("USERPROFILE", Folder.PathOf("profile"));
     const std::string folder = modData::GetDataFolder();
-    SetEnvironment("USERPROFILE", "");
+    SetEnvironment("USERPROFILE", formerProfile);
     const std::filesystem::path expected =
         Folder.Path() / "profile" / "Local Settings" / "Application Data" / "Varlostudiji";
     EXPECT_TRUE(std::filesystem::is_directory(expected));

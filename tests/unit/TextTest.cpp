@@ -1,4 +1,5 @@
 #include "data/Text.h"
+#include "data/Windows1250.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +21,39 @@ TEST(Text, UpperCaseCoversEveryLetterOfWindows1250)
     EXPECT_EQ(UpperCase("śťźłąşľżŕáâăäĺçéęëěíîďńňóôőöřůúűüýţ"), "ŚŤŹŁĄŞĽŻŔÁÂĂÄĹÇÉĘËĚÍÎĎŃŇÓÔŐÖŘŮÚŰÜÝŢ");
     EXPECT_EQ(UpperCase("ß÷×˙µ€"), "ß÷×˙µ€");
     EXPECT_EQ(UpperCase("ČĆĐŠŽ"), "ČĆĐŠŽ");
+}
+
+TEST(Text, UpperCaseChangesTheLowerCaseLettersOfWindows1250AndNoOtherByte)
+{
+    const auto expected = [](int byte) -> int
+    {
+        if ((byte >= 'a' && byte <= 'z') || (byte >= 0xE0 && byte <= 0xFE && byte != 0xF7))
+            return byte - 0x20;
+        if (byte == 0x9A || (byte >= 0x9C && byte <= 0x9F)) // š, ś ť ž ź
+            return byte - 0x10;
+        switch (byte)
+        {
+        case 0xB3: // ł
+        case 0xBA: // ş
+        case 0xBF: // ż
+            return byte - 0x10;
+        case 0xB9: // ą
+            return 0xA5;
+        case 0xBE: // ľ
+            return 0xBC;
+        default:
+            return byte;
+        }
+    };
+    for (int byte = 0; byte < 256; ++byte)
+        EXPECT_EQ(ToWindows1250(UpperCase(FromWindows1250(std::string(1, static_cast<char>(byte))))),
+                  std::string(1, static_cast<char>(expected(byte))))
+            << byte;
+}
+
+TEST(Text, ALetterThatWindows1250LacksKeepsItsCase)
+{
+    EXPECT_EQ(UpperCase("ж ñ ÿ"), "ж ñ ÿ");
 }
 
 TEST(Text, AWordIsFoundTrimmedAndInAnyCase)

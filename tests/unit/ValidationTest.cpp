@@ -132,4 +132,80 @@ TEST(Validation, WhatIsNoNumberOrMissingIsAnErrorNotAMessage)
     EXPECT_THROW(validateWith([](Catalogue& c) { c.Studiji.push_back("9;X;X"); }), SubscriptOutOfRange);
 }
 
+TEST(Validation, TheChecksSpeakInAFixedOrder)
+{
+    const Messages messages = With(
+        [](Catalogue& c)
+        {
+            c.Studiji.push_back("9;X;X;x");
+            c.Smjerovi.push_back("9;X;X;99;");
+            c.KolegijSmjerovi.push_back("99;1");
+            c.KolegijNastavnici.push_back("98;1;;1");
+            c.Kolegiji.push_back("9;A;;;;;;1;97");
+            c.Nastavnici.push_back("9;A;;96");
+        });
+    EXPECT_EQ(
+        messages,
+        (Messages{"Nastavnici: ID_zavod ne postoji › 96", "Kolegiji: ID_studij ne postoji › 97",
+                  "KolegijNastavnik: ID_kolegij ne postoji › 98", "KolegijSmjer: ID_kolegij ne postoji › 99",
+                  "Smjerovi: ID_studij ne postoji › 99", "Studiji: neispravna razina › x"}));
+}
+
+TEST(Validation, OneRowCanFailEveryTestOfItsCheckInTheirOrder)
+{
+    EXPECT_EQ(With([](Catalogue& c) { c.Nastavnici.push_back("1;;;99"); }),
+              (Messages{"Nastavnici: dupli ID_nastavnik = 1", "Nastavnici: prazno ime za ID 1",
+                        "Nastavnici: ID_zavod ne postoji › 99"}));
+    EXPECT_EQ(With([](Catalogue& c) { c.Kolegiji.push_back("1;A;;;;;;9;99"); }),
+              (Messages{"Kolegiji: dupli ID_kolegij = 1", "Kolegiji: neispravan semestar (9) za ID 1",
+                        "Kolegiji: ID_studij ne postoji › 99"}));
+    EXPECT_EQ(With([](Catalogue& c) { c.KolegijNastavnici.push_back("99;98;;9"); }),
+              (Messages{"KolegijNastavnik: ID_kolegij ne postoji › 99",
+                        "KolegijNastavnik: ID_nastavnik ne postoji › 98",
+                        "KolegijNastavnik: neispravan redoslijed (9) za kolegij 99"}));
+}
+
+TEST(Validation, AMessageQuotesTheFieldAsItStandsAndTheIDAsANumber)
+{
+    EXPECT_EQ(With([](Catalogue& c) { c.Kolegiji.push_back(" 08,0;A;;;;;; 07 ;1"); }),
+              Messages{"Kolegiji: neispravan semestar ( 07 ) za ID 8"});
+    EXPECT_EQ(With([](Catalogue& c) { c.KolegijNastavnici.push_back(" 01;1;; 4,0"); }),
+              Messages{"KolegijNastavnik: neispravan redoslijed ( 4,0) za kolegij  01"});
+    EXPECT_EQ(With([](Catalogue& c) { c.KolegijSmjerovi.push_back("1;+99"); }),
+              Messages{"KolegijSmjer: ID_smjer ne postoji › +99"});
+}
+
+TEST(Validation, TheFirstAndTheLastSemesterAndPlacePass)
+{
+    EXPECT_EQ(With(
+                  [](Catalogue& c)
+                  {
+                      c.Kolegiji.insert(c.Kolegiji.end(), {"6;A;;;;;;1;1", "7;B;;;;;;6;1", "8;C;;;;;;6,5;1"});
+                      c.KolegijNastavnici.insert(c.KolegijNastavnici.end(), {"6;1;;1", "6;1;;3"});
+                  }),
+              Messages{})
+        << "6,5 is rounded to 6";
+}
+
+TEST(Validation, ANegativeSemesterOrPlaceIsOutOfRange)
+{
+    EXPECT_EQ(With([](Catalogue& c) { c.Kolegiji.push_back("6;A;;;;;;-1;1"); }),
+              Messages{"Kolegiji: neispravan semestar (-1) za ID 6"});
+    EXPECT_EQ(With([](Catalogue& c) { c.KolegijNastavnici.push_back("1;1;;-1"); }),
+              Messages{"KolegijNastavnik: neispravan redoslijed (-1) za kolegij 1"});
+}
+
+TEST(Validation, ReferencesAreComparedAsNumbers)
+{
+    EXPECT_EQ(With(
+                  [](Catalogue& c)
+                  {
+                      c.Nastavnici.push_back("4;A;; 01 ");
+                      c.Kolegiji.push_back("6;A;;;;;;1;1,0");
+                      c.KolegijNastavnici.push_back("06;+4;;2.0");
+                      c.KolegijSmjerovi.push_back(" 6;04");
+                  }),
+              Messages{});
+}
+
 } // namespace

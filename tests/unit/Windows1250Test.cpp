@@ -29,3 +29,26 @@ TEST(Windows1250, ACharacterThatItLacksBecomesAQuestionMark)
     EXPECT_EQ(ToWindows1250("\xC4"), "?");
     EXPECT_EQ(ToWindows1250("\xC2\x80"), "?") << "80 itself is the euro sign";
 }
+
+TEST(Windows1250, EveryByteIsItsCharacter)
+{
+    std::string upperHalf;
+    for (int byte = 0x80; byte < 256; ++byte)
+        upperHalf += static_cast<char>(byte);
+    EXPECT_EQ(FromWindows1250(upperHalf), "€\u0081‚\u0083„…†‡\u0088‰Š‹ŚŤŽŹ"
+                                          "\u0090‘’“”•–—\u0098™š›śťžź"
+                                          "\u00A0ˇ˘Ł¤Ą¦§¨©Ş«¬\u00AD®Ż°±˛ł´µ¶·¸ąş»Ľ˝ľż"
+                                          "ŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖ×ŘŮÚŰÜÝŢß"
+                                          "ŕáâăäĺćçčéęëěíîďđńňóôőö÷řůúűüýţ˙");
+}
+
+TEST(Windows1250, TheLowerHalfIsAscii)
+{
+    for (char byte = 0; byte < 0x7F; ++byte)
+        EXPECT_EQ(FromWindows1250(std::string(1, byte)), std::string(1, byte)) << int{byte};
+}
+
+TEST(Windows1250, NeighboursOfItsCharactersAreNotTakenForThem)
+{
+    EXPECT_EQ(ToWindows1250("\u0082\u009F\u0100\u02DA\u2121\u2123\uFFFD"), "???????");
+}

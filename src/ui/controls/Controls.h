@@ -41,7 +41,7 @@ wxListBox* NewListBox(wxWindow* parent, std::string_view name, long style = wxLB
 wxStaticText* AddLabelled(wxSizer& row, wxWindow* parent, std::string_view labelName,
                           std::string_view caption, wxWindow* control);
 
-/// A frame with a caption; its content goes into the sizer, as children of the sizer's box.
+/// A frame with a caption; its content goes into the sizer.
 wxStaticBoxSizer* NewFrame(wxWindow* parent, std::string_view name, std::string_view caption);
 
 /// A length in pixels that is right for text of the usual size, as it must be for the user's text.

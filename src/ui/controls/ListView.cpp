@@ -22,7 +22,7 @@ std::size_t Index(int i)
 
 ListView::ListView(wxWindow* parent, const wxString& name)
 {
-    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxTAB_TRAVERSAL, name);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | NativeContainerStyle(), name);
     Native = CreateNativeList(
         *this, {.ColumnClicked =
                     [this](int column)

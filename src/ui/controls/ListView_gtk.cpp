@@ -148,6 +148,11 @@ private:
 
 } // namespace
 
+long NativeContainerStyle()
+{
+    return wxTAB_TRAVERSAL;
+}
+
 std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener)
 {
     return std::make_unique<GtkList>(view, std::move(listener));

@@ -7,6 +7,8 @@
 #include <wx/itemattr.h>
 #include <wx/listctrl.h>
 
+#include <windows.h>
+
 namespace
 {
 
@@ -95,7 +97,7 @@ public:
 protected:
     wxString OnGetItemText(long row, long column) const override
     {
-        return View.CellText(static_cast<int>(row), static_cast<int>(column));
+        return IsShown(row) ? View.CellText(static_cast<int>(row), static_cast<int>(column)) : wxString();
     }
 
     int OnGetItemImage(long) const override { return NoImage; }
@@ -104,8 +106,10 @@ protected:
 
     wxItemAttr* OnGetItemColumnAttr(long row, long column) const override
     {
-        const ListCell& cell = View.Cell(static_cast<int>(row), static_cast<int>(column));
         Attributes = wxItemAttr();
+        if (!IsShown(row))
+            return &Attributes;
+        const ListCell& cell = View.Cell(static_cast<int>(row), static_cast<int>(column));
         if (cell.Colour != Black)
             Attributes.SetTextColour(wxColour(cell.Colour));
         if (cell.Bold)
@@ -116,6 +120,9 @@ protected:
 private:
     static constexpr int NoImage = -1;
 
+    /// While the rows are replaced by fewer, the control still asks for some that are gone.
+    bool IsShown(long row) const { return row < View.RowCount(); }
+
     ListView& View;
     Listener ToView;
     mutable wxItemAttr Attributes; // of the cell asked for last: the list takes it over before it asks again
@@ -123,7 +130,15 @@ private:
 
 } // namespace
 
+long NativeContainerStyle()
+{
+    return 0; // a container that handles keys by itself would keep the access keys of the window from working
+}
+
 std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener)
 {
+    // The way in for the Tab key, without that style.
+    const LONG_PTR style = GetWindowLongPtrW(view.GetHWND(), GWL_EXSTYLE);
+    SetWindowLongPtrW(view.GetHWND(), GWL_EXSTYLE, style | WS_EX_CONTROLPARENT);
     return std::make_unique<MswList>(view, std::move(listener));
 }

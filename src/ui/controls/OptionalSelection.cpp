@@ -3,18 +3,11 @@
 #include <wx/button.h>
 #include <wx/listbox.h>
 #include <wx/toplevel.h>
-#include <wx/utils.h>
+
+#include <memory>
 
 namespace
 {
-
-/// Some systems select the first entry when the list gets the focus by the keyboard or from code.
-void OnFocus(wxListBox& list, wxFocusEvent& event)
-{
-    event.Skip();
-    if (list.GetSelection() == wxNOT_FOUND && !wxGetMouseState().LeftIsDown())
-        list.CallAfter([&list] { list.SetSelection(wxNOT_FOUND); });
-}
 
 void OnClick(wxListBox& list, wxMouseEvent& event)
 {
@@ -60,7 +53,32 @@ void OnKey(wxListBox& list, wxKeyEvent& event)
 
 void LetSelectionBeEmpty(wxListBox& list)
 {
-    list.Bind(wxEVT_SET_FOCUS, [&list](wxFocusEvent& event) { OnFocus(list, event); });
-    list.Bind(wxEVT_LEFT_DOWN, [&list](wxMouseEvent& event) { OnClick(list, event); });
+    // Some systems select the first entry when the list gets the focus by the keyboard or from code; what the
+    // mouse selects on its way in is meant.
+    const auto byMouse = std::make_shared<bool>(false);
+    list.Bind(wxEVT_SET_FOCUS,
+              [&list, byMouse](wxFocusEvent& event)
+              {
+                  event.Skip();
+                  if (list.GetSelection() == wxNOT_FOUND && !*byMouse)
+                      list.CallAfter(
+                          [&list, byMouse]
+                          {
+                              if (!*byMouse)
+                                  list.SetSelection(wxNOT_FOUND);
+                          });
+              });
+    list.Bind(wxEVT_KILL_FOCUS,
+              [byMouse](wxFocusEvent& event)
+              {
+                  event.Skip();
+                  *byMouse = false;
+              });
+    list.Bind(wxEVT_LEFT_DOWN,
+              [&list, byMouse](wxMouseEvent& event)
+              {
+                  *byMouse = true;
+                  OnClick(list, event);
+              });
     list.Bind(wxEVT_KEY_DOWN, [&list](wxKeyEvent& event) { OnKey(list, event); });
 }

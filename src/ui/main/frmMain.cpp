@@ -187,21 +187,23 @@ wxSizer* frmMain::CommandColumn()
                              {&cmdExit, "cmdExit", "&Izlaz"}};
 
     auto* column = new wxBoxSizer(wxVERTICAL);
-    const auto add = [this](wxSizer* sizer, wxWindow* parent, const Command& command)
+    // Children of the panel, not of the frames: from inside a frame the access keys outside would not be
+    // found.
+    const auto add = [this](wxSizer* sizer, const Command& command)
     {
-        *command.Button = NewButton(parent, command.Name, command.Caption);
+        *command.Button = NewButton(Panel, command.Name, command.Caption);
         sizer->Add(*command.Button, wxSizerFlags().Expand().Border(wxALL, Gap(this) / 2));
     };
     for (const CommandFrame& frame : frames)
     {
         wxStaticBoxSizer* box = NewFrame(Panel, frame.Name, frame.Caption);
         for (const Command& command : frame.Commands)
-            add(box, box->GetStaticBox(), command);
+            add(box, command);
         column->Add(box, wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
     }
     column->AddStretchSpacer();
     for (const Command& command : loose)
-        add(column, Panel, command);
+        add(column, command);
     return column;
 }
 

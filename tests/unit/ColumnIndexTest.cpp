@@ -1,0 +1,94 @@
+// Searching by an index gives what reading the rows one by one gives, errors included.
+
+#include "data/Errors.h"
+#include "data/Table.h"
+#include "data/modData.h"
+#include "support/Catalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace
+{
+
+constexpr std::size_t Column = KolegijSmjer::SmjerID;
+
+/// What a search finds, and the error that ends it, as text.
+template<typename Search>
+std::string Outcome(const Search& search)
+{
+    std::string found;
+    try
+    {
+        search([&](const Row& row) { found.append(row.Field(0)).append(" "); });
+    }
+    catch (const RuntimeError& error)
+    {
+        found += error.Description();
+    }
+    return found;
+}
+
+/// Reads every row, and stops behind the first match where only that is wanted.
+auto Scan(const Table& table, std::int32_t number, Conversion conversion, bool stopAtMatch)
+{
+    return [=, &table](const auto& visit)
+    {
+        for (const Row& row : table)
+        {
+            if (row.Number(Column, conversion) != number)
+                continue;
+            visit(row);
+            if (stopAtMatch)
+                return;
+        }
+    };
+}
+
+/// Rows whose second field is mostly a number, in one of its forms, and sometimes none, or is missing.
+Table RandomTable(std::mt19937& random)
+{
+    constexpr std::string_view values[] = {"0", "1", "2",     "3",  " 1 ", "01",  "2,0",
+                                           "3", "3", "+2.50", "-0", "",    "bad", "99999999999"};
+    Table table(modData::KolegijSmjerovi.Layout());
+    const auto end = static_cast<std::uint32_t>(2 + random() % 8);
+    for (std::uint32_t line = 2; line < end; ++line)
+    {
+        const std::string name = std::to_string(line);
+        const std::string_view fields[] = {name, values[random() % std::size(values)]};
+        table.Append(std::span(fields).first(random() % 16 == 0 ? 1U : 2U), line);
+    }
+    return table;
+}
+
+TEST(ColumnIndex, FindsWhatReadingRowByRowFinds)
+{
+    std::mt19937 random(1);
+    for (int round = 0; round < 3000; ++round)
+    {
+        const Table table = RandomTable(random);
+        for (const Conversion conversion : {Conversion::Strict, Conversion::Safe})
+            for (std::int32_t number = -1; number < 5; ++number)
+            {
+                const auto first = [&](const auto& visit)
+                {
+                    if (const Row* row = table.FindFirst(Column, number, conversion))
+                        visit(*row);
+                };
+                const auto all = [&](const auto& visit)
+                { table.ForEachMatch(Column, number, visit, conversion); };
+                ASSERT_EQ(Outcome(first), Outcome(Scan(table, number, conversion, true)));
+                ASSERT_EQ(Outcome(all), Outcome(Scan(table, number, conversion, false)));
+            }
+    }
+}
+
+TEST(ColumnIndex, AnEmptyTableHoldsNothing)
+{
+    const ColumnIndex index({}, Column, Conversion::Strict);
+    EXPECT_EQ(index.First(0), ColumnIndex::None);
+    EXPECT_EQ(index.Covered(), 0U);
+}
+
+} // namespace

@@ -1,0 +1,76 @@
+#include "data/Errors.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <system_error>
+
+namespace
+{
+
+TEST(Errors, AFileErrorNamesThePathAndHasTheNumberOfItsCause)
+{
+    constexpr struct
+    {
+        std::errc Cause;
+        int Number;
+    } causes[] = {
+        {std::errc::no_such_file_or_directory, 53},
+        {std::errc::not_a_directory, 76},
+        {std::errc::is_a_directory, 75},
+        {std::errc::permission_denied, 70},
+        {std::errc::read_only_file_system, 70},
+        {std::errc::no_space_on_device, 61},
+        {std::errc::filename_too_long, 52},
+        {std::errc::io_error, 57},
+    };
+    std::set<std::string> descriptions;
+    for (const auto& [cause, number] : causes)
+    {
+        const FileError error(std::make_error_code(cause), "/mapa/Žuta.csv");
+        EXPECT_EQ(error.Number(), number) << error.Description();
+        EXPECT_TRUE(error.Description().ends_with(": /mapa/Žuta.csv")) << error.Description();
+        EXPECT_TRUE(descriptions.insert(error.Description()).second) << error.Description();
+    }
+}
+
+TEST(Errors, ACauseThatNobodyForesawIsAnErrorOfReadingOrWriting)
+{
+    EXPECT_EQ(FileError(std::make_error_code(std::errc::file_too_large), "x").Number(), 57);
+    EXPECT_EQ(FileError(std::error_code(123456, std::generic_category()), "x").Number(), 57);
+}
+
+TEST(Errors, AFileThatEndsTooSoonIsNamed)
+{
+    const InputPastEnd error("/mapa/db_zavod.csv");
+    EXPECT_EQ(error.Number(), 62);
+    EXPECT_EQ(error.Description(), "Datoteka je prazna, nedostaje joj redak zaglavlja: /mapa/db_zavod.csv");
+}
+
+TEST(Errors, AFaultyFieldNamesItsValueFileLineAndColumn)
+{
+    const FieldPlace place = {"db_smjer.csv", 12, "StudijID"};
+    EXPECT_EQ(TypeMismatch("", place).Description(),
+              "Vrijednost \"\" nije broj (datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
+    EXPECT_EQ(Overflow("2147483648", place).Description(),
+              "Broj \"2147483648\" je izvan dopuštenog raspona od -2147483648 do 2147483647 "
+              "(datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
+    EXPECT_EQ(SubscriptOutOfRange(place).Description(),
+              "Redak ima premalo polja (datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
+}
+
+TEST(Errors, ARowThatNoFileHoldsHasNoLine)
+{
+    EXPECT_EQ(SubscriptOutOfRange({"db_smjer.csv", 0, "ID"}).Description(),
+              "Redak ima premalo polja (datoteka db_smjer.csv, redak unesen u programu, stupac \"ID\").");
+}
+
+TEST(Errors, EveryKindHasItsNumber)
+{
+    EXPECT_EQ(TypeMismatch("x").Number(), 13);
+    EXPECT_EQ(Overflow().Number(), 6);
+    EXPECT_EQ(Overflow("99999999999").Number(), 6);
+    EXPECT_EQ(SubscriptOutOfRange({"f", 2, "ID"}).Number(), 9);
+}
+
+} // namespace
