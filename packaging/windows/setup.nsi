@@ -1,0 +1,270 @@
+; The installer for Windows: for one user, without administrator rights. make-setup, beside this file, calls
+; the compiler and defines VERSION (1.0.20260309), FILE_VERSION (1.0.2026.309), PROGRAM (folder of the packed
+; program), DEMO and EMPTY (folders with seven tables each), ICON, SIDE (picture beside the first and the last
+; page) and OUTPUT.
+;
+; On the command line:
+;   /S            installs without a window and puts nothing into the data folder
+;   /DATA=demo    chooses the demo catalogue, silently or as the page's proposal
+;   /DATA=empty   chooses seven tables with header lines only
+;   /D=FOLDER     (last, unquoted) installs elsewhere
+; The exit code is 0, 2 when the program could not be installed, 3 when the catalogue could not be put there.
+;
+; The data folder belongs to the user: tables go only where not one of the seven is, no file there is ever
+; replaced, and the uninstaller does not go near it.
+
+Target amd64-unicode
+SetCompressor /SOLID lzma
+RequestExecutionLevel user
+ManifestDPIAware true
+ManifestSupportedOS all
+
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+
+!define PRODUCT "Varlostudiji"
+!define PUBLISHER "Varlostudiji tim"
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${PRODUCT}"
+
+Name "${PRODUCT}"
+OutFile "${OUTPUT}"
+InstallDir "$LOCALAPPDATA\Programs\${PRODUCT}"
+BrandingText "${PRODUCT} ${VERSION}"
+
+Var DataFolder
+Var CatalogueFound ; 1 when at least one of the seven tables is in the data folder
+Var Data           ; what to put there: demo, empty, or nothing
+Var DemoButton
+Var EmptyButton
+Var NothingButton
+
+; --- Pages ---
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
+!define MUI_ABORTWARNING
+
+!define MUI_WELCOMEPAGE_TITLE "$(Welcome)"
+!define MUI_WELCOMEPAGE_TEXT "$(WelcomeText)"
+!insertmacro MUI_PAGE_WELCOME
+Page custom ShowDataPage LeaveDataPage
+!insertmacro MUI_PAGE_INSTFILES
+!define MUI_FINISHPAGE_RUN "$INSTDIR\varlostudiji.exe"
+!define MUI_FINISHPAGE_RUN_TEXT "$(RunProgram)"
+!define MUI_PAGE_CUSTOMFUNCTION_SHOW ShowFinishPage
+!insertmacro MUI_PAGE_FINISH
+
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "$(UninstallText)"
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+
+; --- Texts ---
+
+!insertmacro MUI_LANGUAGE "Croatian"
+!define TEXT "!insertmacro Text"
+!macro Text name text
+    LangString ${name} ${LANG_CROATIAN} "${text}"
+!macroend
+
+${TEXT} Welcome "Varlostudiji ${VERSION}"
+${TEXT} WelcomeText "Katalog kolegija i nastavno opterećenje.$\r$\n$\r$\nProgram se instalira samo za vas; administratorska prava nisu potrebna. Prije nastavka zatvorite Varlostudiji ako je otvoren.$\r$\n$\r$\n$_CLICK"
+${TEXT} DataTitle "Katalog"
+${TEXT} DataSubtitle "Što staviti u mapu s podacima?"
+${TEXT} DataText "U mapi s podacima još nema kataloga, a bez njega se program ne može pokrenuti:"
+${TEXT} DataDemo "&Ogledni katalog: za upoznavanje s programom, sva su imena izmišljena"
+${TEXT} DataEmpty "Sedam &praznih tablica: samo zaglavlja, za vlastiti katalog"
+${TEXT} DataNothing "N&išta: datoteke kataloga stavit ću u mapu naknadno"
+${TEXT} DataPromise "Postojeće se datoteke u toj mapi nikad ne mijenjaju."
+${TEXT} RunProgram "&Pokreni Varlostudiji"
+${TEXT} UninstallText "Uklanja se samo program. Katalog u mapi s podacima ostaje netaknut."
+${TEXT} WrongData "Uz /DATA= može stajati samo demo ili empty."
+${TEXT} ProgramFailed "Program nije instaliran. Zatvorite Varlostudiji ako je otvoren i pokušajte ponovno."
+${TEXT} DataFailed "Katalog nije moguće zapisati u mapu $DataFolder."
+${TEXT} ProgramOpen "Varlostudiji je otvoren. Zatvorite ga i pokušajte ponovno."
+
+; What Explorer shows of the installer.
+VIProductVersion "${FILE_VERSION}"
+VIFileVersion "${FILE_VERSION}"
+!define INFO "VIAddVersionKey /LANG=${LANG_CROATIAN}"
+${INFO} "ProductName" "${PRODUCT}"
+${INFO} "ProductVersion" "${VERSION}"
+${INFO} "FileVersion" "${VERSION}"
+${INFO} "FileDescription" "${PRODUCT} – instalacija"
+${INFO} "CompanyName" "${PUBLISHER}"
+${INFO} "LegalCopyright" "© 2026 ${PUBLISHER}"
+
+; --- The data folder ---
+
+!macro ForEachTable action
+    !insertmacro ${action} "db_zavod.csv"
+    !insertmacro ${action} "db_nastavnici.csv"
+    !insertmacro ${action} "db_studij.csv"
+    !insertmacro ${action} "db_smjer.csv"
+    !insertmacro ${action} "db_kolegij.csv"
+    !insertmacro ${action} "db_kolegij_smjer.csv"
+    !insertmacro ${action} "db_kolegij_nastavnik.csv"
+!macroend
+
+!macro NoteTable file
+    ${If} ${FileExists} "$DataFolder\${file}"
+        StrCpy $CatalogueFound 1
+    ${EndIf}
+!macroend
+
+!macro MissTable file
+    ${IfNot} ${FileExists} "$DataFolder\${file}"
+        SetErrors
+    ${EndIf}
+!macroend
+
+Function FindCatalogue
+    StrCpy $CatalogueFound 0
+    !insertmacro ForEachTable NoteTable
+FunctionEnd
+
+Function .onInit
+    ; The program goes by the variable, so its installer does too.
+    ReadEnvStr $DataFolder LOCALAPPDATA
+    ${If} $DataFolder == ""
+        StrCpy $DataFolder $LOCALAPPDATA
+    ${EndIf}
+    StrCpy $DataFolder "$DataFolder\Varlostudiji"
+
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/DATA=" $Data
+    ${If} ${Errors}
+        StrCpy $Data ""
+    ${ElseIf} $Data != "demo"
+    ${AndIf} $Data != "empty"
+        MessageBox MB_OK|MB_ICONSTOP "$(WrongData)" /SD IDOK
+        SetErrorLevel 2
+        Quit
+    ${EndIf}
+FunctionEnd
+
+Function ShowDataPage
+    Call FindCatalogue
+    ${If} $CatalogueFound = 1
+        Abort ; leaves the page out
+    ${EndIf}
+
+    !insertmacro MUI_HEADER_TEXT "$(DataTitle)" "$(DataSubtitle)"
+    nsDialogs::Create 1018
+    Pop $0
+    ${NSD_CreateLabel} 0 0u 100% 10u "$(DataText)"
+    Pop $0
+    ${NSD_CreateLabel} 8u 14u -8u 18u "$DataFolder"
+    Pop $0
+    ${NSD_CreateFirstRadioButton} 8u 38u -8u 12u "$(DataDemo)"
+    Pop $DemoButton
+    ${NSD_CreateAdditionalRadioButton} 8u 54u -8u 12u "$(DataEmpty)"
+    Pop $EmptyButton
+    ${NSD_CreateAdditionalRadioButton} 8u 70u -8u 12u "$(DataNothing)"
+    Pop $NothingButton
+    ${NSD_CreateLabel} 0 94u 100% 10u "$(DataPromise)"
+    Pop $0
+
+    ${If} $Data == "empty"
+        StrCpy $0 $EmptyButton
+    ${ElseIf} $Data == "nothing"
+        StrCpy $0 $NothingButton
+    ${Else}
+        StrCpy $0 $DemoButton
+    ${EndIf}
+    ${NSD_Check} $0
+    ${NSD_SetFocus} $0
+    nsDialogs::Show
+FunctionEnd
+
+Function LeaveDataPage
+    StrCpy $Data "nothing"
+    ${NSD_GetState} $DemoButton $0
+    ${If} $0 = ${BST_CHECKED}
+        StrCpy $Data "demo"
+    ${EndIf}
+    ${NSD_GetState} $EmptyButton $0
+    ${If} $0 = ${BST_CHECKED}
+        StrCpy $Data "empty"
+    ${EndIf}
+FunctionEnd
+
+; Without a catalogue the program could only report what is missing, so starting it is not proposed.
+Function ShowFinishPage
+    Call FindCatalogue
+    ${If} $CatalogueFound = 0
+        ${NSD_Uncheck} $mui.FinishPage.Run
+    ${EndIf}
+FunctionEnd
+
+; --- Installing ---
+
+Section
+    SetOutPath "$INSTDIR"
+    SetOverwrite on
+    ClearErrors
+    File "${PROGRAM}\varlostudiji.exe"
+    File "${PROGRAM}\LICENSE.txt"
+    WriteUninstaller "$INSTDIR\uninstall.exe"
+    ${If} ${Errors}
+        MessageBox MB_OK|MB_ICONSTOP "$(ProgramFailed)" /SD IDOK
+        Abort "$(ProgramFailed)"
+    ${EndIf}
+    CreateShortcut "$SMPROGRAMS\${PRODUCT}.lnk" "$INSTDIR\varlostudiji.exe"
+
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "${PRODUCT}"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\varlostudiji.exe"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "${PUBLISHER}"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
+    ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
+SectionEnd
+
+Section
+    ; A part of a catalogue is the user's too: demo tables beside it would only make it inconsistent.
+    Call FindCatalogue
+    ${If} $CatalogueFound = 1
+    ${OrIf} $Data == ""
+    ${OrIf} $Data == "nothing"
+        Return
+    ${EndIf}
+
+    SetOutPath "$DataFolder"
+    SetOverwrite off
+    ${If} $Data == "demo"
+        File "${DEMO}\*.csv"
+    ${Else}
+        File "${EMPTY}\*.csv"
+    ${EndIf}
+    ; A file that must not be replaced and one that cannot be written are skipped alike, hence this look.
+    ClearErrors
+    !insertmacro ForEachTable MissTable
+    ${If} ${Errors}
+        SetErrorLevel 3
+        MessageBox MB_OK|MB_ICONEXCLAMATION "$(DataFailed)" /SD IDOK
+    ${EndIf}
+SectionEnd
+
+; --- Removing ---
+
+Section "Uninstall"
+    retry:
+    ClearErrors
+    Delete "$INSTDIR\varlostudiji.exe"
+    ${If} ${Errors}
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(ProgramOpen)" /SD IDCANCEL IDRETRY retry
+        Abort "$(ProgramOpen)"
+    ${EndIf}
+    Delete "$INSTDIR\LICENSE.txt"
+    Delete "$INSTDIR\uninstall.exe"
+    RMDir "$INSTDIR" ; with anything else in it, it stays
+    Delete "$SMPROGRAMS\${PRODUCT}.lnk"
+    DeleteRegKey HKCU "${UNINSTALL_KEY}"
+SectionEnd
