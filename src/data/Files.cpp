@@ -1,6 +1,7 @@
 #include "data/Files.h"
 
 #include "data/Errors.h"
+#include "data/FileCalls.h"
 #include "data/System.h"
 #include "data/Windows1250.h"
 
@@ -17,7 +18,7 @@ namespace
 
 struct CloseFile
 {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+    void operator()(std::FILE* file) const { CurrentFileCalls.Close(file); }
 };
 using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
@@ -28,7 +29,7 @@ std::error_code LastFailure()
 
 OpenFile Open(const fs::path& file, const char* mode, std::string_view path)
 {
-    OpenFile opened(System::Open(file, mode));
+    OpenFile opened(CurrentFileCalls.Open(file, mode));
     if (!opened)
         throw FileError(LastFailure(), path);
     return opened;
@@ -38,14 +39,9 @@ OpenFile Open(const fs::path& file, const char* mode, std::string_view path)
 void WriteContent(const fs::path& file, std::string_view content, std::string_view path)
 {
     OpenFile opened = Open(file, "wb", path);
-    const bool written = std::fwrite(content.data(), 1, content.size(), opened.get()) == content.size() &&
-                         std::fflush(opened.get()) == 0;
-    // A device such as a pipe has nothing to flush to and says so; that is no failure.
-    const bool flushed = written && (System::FlushToDisk(opened.get()) || errno == EINVAL);
-    const std::error_code failure = LastFailure();
-    if (!flushed)
-        throw FileError(failure, path);
-    if (std::fclose(opened.release()) != 0)
+    if (!CurrentFileCalls.Write(opened.get(), content) || !CurrentFileCalls.FlushToDisk(opened.get()))
+        throw FileError(LastFailure(), path); // made before the file is closed, which may fail as well
+    if (!CurrentFileCalls.Close(opened.release()))
         throw FileError(LastFailure(), path);
 }
 
@@ -70,24 +66,40 @@ void RequireWritable(const fs::path& file, fs::file_type type, std::string_view 
         throw FileError(std::make_error_code(std::errc::permission_denied), path);
 }
 
-/// Writes the new content beside the file, with the file's own permissions, and puts it in the file's place.
-void WriteBesideAndReplace(const fs::path& file, std::string_view content, std::string_view path)
+/// Keeps a file's content beside it where the new one differs.
+void KeepFormer(std::string_view path, std::string_view newContent)
 {
-    fs::path temporary = file;
-    temporary += ".tmp";
+    try
+    {
+        if (const std::string former = ReadFile(path); !former.empty() && former != newContent)
+            ReplaceFile(std::string(path) + ".bak", former);
+    }
+    catch (const FileError&)
+    {
+        // The copy is a kindness, and the save that it must not hinder is what the user has asked for.
+    }
+}
+
+/// Writes the new content beside the file, with the file's own permissions, and puts it in the file's place.
+void WriteBesideAndReplace(const fs::path& file, std::string_view content, std::string_view path,
+                           Former former)
+{
+    const fs::path temporary = TemporaryNameFor(file);
     std::error_code ignored;
     try
     {
         WriteContent(temporary, content, path);
-        if (const fs::file_status former = fs::status(file, ignored); fs::exists(former))
-            fs::permissions(temporary, former.permissions(), ignored);
-        if (const std::error_code failure = System::Replace(temporary, file))
+        if (const fs::file_status replaced = fs::status(file, ignored); fs::exists(replaced))
+            fs::permissions(temporary, replaced.permissions(), ignored);
+        if (former == Former::Kept)
+            KeepFormer(path, content); // not before the new content has its place on the disk
+        if (const std::error_code failure = CurrentFileCalls.Replace(temporary, file))
             throw FileError(failure, path);
     }
     catch (const FileError&)
     {
         if (fs::is_regular_file(temporary, ignored)) // and not something else that stood in its place
-            fs::remove(temporary, ignored);
+            CurrentFileCalls.Remove(temporary);
         throw;
     }
 }
@@ -107,6 +119,11 @@ fs::path EndOfLinks(fs::path file)
 fs::path ToPath(std::string_view path)
 {
     return {std::u8string(path.begin(), path.end())};
+}
+
+fs::path TemporaryNameFor(fs::path file)
+{
+    return file += "." + std::to_string(System::ProcessNumber()) + ".tmp";
 }
 
 std::string ReadFile(std::string_view path, std::size_t limit)
@@ -138,14 +155,14 @@ void CreateFileIfMissing(std::string_view path)
         Open(file, "ab", path);
 }
 
-void ReplaceFile(std::string_view path, std::string_view content)
+void ReplaceFile(std::string_view path, std::string_view content, Former former)
 {
     // A link stays a link: what it leads to is what gets the new content.
     const fs::path file = EndOfLinks(ToPath(path));
     const fs::file_type type = TypeOf(file, path);
     RequireWritable(file, type, path);
     if (type == fs::file_type::regular || type == fs::file_type::not_found)
-        WriteBesideAndReplace(file, content, path);
+        WriteBesideAndReplace(file, content, path, former);
     else
         WriteContent(file, content, path); // a device has no old content to keep, and must not be replaced
 }

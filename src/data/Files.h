@@ -14,10 +14,22 @@ std::string ReadFile(std::string_view path, std::size_t limit = std::string::npo
 /// Creates an empty file where none exists. @throws FileError
 void CreateFileIfMissing(std::string_view path);
 
-/// Gives a file a new content, created when missing. The content goes to the file's name with ".tmp" behind
-/// it, is flushed to disk and takes the file's place in one step: a failure leaves the old content whole.
+/// What becomes of the content that a file had.
+enum class Former
+{
+    Dropped,
+    Kept, ///< Beside the file, under its name with ".bak" behind it, when the new content differs. An older
+          ///< copy gives way to it; a copy that cannot be made is done without.
+};
+
+/// Gives a file a new content, created when missing. The content goes to a temporary file beside it, is
+/// flushed to disk and takes the file's place in one step: a failure leaves the old content whole.
 /// @throws FileError, also for a file or folder that is marked as not to be written
-void ReplaceFile(std::string_view path, std::string_view content);
+void ReplaceFile(std::string_view path, std::string_view content, Former former = Former::Dropped);
+
+/// The temporary file of ReplaceFile: no two copies of the program share one, and one that a killed program
+/// left behind is in nobody's way.
+std::filesystem::path TemporaryNameFor(std::filesystem::path file);
 
 /// A text file that leaves the program: windows-1250, CR LF behind every line.
 class TextFile
@@ -27,7 +39,10 @@ public:
     void AddLine(std::string_view text);
 
     /// Writes the lines added so far, by ReplaceFile. @throws FileError
-    void SaveAs(std::string_view path) const { ReplaceFile(path, Content); }
+    void SaveAs(std::string_view path, Former former = Former::Dropped) const
+    {
+        ReplaceFile(path, Content, former);
+    }
 
 private:
     std::string Content;

@@ -25,12 +25,15 @@ std::string ProgramFolder();
 /// Opens a file for reading ("rb") or writing ("wb", "ab"), binary; a null pointer and `errno` on failure.
 std::FILE* Open(const std::filesystem::path& path, const char* mode);
 
-/// Hands a file's content to the disk itself; false and `errno` on failure.
+/// Hands a file's content to the disk itself, where the file has one; false and `errno` on failure.
 bool FlushToDisk(std::FILE* file);
 
 /// False for a file or folder that is marked as not to be written, even to a user who could do it all the
 /// same.
 bool MayWrite(const std::filesystem::path& path);
+
+/// The number of this process, which no other that runs has.
+unsigned long ProcessNumber();
 
 /// Puts a file in the place of another in one step that survives a power cut.
 std::error_code Replace(const std::filesystem::path& from, const std::filesystem::path& to);

@@ -27,7 +27,8 @@ std::FILE* Open(const std::filesystem::path& path, const char* mode)
 
 bool FlushToDisk(std::FILE* file)
 {
-    return ::fsync(::fileno(file)) == 0;
+    // A device such as a pipe has nothing to flush to and says so; that is no failure.
+    return ::fsync(::fileno(file)) == 0 || errno == EINVAL;
 }
 
 bool MayWrite(const std::filesystem::path& path)
@@ -38,6 +39,11 @@ bool MayWrite(const std::filesystem::path& path)
     const perms granted = std::filesystem::status(path, failure).permissions();
     const perms anyWrite = perms::owner_write | perms::group_write | perms::others_write;
     return !failure && (granted & anyWrite) != perms::none && ::access(path.c_str(), W_OK) == 0;
+}
+
+unsigned long ProcessNumber()
+{
+    return static_cast<unsigned long>(::getpid());
 }
 
 std::error_code Replace(const std::filesystem::path& from, const std::filesystem::path& to)

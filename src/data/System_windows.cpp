@@ -1,5 +1,6 @@
 #include "data/System.h"
 
+#include <cerrno>
 #include <io.h>
 #include <windows.h>
 
@@ -18,6 +19,12 @@ std::string Utf8(const std::wstring& text)
 {
     const std::u8string utf8 = std::filesystem::path(text).u8string();
     return {utf8.begin(), utf8.end()};
+}
+
+/// A virus scanner, an indexer or a second copy of the program holds a file for a moment only.
+bool MayPassSoon(DWORD failure)
+{
+    return failure == ERROR_ACCESS_DENIED || failure == ERROR_SHARING_VIOLATION;
 }
 
 } // namespace
@@ -45,7 +52,8 @@ std::FILE* Open(const std::filesystem::path& path, const char* mode)
 
 bool FlushToDisk(std::FILE* file)
 {
-    return _commit(_fileno(file)) == 0;
+    // A device such as a pipe has nothing to flush to and says so; that is no failure.
+    return _commit(_fileno(file)) == 0 || errno == EINVAL;
 }
 
 bool MayWrite(const std::filesystem::path& path)
@@ -57,11 +65,26 @@ bool MayWrite(const std::filesystem::path& path)
     return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 || (attributes & FILE_ATTRIBUTE_READONLY) == 0;
 }
 
+unsigned long ProcessNumber()
+{
+    return GetCurrentProcessId();
+}
+
 std::error_code Replace(const std::filesystem::path& from, const std::filesystem::path& to)
 {
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
-        return {};
-    return {static_cast<int>(GetLastError()), std::system_category()};
+    constexpr int attempts = 10;
+    constexpr DWORD pause = 30; // milliseconds
+    DWORD failure = ERROR_SUCCESS;
+    for (int attempt = 0; attempt < attempts; ++attempt)
+    {
+        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
+            return {};
+        failure = GetLastError();
+        if (!MayPassSoon(failure))
+            break;
+        Sleep(pause);
+    }
+    return {static_cast<int>(failure), std::system_category()};
 }
 
 } // namespace System

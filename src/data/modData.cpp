@@ -147,7 +147,7 @@ void SaveTable(std::string_view path, std::string_view header, const Table& tabl
     file.AddLine(header);
     for (const Row& row : table)
         file.AddLine(LineOf(row));
-    file.SaveAs(path);
+    file.SaveAs(path, Former::Kept);
 }
 
 void LoadZavodi()

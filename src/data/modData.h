@@ -116,7 +116,8 @@ void NormalizeFileEncoding(std::string_view path);
 Table LoadTable(std::string_view path, const TableLayout& layout);
 
 /// Writes a header and the rows. A separator stands only behind what is already on the line, so that leading
-/// empty fields leave none. @throws FileError, and the old content stays
+/// empty fields leave none. A former content that differs is kept in the file's ".bak".
+/// @throws FileError, and the old content stays
 void SaveTable(std::string_view path, std::string_view header, const Table& table);
 
 // Each loads one table from its file, brought to windows-1250 first, or saves it. @throws as the above

@@ -1,3 +1,4 @@
+#include "data/Files.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/TestFolder.h"
@@ -495,7 +496,7 @@ TEST_F(FailingExport, ATemporaryNameThatIsTakenByAFolderLeavesTheOlderFile)
 {
     Open();
     const std::string path = Older();
-    std::filesystem::create_directory(Folder.Path() / "older.csv.tmp");
+    std::filesystem::create_directory(TemporaryNameFor(Folder.Path() / "older.csv"));
     const SaveAnswers save(path);
     MessageAnswers answers;
     Press(Window, "cmdExport");
@@ -527,7 +528,7 @@ TEST_F(FailingExport, AFullDevice)
     Open();
     ExpectFailures("/dev/full", "Na disku nema dovoljno mjesta: /dev/full");
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
-    EXPECT_FALSE(std::filesystem::exists("/dev/full.tmp"));
+    EXPECT_FALSE(std::filesystem::exists(TemporaryNameFor("/dev/full")));
 }
 
 TEST_F(FailingExport, AReadOnlyFolder)

@@ -81,3 +81,10 @@ std::vector<std::string> EntriesOf(const fs::path& folder)
     std::ranges::sort(names);
     return names;
 }
+
+std::vector<std::string> TemporaryFilesIn(const fs::path& folder)
+{
+    std::vector<std::string> names = EntriesOf(folder);
+    std::erase_if(names, [](const std::string& name) { return !name.ends_with(".tmp"); });
+    return names;
+}

@@ -39,3 +39,6 @@ void WriteBytes(const std::filesystem::path& file, std::string_view bytes);
 
 /// The names of the entries of a folder, sorted.
 std::vector<std::string> EntriesOf(const std::filesystem::path& folder);
+
+/// The names of the temporary files in a folder that a save has left behind.
+std::vector<std::string> TemporaryFilesIn(const std::filesystem::path& folder);

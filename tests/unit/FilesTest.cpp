@@ -45,6 +45,7 @@ protected:
 
     TestFolder Folder;
     fs::path File = Folder.Path() / "file.csv";
+    fs::path Temporary = TemporaryNameFor(File);
     std::string Path = Folder.PathOf("file.csv");
 };
 
@@ -90,10 +91,20 @@ TEST_F(Files, ANameThatNoSystemTakesIsAnError)
 
 TEST_F(Files, ALeftoverTemporaryFileIsOverwritten)
 {
-    WriteBytes(Folder.Path() / "file.csv.tmp", "left over from a crash");
+    WriteBytes(Temporary, "left over from a crash");
     ReplaceFile(Path, "new");
     EXPECT_EQ(ReadBytes(File), "new");
-    EXPECT_FALSE(fs::exists(Folder.Path() / "file.csv.tmp"));
+    EXPECT_FALSE(fs::exists(Temporary));
+}
+
+TEST_F(Files, AnotherProcessesTemporaryFileIsLeftAlone)
+{
+    WriteBytes(Folder.Path() / "file.csv.tmp", "half");
+    WriteBytes(Folder.Path() / "file.csv.1.tmp", "half");
+    ReplaceFile(Path, "new");
+    EXPECT_EQ(ReadBytes(File), "new");
+    EXPECT_EQ(EntriesOf(Folder.Path()),
+              (std::vector<std::string>{"Varlostudiji", "file.csv", "file.csv.1.tmp", "file.csv.tmp"}));
 }
 
 TEST_F(Files, LinesAreWrittenInWindows1250WithCrLf)
@@ -118,10 +129,10 @@ TEST_F(Files, NamesMayHoldAnyLetter)
 TEST_F(Files, AFolderInTheTemporaryFilesPlaceIsAnErrorAndStays)
 {
     WriteBytes(File, "old");
-    fs::create_directory(Folder.Path() / "file.csv.tmp");
+    fs::create_directory(Temporary);
     EXPECT_THROW(ReplaceFile(Path, "new"), FileError);
     EXPECT_EQ(ReadBytes(File), "old");
-    EXPECT_TRUE(fs::exists(Folder.Path() / "file.csv.tmp"));
+    EXPECT_TRUE(fs::exists(Temporary));
 }
 
 TEST_F(Files, AFileInAFoldersPlaceIsAnError)
@@ -188,7 +199,7 @@ TEST_F(Devices, AFullOneIsAnErrorAndStaysADevice)
         GTEST_SKIP() << "an administrator who may not make devices, as in some containers";
     ExpectFailure(full, 61);
     EXPECT_TRUE(fs::is_character_file(full));
-    EXPECT_FALSE(fs::exists(full + ".tmp"));
+    EXPECT_FALSE(fs::exists(TemporaryNameFor(full)));
 }
 
 TEST_F(Devices, OneThatTakesAnythingTakesAFileAndStaysADevice)
@@ -328,9 +339,9 @@ TEST_F(Encoding, AFileWithoutTheMarkIsNotEvenWrittenAgain)
 
 TEST_F(Encoding, ALeftoverTemporaryFileIsOverwritten)
 {
-    WriteBytes(Folder.Path() / "file.csv.tmp", "left over from a crash, and longer than the new content");
+    WriteBytes(Temporary, "left over from a crash, and longer than the new content");
     EXPECT_EQ(Normalized("\xEF\xBB\xBFx"), "x");
-    EXPECT_FALSE(fs::exists(Folder.Path() / "file.csv.tmp"));
+    EXPECT_FALSE(fs::exists(Temporary));
 }
 
 TEST_F(Encoding, EveryCharacterOfWindows1250GetsItsByte)
@@ -343,7 +354,7 @@ TEST_F(Encoding, EveryCharacterOfWindows1250GetsItsByte)
 
 TEST_F(Encoding, AConversionThatFailsLeavesTheMarkedFile)
 {
-    fs::create_directory(Folder.Path() / "file.csv.tmp");
+    fs::create_directory(Temporary);
     EXPECT_THROW(Normalized("\xEF\xBB\xBFx"), FileError);
     EXPECT_EQ(ReadBytes(File), "\xEF\xBB\xBFx");
 }

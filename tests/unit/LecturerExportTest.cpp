@@ -1,6 +1,7 @@
 #include "ui/lecturer_stats/LecturerStatistics.h"
 
 #include "data/Errors.h"
+#include "data/Files.h"
 #include "data/modData.h"
 #include "statistics/LoadExport.h"
 #include "support/Catalogue.h"
@@ -226,6 +227,13 @@ TEST_F(FailingLecturerExport, ARowThatIsTooShort)
     ExpectError<SubscriptOutOfRange>();
 }
 
+TEST_F(FailingLecturerExport, OfTwoFaultsTheMissingNameIsToldOnEverySystem)
+{
+    Use({"1;A;1;0;0;1;obvezni;1;1"});
+    modData::Nastavnici.Replace(0, Texts{"x"});
+    ExpectError<SubscriptOutOfRange>();
+}
+
 TEST_F(FailingLecturerExport, ASumThatDoesNotFit)
 {
     Use({"1;A;2147483647;0;0;1;obvezni;1;1", "2;B;1;0;0;1;izborni;6;1"});
@@ -249,8 +257,8 @@ TEST_F(FailingLecturerExport, AFolderInTheFilesPlaceOrNoFolderAtAll)
 TEST_F(FailingLecturerExport, ATemporaryFileThatCannotBeMade)
 {
     SmallCatalogue().Use();
-    std::filesystem::create_directory(Folder.Path() / "older.csv.tmp");
-    WriteBytes(Folder.Path() / "older.csv.tmp" / "x", "");
+    std::filesystem::create_directory(TemporaryNameFor(Folder.Path() / "older.csv"));
+    WriteBytes(TemporaryNameFor(Folder.Path() / "older.csv") / "x", "");
     EXPECT_THROW(ExportAllLecturers(Folder.PathOf("older.csv"), All), FileError);
     EXPECT_EQ(ReadBytes(Folder.Path() / "older.csv"), "older");
 }

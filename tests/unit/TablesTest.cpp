@@ -136,11 +136,11 @@ TEST_F(Tables, ASemicolonTypedIntoAFieldSplitsItOnTheNextLoad)
 TEST_F(Tables, AFailedSaveLeavesTheFormerFile)
 {
     const Table table = Load("h\r\n1;2\r\n");
-    std::filesystem::create_directory(ToPath(Path + ".tmp"));
-    WriteBytes(ToPath(Path + ".tmp") / "in the way", "");
+    std::filesystem::create_directory(TemporaryNameFor(ToPath(Path)));
+    WriteBytes(TemporaryNameFor(ToPath(Path)) / "in the way", "");
     EXPECT_THROW(modData::SaveTable(Path, "KolegijID;SmjerID", table), FileError);
     EXPECT_EQ(ReadBytes(ToPath(Path)), "h\r\n1;2\r\n");
-    EXPECT_TRUE(std::filesystem::exists(ToPath(Path + ".tmp") / "in the way"));
+    EXPECT_TRUE(std::filesystem::exists(TemporaryNameFor(ToPath(Path)) / "in the way"));
 }
 
 TEST_F(Tables, AHugeLineIsOneRow)

@@ -1,0 +1,29 @@
+#include "data/FileCalls.h"
+
+#include "data/System.h"
+
+namespace
+{
+
+bool Write(std::FILE* file, std::string_view bytes)
+{
+    return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0;
+}
+
+bool Close(std::FILE* file)
+{
+    return std::fclose(file) == 0;
+}
+
+std::error_code Remove(const std::filesystem::path& path)
+{
+    std::error_code failure;
+    std::filesystem::remove(path, failure);
+    return failure;
+}
+
+} // namespace
+
+const FileCalls SystemFileCalls = {System::Open, Write, System::FlushToDisk, Close, System::Replace, Remove};
+
+FileCalls CurrentFileCalls = SystemFileCalls;
