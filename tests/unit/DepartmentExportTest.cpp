@@ -222,6 +222,22 @@ TEST_F(FailingDepartmentExport, ARowThatIsTooShort)
     ExpectError<SubscriptOutOfRange>("older.csv", {"Diplomski", "Svi"});
 }
 
+TEST_F(FailingDepartmentExport, OfTwoFaultsTheMissingNameIsToldOnEverySystem)
+{
+    UseCourses({"1;A;1;0;0;1;obvezni;1;1"});
+    modData::Zavodi.Replace(0, Texts{"1"});
+    modData::KolegijNastavnici.Append(Texts{"1"});
+    try
+    {
+        ExportAllDepartments(Folder.PathOf("older.csv"), All);
+        FAIL() << "no error";
+    }
+    catch (const SubscriptOutOfRange& error)
+    {
+        EXPECT_NE(error.Description().find("\"Naziv\""), std::string::npos) << error.Description();
+    }
+}
+
 TEST_F(FailingDepartmentExport, ASumThatDoesNotFit)
 {
     UseCourses({"1;A;2147483647;0;0;1;obvezni;1;1", "2;B;1;0;0;1;izborni;6;1"});

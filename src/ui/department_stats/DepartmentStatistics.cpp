@@ -63,8 +63,10 @@ void ExportAllDepartments(std::string_view path, const DepartmentFilter& filter)
     TextFile file;
     AddLoadHeader(file, "Zavod");
     for (const Row& zavod : modData::Zavodi)
-        AddLoadBlock(file, zavod.Field(Zavod::Naziv),
-                     DepartmentLoadRows(zavod.Number(Zavod::ID, Conversion::Safe), filter));
+    {
+        const std::string_view name = zavod.Field(Zavod::Naziv);
+        AddLoadBlock(file, name, DepartmentLoadRows(zavod.Number(Zavod::ID, Conversion::Safe), filter));
+    }
     file.SaveAs(path);
 }
 

@@ -66,7 +66,9 @@ void ExportAllLecturers(std::string_view path, const LecturerFilter& filter)
     TextFile file;
     AddLoadHeader(file, "Nastavnik");
     for (const Row& nastavnik : modData::Nastavnici)
-        AddLoadBlock(file, nastavnik.Field(Nastavnik::PrezimeIme),
-                     LoadRowsOf(nastavnik.Number(Nastavnik::ID), filter, ExportRules));
+    {
+        const std::string_view name = nastavnik.Field(Nastavnik::PrezimeIme);
+        AddLoadBlock(file, name, LoadRowsOf(nastavnik.Number(Nastavnik::ID), filter, ExportRules));
+    }
     file.SaveAs(path);
 }
