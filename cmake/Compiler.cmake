@@ -10,3 +10,8 @@ if(VARLO_SANITIZE)
     target_compile_options(varlo_options INTERFACE ${sanitizers})
     target_link_options(varlo_options INTERFACE ${sanitizers})
 endif()
+if(VARLO_FUZZ)
+    # Every target's code reports what it covers; the fuzzer itself is linked to its targets alone.
+    target_compile_options(varlo_options INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(varlo_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
