@@ -76,7 +76,7 @@ void EditCourse()
         {
             const std::size_t before = modData::Kolegiji.RowCount();
             const std::int32_t id = modData::NextKolegijID();
-            AddKolegij(EntryOf(1).value_or(CourseEntry{.Naziv = "Žir", .P = "1", .SmjerIDs = {1}}));
+            AddKolegij(EntryOf(1).value_or(CourseEntry()));
             Promise(modData::NextKolegijID() == id + 1, "a new course has the next ID");
             Promise(modData::Kolegiji.RowCount() == before + 1, "a new course is one row");
             DeleteKolegij(id);

@@ -1,17 +1,23 @@
 // The program itself, but for two things: what its message boxes say goes to standard output and each is
 // answered at once, and the splash is dismissed at once, and the main window is left as VARLO_LEAVE_BY says:
 // by the "exit" button or by its "close" box. Where VARLO_EXPORT_LOAD names one of its buttons that open a
-// window of teaching load, that window's export goes to load.csv in LOCALAPPDATA before that.
+// window of teaching load, that window's export goes to load.csv in LOCALAPPDATA before that. Where
+// VARLO_WAIT holds a text, a file of that name behind "loaded." in LOCALAPPDATA says that the main window is
+// there, and the program waits for a file "leave" beside it.
 
+#include "data/Files.h"
 #include "data/System.h"
+#include "support/TestFolder.h"
 #include "support/Windows.h"
 #include "ui/app/VarlostudijiApp.h"
 #include "ui/main/frmMain.h"
 #include "ui/startup/frmSplash.h"
 
 #include <wx/button.h>
+#include <wx/utils.h>
 
 #include <cstdio>
+#include <filesystem>
 
 namespace
 {
@@ -62,10 +68,22 @@ private:
             }
     }
 
+    static void WaitUntilTold()
+    {
+        const std::string name = System::EnvironmentVariable("VARLO_WAIT");
+        if (name.empty())
+            return;
+        const std::filesystem::path folder = ToPath(System::EnvironmentVariable("LOCALAPPDATA"));
+        WriteBytes(folder / ToPath("loaded." + name), "");
+        while (!std::filesystem::exists(folder / "leave"))
+            wxMilliSleep(1);
+    }
+
     void Leave()
     {
         FindOpen<frmSplash>()->CloseSplash();
         auto* window = FindOpen<frmMain>();
+        WaitUntilTold();
         const std::string load = System::EnvironmentVariable("VARLO_EXPORT_LOAD");
         if (!load.empty())
             ExportLoad(window, load);

@@ -76,4 +76,30 @@ TEST(TableChoices, ADirectionWithABadStudyIsAnErrorForEveryStudy)
     EXPECT_THROW(SmjerChoices(7), TypeMismatch);
 }
 
+TEST(TableChoices, LecturersComeByNameWithOrWithoutTheNamelessOnes)
+{
+    Catalogue catalogue;
+    catalogue.Nastavnici = {"7;Šarić;;1", "2;  ;;1", "7; Anić ;;1"};
+    catalogue.Use();
+    EXPECT_EQ(Shown(NastavnikChoices()), "Šarić=7   =2  Anić =7");
+    EXPECT_EQ(Shown(NamedNastavnikChoices()), "Šarić=7  Anić =7");
+}
+
+TEST(TableChoices, TheIDOfANamelessLecturerIsNotRead)
+{
+    Catalogue catalogue;
+    catalogue.Nastavnici = {"x; ;;1", "2;Anić;;1"};
+    catalogue.Use();
+    EXPECT_EQ(Shown(NamedNastavnikChoices()), "Anić=2");
+    EXPECT_THROW(NastavnikChoices(), TypeMismatch);
+}
+
+TEST(TableChoices, ADepartmentWhoseIDIsNoNumberCountsAs0)
+{
+    Catalogue catalogue;
+    catalogue.Zavodi = {"x;Prvi;P", "99999999999;Drugi;D", "3;Treći;T"};
+    catalogue.Use();
+    EXPECT_EQ(Shown(ZavodChoices()), "Prvi=0 Drugi=0 Treći=3");
+}
+
 } // namespace
