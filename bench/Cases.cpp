@@ -1,0 +1,227 @@
+#include "Cases.h"
+
+#include "Floor.h"
+
+#include "data/Files.h"
+#include "ui/course_editor/CourseEntry.h"
+#include "ui/main/CatalogueExport.h"
+#include "ui/main/SemesterStatistics.h"
+#include "validation/modCSVValidator.h"
+
+#include <benchmark/benchmark.h>
+
+#include <stdexcept>
+#include <utility>
+
+namespace
+{
+
+// Whose work is measured.
+constexpr std::string_view Ours = "ours";
+constexpr std::string_view Reference = "reference";
+constexpr std::string_view InSqlite = "sqlite";
+constexpr std::string_view Floor = "floor";
+
+void ForgetTables()
+{
+    for (Table* table : ProgramTables())
+        *table = Table(table->Layout());
+}
+
+void RequireValid(bool valid, std::string_view by)
+{
+    if (!valid)
+        throw std::runtime_error("the generated catalogue is found invalid by " + std::string(by));
+}
+
+/// Writes the first course anew with another title: its row and all its links change, and the save has
+/// something to do.
+void EditFirstCourse(Bench& bench)
+{
+    const Row& kolegij = modData::Kolegiji[0];
+    const std::int32_t id = kolegij.Number(Kolegij::ID);
+    CourseEntry entry = *EntryOf(id);
+    entry.StudijID = kolegij.Number(Kolegij::StudijID);
+    bench.Edited = !bench.Edited;
+    entry.Naziv = bench.Edited ? "Jedan naziv" : "Drugi naziv";
+    ReplaceKolegij(id, entry);
+}
+
+void KeyStroke(Bench& bench)
+{
+    bench.Courses = CourseRows(FirstLetter);
+    bench.Statistics = StatistikaRows(FirstLetter, Level);
+}
+
+template<void (*Export)(Bench&)>
+void RememberExport(Bench& bench)
+{
+    Export(bench);
+    bench.Bytes = {ReadFile(bench.Place.PathOf("export.csv"))};
+}
+
+/// Writes the export that was remembered.
+void WriteExport(Bench& bench)
+{
+    WriteFlushed(bench.Place.PathOf("floor.csv"), bench.Bytes.front());
+}
+
+void RememberTables(Bench& bench)
+{
+    bench.Bytes.clear();
+    for (const std::string& path : bench.TablePaths())
+        bench.Bytes.push_back(ReadFile(path));
+}
+
+/// Writes the tables' files that were remembered, elsewhere.
+void WriteTables(Bench& bench)
+{
+    for (std::size_t i = 0; i < bench.Bytes.size(); ++i)
+        WriteFlushed(bench.OtherFolder() + "/" + std::to_string(i), bench.Bytes[i]);
+}
+
+constexpr Case AllCases[] = {
+    {"load", Ours, [](Bench&) { modData::LoadAllTables(); }, [](Bench&) { ForgetTables(); }},
+    {"load", Reference, [](Bench& bench) { bench.Loaded = reference::Load(bench.Place.DataFolder()); },
+     [](Bench& bench) { bench.Loaded.reset(); }},
+    {"load", InSqlite,
+     [](Bench& bench) { bench.Imported = std::make_unique<SqliteCatalogue>(bench.Place.DataFolder()); },
+     [](Bench& bench) { bench.Imported.reset(); }},
+    {"load", Floor, [](Bench& bench) { benchmark::DoNotOptimize(ReadAndDecode(bench.TablePaths())); }},
+
+    // A validation after a load has no index yet.
+    {"validate", Ours, [](Bench&) { RequireValid(modCSVValidator::ValidateAll(), Ours); },
+     [](Bench&) { modData::LoadAllTables(); }},
+    {"validate", Reference,
+     [](Bench& bench) { RequireValid(reference::Validate(bench.Place.Plain()).empty(), Reference); }, nullptr,
+     Clock::Processor, Growth::Product},
+    {"validate", InSqlite, [](Bench& bench) { RequireValid(bench.InSqlite().IsValid(), InSqlite); }},
+
+    {"load+validate", Ours,
+     [](Bench&)
+     {
+         modData::LoadAllTables();
+         RequireValid(modCSVValidator::ValidateAll(), Ours);
+     },
+     [](Bench&) { ForgetTables(); }},
+    {"load+validate", Reference,
+     [](Bench& bench)
+     {
+         bench.Loaded = reference::Load(bench.Place.DataFolder());
+         RequireValid(reference::Validate(*bench.Loaded).empty(), Reference);
+     },
+     [](Bench& bench) { bench.Loaded.reset(); }, Clock::Processor, Growth::Product},
+    {"load+validate", InSqlite,
+     [](Bench& bench)
+     {
+         bench.Imported = std::make_unique<SqliteCatalogue>(bench.Place.DataFolder());
+         RequireValid(bench.Imported->IsValid(), InSqlite);
+     },
+     [](Bench& bench) { bench.Imported.reset(); }},
+    {"load+validate", Floor,
+     [](Bench& bench) { benchmark::DoNotOptimize(ReadAndDecode(bench.TablePaths())); }},
+
+    {"list refresh", Ours, [](Bench& bench) { bench.Courses = CourseRows(NoFilter); }},
+    {"list refresh", Reference,
+     [](Bench& bench) { bench.Courses = reference::CourseRows(bench.Place.Plain(), NoFilter); }, nullptr,
+     Clock::Processor, Growth::Product},
+
+    {"list refresh, search", Ours, [](Bench& bench) { bench.Courses = CourseRows(Searching); }},
+    {"list refresh, search", Reference,
+     [](Bench& bench) { bench.Courses = reference::CourseRows(bench.Place.Plain(), Searching); }, nullptr,
+     Clock::Processor, Growth::Product},
+
+    {"statistics refresh", Ours, [](Bench& bench) { bench.Statistics = StatistikaRows(NoFilter, Level); }},
+    {"statistics refresh", Reference,
+     [](Bench& bench) { bench.Statistics = reference::StatistikaRows(bench.Place.Plain(), NoFilter, Level); },
+     nullptr, Clock::Processor, Growth::Product},
+
+    {"key stroke", Ours, KeyStroke},
+    {"key stroke", Reference,
+     [](Bench& bench)
+     {
+         bench.Courses = reference::CourseRows(bench.Place.Plain(), FirstLetter);
+         bench.Statistics = reference::StatistikaRows(bench.Place.Plain(), FirstLetter, Level);
+     },
+     nullptr, Clock::Processor, Growth::Product},
+
+    {"sort by a column", Ours,
+     [](Bench& bench) { bench.Positions = SortedPositions(bench.Courses, ByTitle); },
+     [](Bench& bench)
+     {
+         if (bench.Courses.size() != static_cast<std::size_t>(bench.Place.Size().Kolegiji))
+             bench.Courses = CourseRows(NoFilter);
+     }},
+    {"sort by a column", Reference,
+     [](Bench& bench)
+     { bench.Courses = reference::SortedRows(std::move(bench.Courses), ByTitle.Column, ByTitle.Descending); },
+     [](Bench& bench) { bench.Courses = CourseRows(NoFilter); }},
+
+    {"catalogue export", Ours, CatalogueExport, nullptr, Clock::Writes},
+    {"catalogue export", Reference,
+     [](Bench& bench)
+     { ReplaceFile(bench.Place.PathOf("export.csv"), reference::ExportKolegiji(bench.Place.Plain())); },
+     nullptr, Clock::Writes, Growth::Product},
+    {"catalogue export", InSqlite,
+     [](Bench& bench) { bench.InSqlite().ExportKolegiji(bench.Place.PathOf("export.csv")); }, nullptr,
+     Clock::Writes},
+    {"catalogue export", Floor, WriteExport, RememberExport<CatalogueExport>, Clock::Writes},
+
+    {"all-lecturers export", Ours, LecturersExport, nullptr, Clock::Writes},
+    {"all-lecturers export", Reference,
+     [](Bench& bench)
+     {
+         ReplaceFile(bench.Place.PathOf("export.csv"),
+                     reference::ExportAllLecturers(bench.Place.Plain(), AllLecturers));
+     },
+     nullptr, Clock::Writes, Growth::Product},
+    {"all-lecturers export", InSqlite,
+     [](Bench& bench) { bench.InSqlite().ExportAllLecturers(bench.Place.PathOf("export.csv")); }, nullptr,
+     Clock::Writes},
+    {"all-lecturers export", Floor, WriteExport, RememberExport<LecturersExport>, Clock::Writes},
+
+    {"all-departments export", Ours, DepartmentsExport, nullptr, Clock::Writes},
+    {"all-departments export", Reference,
+     [](Bench& bench)
+     {
+         ReplaceFile(bench.Place.PathOf("export.csv"),
+                     reference::ExportAllDepartments(bench.Place.Plain(), AllDepartments));
+     },
+     nullptr, Clock::Writes, Growth::Product},
+    {"all-departments export", Floor, WriteExport, RememberExport<DepartmentsExport>, Clock::Writes},
+
+    {"save", Ours, [](Bench&) { modData::SaveAllTables(); }, nullptr, Clock::Wall},
+    {"save", Reference, [](Bench& bench) { reference::Save(bench.Place.Plain(), bench.OtherFolder()); },
+     nullptr, Clock::Wall},
+    {"save", Floor, WriteTables, RememberTables, Clock::Wall},
+    // Three files change, and their former contents are kept beside them.
+    {"save, course edited", Ours, [](Bench&) { modData::SaveAllTables(); }, EditFirstCourse, Clock::Wall},
+    {"save, course edited", Floor, WriteTables, RememberTables, Clock::Wall},
+
+    {"next ID", Ours, [](Bench&) { benchmark::DoNotOptimize(modData::NextKolegijID()); }},
+    {"next ID", Reference,
+     [](Bench& bench) { benchmark::DoNotOptimize(reference::NextKolegijID(bench.Place.Plain())); }},
+    {"next ID", InSqlite, [](Bench& bench) { benchmark::DoNotOptimize(bench.InSqlite().NextKolegijID()); }},
+};
+
+} // namespace
+
+std::span<const Case> Cases()
+{
+    return AllCases;
+}
+
+void CatalogueExport(Bench& bench)
+{
+    ExportKolegijiToCSV(bench.Place.PathOf("export.csv"));
+}
+
+void LecturersExport(Bench& bench)
+{
+    ExportAllLecturers(bench.Place.PathOf("export.csv"), AllLecturers);
+}
+
+void DepartmentsExport(Bench& bench)
+{
+    ExportAllDepartments(bench.Place.PathOf("export.csv"), AllDepartments);
+}

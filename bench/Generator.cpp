@@ -1,0 +1,337 @@
+#include "Generator.h"
+
+#include "data/Files.h"
+#include "data/Text.h"
+#include "data/modData.h"
+
+#include <algorithm>
+#include <random>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace
+{
+
+// Surnames are put together from three parts.
+constexpr std::string_view SurnameBeginnings[] = {
+    "Bar",  "Bel",  "Brez", "Cind", "Čer", "Dol",  "Drag", "Đur", "Gaj", "Grab", "Hrast", "Iv", "Jag", "Jel",
+    "Kalj", "Klen", "Kop",  "Lat",  "Lip", "Ljub", "Mar",  "Mil", "Mrk", "Nad",  "Njeg",  "Or", "Pav", "Per",
+    "Rad",  "Rak",  "Sam",  "Skok", "Šim", "Šum",  "Top",  "Trn", "Vid", "Vuk",  "Zor",   "Žit"};
+constexpr std::string_view SurnameMiddles[] = {"an", "ar", "en", "er", "ič", "in", "ov", "ul", "uš", ""};
+constexpr std::string_view SurnameEndings[] = {"ić", "ović", "ec", "ak", "ek", "ić", "šić", "ac"};
+
+constexpr std::string_view GivenNames[] = {
+    "Ana",    "Ante",     "Boris",   "Branka", "Dario",   "Darija", "Davor",  "Đurđica",  "Filip",  "Goran",
+    "Hrvoje", "Iva",      "Ivan",    "Ivana",  "Jasna",   "Josip",  "Katica", "Krešimir", "Luka",   "Lucija",
+    "Marija", "Marko",    "Martina", "Matej",  "Mirta",   "Nikola", "Petra",  "Saša",     "Siniša", "Sunčana",
+    "Tin",    "Tomislav", "Vedrana", "Vesna",  "Zdravko", "Zlatko", "Željka", "Željko"};
+
+constexpr std::string_view Titles[] = {
+    "prof. dr. sc.", "izv. prof. dr. sc.", "doc. dr. sc.", "v. pred.", "pred.", ""};
+
+// A course is called by one of the first and one of the second, and some have a number.
+constexpr std::string_view TitleBeginnings[] = {"Osnove",
+                                                "Metode",
+                                                "Teorija",
+                                                "Ekonomika",
+                                                "Povijest",
+                                                "Planiranje",
+                                                "Sustavi",
+                                                "Praktikum iz",
+                                                "Seminar iz",
+                                                "Modeli",
+                                                "Odabrana poglavlja",
+                                                "Tehnika",
+                                                "Upravljanje u području",
+                                                "Kvaliteta",
+                                                "Etika",
+                                                "Zaštita"};
+constexpr std::string_view Subjects[] = {"matematike",
+                                         "fizike",
+                                         "logistike",
+                                         "prometa",
+                                         "energetike",
+                                         "održivog razvoja",
+                                         "zaštite voda",
+                                         "geoinformatike",
+                                         "krajobraza",
+                                         "šumarstva",
+                                         "pčelarstva",
+                                         "vinogradarstva",
+                                         "građevnih materijala",
+                                         "željezničkog prijevoza",
+                                         "tehničke mehanike",
+                                         "statistike",
+                                         "računalnih mreža",
+                                         "obrade podataka",
+                                         "automatizacije",
+                                         "gospodarenja otpadom",
+                                         "obnovljivih izvora",
+                                         "prehrambenih procesa",
+                                         "bioraznolikosti",
+                                         "hidrologije",
+                                         "meteorologije",
+                                         "urbanih sredina",
+                                         "robotike",
+                                         "komunikacija"};
+constexpr std::string_view TitleNumbers[] = {"", "", "", " I", " II", " III"};
+
+constexpr std::string_view Types[] = {"obvezni", "obvezni", "izborni"};
+
+constexpr int HolderPlaces = 3;
+
+/// Small random numbers, the same on every system: the library's distributions are not.
+class Dice
+{
+public:
+    explicit Dice(std::uint64_t seed) : Engine(seed) {}
+
+    /// From 0 to `count` - 1.
+    int Below(int count) { return static_cast<int>(Engine() % static_cast<std::uint64_t>(count)); }
+
+    std::string_view OneOf(std::span<const std::string_view> texts)
+    {
+        return texts[static_cast<std::size_t>(Below(static_cast<int>(texts.size())))];
+    }
+
+    /// Some numbers below `count`, all different, in no order.
+    std::vector<int> Different(int howMany, int count)
+    {
+        std::vector<int> chosen;
+        while (static_cast<int>(chosen.size()) < howMany)
+            if (const int number = Below(count); std::ranges::find(chosen, number) == chosen.end())
+                chosen.push_back(number);
+        return chosen;
+    }
+
+private:
+    std::mt19937_64 Engine;
+};
+
+/// A table's file while it is made.
+class TableFile
+{
+public:
+    explicit TableFile(const TableLayout& layout) : Layout(layout) { File.AddLine(layout.Header()); }
+
+    void Add(const std::vector<std::string>& fields) { File.AddLine(Joined(fields, ";")); }
+
+    void SaveIn(const std::filesystem::path& folder) const
+    {
+        const std::u8string path = (folder / ToPath(Layout.FileName)).u8string();
+        File.SaveAs(std::string(path.begin(), path.end()));
+    }
+
+private:
+    const TableLayout& Layout;
+    TextFile File;
+};
+
+/// Part `index` of a whole that is shared out as evenly as whole numbers allow.
+int Share(int whole, int parts, int index)
+{
+    const auto until = [&](std::int64_t i) { return static_cast<int>(whole * i / parts); };
+    return until(index + 1) - until(index);
+}
+
+/// Three letters, different for each number below 26 cubed.
+std::string Letters(int number)
+{
+    std::string letters;
+    for (int divisor = 26 * 26; divisor > 0; divisor /= 26)
+        letters += static_cast<char>('A' + number / divisor % 26);
+    return letters;
+}
+
+/// Each study comes on both levels under one name.
+std::string_view RazinaOf(int studij)
+{
+    return studij % 2 == 0 ? modData::Preddiplomski : modData::Diplomski;
+}
+
+class Generation
+{
+public:
+    Generation(const CatalogueSize& size, std::uint64_t seed) : Size(size), Random(seed) {}
+
+    void SaveIn(const std::filesystem::path& folder)
+    {
+        MakeZavodi().SaveIn(folder);
+        MakeNastavnici().SaveIn(folder);
+        MakeStudiji().SaveIn(folder);
+        MakeSmjerovi().SaveIn(folder);
+        MakeKolegiji().SaveIn(folder);
+        MakeKolegijSmjerovi().SaveIn(folder);
+        MakeKolegijNastavnici().SaveIn(folder);
+    }
+
+private:
+    using Fields = std::vector<std::string>;
+
+    struct Course
+    {
+        int ID;
+        int Studij; // from 0
+    };
+
+    TableFile MakeZavodi() const
+    {
+        TableFile file(modData::Zavodi.Layout());
+        for (int i = 0; i < Size.Zavodi; ++i)
+        {
+            const std::string_view subject = Subjects[static_cast<std::size_t>(i) % std::size(Subjects)];
+            file.Add({std::to_string(i + 1),
+                      "Zavod " + std::to_string(i + 1) + " za područje " + std::string(subject),
+                      "Z" + Letters(i)});
+        }
+        return file;
+    }
+
+    TableFile MakeNastavnici()
+    {
+        TableFile file(modData::Nastavnici.Layout());
+        for (int i = 0; i < Size.Nastavnici; ++i)
+        {
+            std::string name = Surname();
+            if (Random.Below(12) == 0)
+                name += "-" + Surname();
+            name.append(" ").append(Random.OneOf(GivenNames));
+            file.Add({std::to_string(i + 1), std::move(name), std::string(Random.OneOf(Titles)),
+                      std::to_string(Random.Below(Size.Zavodi) + 1)});
+        }
+        return file;
+    }
+
+    TableFile MakeStudiji() const
+    {
+        TableFile file(modData::Studiji.Layout());
+        for (int i = 0; i < Size.Studiji; ++i)
+        {
+            const auto subject = static_cast<std::size_t>(i / 2) % std::size(Subjects);
+            file.Add({std::to_string(i + 1), "Studij " + std::string(Subjects[subject]), Letters(i / 2),
+                      std::string(RazinaOf(i))});
+        }
+        return file;
+    }
+
+    /// Direction i belongs to study i modulo their number.
+    TableFile MakeSmjerovi()
+    {
+        TableFile file(modData::Smjerovi.Layout());
+        for (int i = 0; i < Size.Smjerovi; ++i)
+        {
+            const int studij = i % Size.Studiji;
+            file.Add({std::to_string(i + 1), "Smjer " + std::string(Random.OneOf(Subjects)), "S" + Letters(i),
+                      std::to_string(studij + 1), std::string(RazinaOf(studij))});
+        }
+        return file;
+    }
+
+    TableFile MakeKolegiji()
+    {
+        TableFile file(modData::Kolegiji.Layout());
+        int id = 0;
+        for (int i = 0; i < Size.Kolegiji; ++i)
+        {
+            id += Random.Below(10) == 0 ? 2 : 1; // a course in between was deleted once
+            const int studij = Random.Below(Size.Studiji);
+            Courses.push_back({id, studij});
+            const int semesters = modData::LastSemestar(RazinaOf(studij));
+            std::string title(Random.OneOf(TitleBeginnings));
+            title.append(" ").append(Random.OneOf(Subjects)).append(Random.OneOf(TitleNumbers));
+            file.Add({std::to_string(id), std::move(title), Number(0, 4), Number(0, 2), Number(0, 4),
+                      Number(2, 10), std::string(Random.OneOf(Types)), Number(1, semesters),
+                      std::to_string(studij + 1)});
+        }
+        return file;
+    }
+
+    TableFile MakeKolegijSmjerovi()
+    {
+        std::vector<Fields> links;
+        for (std::size_t i = 0; i < Courses.size(); ++i)
+        {
+            const int directions = Share(Size.Smjerovi, Size.Studiji, 0);
+            const int count = Uneven(i, Size.KolegijSmjerovi);
+            for (const int choice : Random.Different(std::min(count, directions), directions))
+                links.push_back({std::to_string(Courses[i].ID),
+                                 std::to_string(choice * Size.Studiji + Courses[i].Studij + 1)});
+        }
+        return LinkFile(modData::KolegijSmjerovi.Layout(), links);
+    }
+
+    TableFile MakeKolegijNastavnici()
+    {
+        std::vector<Fields> links;
+        for (std::size_t i = 0; i < Courses.size(); ++i)
+        {
+            const std::vector<int> lecturers =
+                Random.Different(Uneven(i, Size.KolegijNastavnici), Size.Nastavnici);
+            for (std::size_t j = 0; j < lecturers.size(); ++j)
+            {
+                const bool holds = j < HolderPlaces;
+                links.push_back({std::to_string(Courses[i].ID), std::to_string(lecturers[j] + 1),
+                                 holds ? "Nositelj" : "Suradnik",
+                                 std::to_string(holds ? j + 1 : HolderPlaces)});
+            }
+        }
+        return LinkFile(modData::KolegijNastavnici.Layout(), links);
+    }
+
+    /// The links in course order, except that those of some courses stand at the end: editing a course moves
+    /// them there.
+    TableFile LinkFile(const TableLayout& layout, const std::vector<Fields>& links)
+    {
+        TableFile file(layout);
+        std::vector<const Fields*> edited;
+        bool isEdited = false;
+        std::string_view course;
+        for (const Fields& link : links)
+        {
+            if (link.front() != course)
+                isEdited = Random.Below(10) == 0;
+            course = link.front();
+            if (isEdited)
+                edited.push_back(&link);
+            else
+                file.Add(link);
+        }
+        for (const Fields* link : edited)
+            file.Add(*link);
+        return file;
+    }
+
+    /// How many of all links fall to a course: in every second pair one gives a link to the other.
+    int Uneven(std::size_t course, int links) const
+    {
+        const int even = Share(links, Size.Kolegiji, static_cast<int>(course));
+        if (course / 2 % 2 == 0)
+            return even;
+        return course % 2 == 0 ? even - 1 : even + 1;
+    }
+
+    std::string Surname()
+    {
+        std::string surname(Random.OneOf(SurnameBeginnings));
+        surname.append(Random.OneOf(SurnameMiddles)).append(Random.OneOf(SurnameEndings));
+        return surname;
+    }
+
+    std::string Number(int smallest, int largest)
+    {
+        return std::to_string(smallest + Random.Below(largest - smallest + 1));
+    }
+
+    CatalogueSize Size;
+    Dice Random;
+    std::vector<Course> Courses;
+};
+
+} // namespace
+
+void GenerateCatalogue(const CatalogueSize& size, std::uint64_t seed, const std::filesystem::path& folder)
+{
+    Generation(size, seed).SaveIn(folder);
+}

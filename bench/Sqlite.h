@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// The same catalogue in SQLite: a database in memory, texts in UTF-8, numbers as numbers, an index on every
+/// identifier and reference. As in the program, an identifier may come twice and the order of the rows
+/// counts.
+class SqliteCatalogue
+{
+public:
+    /// Lets SQLite do without what one thread does not need; once, before the first catalogue.
+    static void Configure();
+
+    /// Imports the seven files of a data folder: prepared inserts in one transaction, the indexes behind
+    /// them.
+    explicit SqliteCatalogue(const std::string& dataFolder);
+
+    /// True when the queries that correspond to the program's checks find nothing.
+    bool IsValid();
+
+    std::int32_t NextKolegijID();
+
+    /// Writes the program's export of all lecturers for the filters "Svi": grouped sums, their lines made and
+    /// written as the program writes lines.
+    void ExportAllLecturers(const std::string& path);
+
+    /// Writes the program's export of the catalogue.
+    void ExportKolegiji(const std::string& path);
+
+private:
+    struct CloseDatabase
+    {
+        void operator()(sqlite3* database) const;
+    };
+    struct Finalize
+    {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
+
+    void Run(std::string_view sql);
+    Statement Prepare(std::string_view sql);
+    std::int64_t FirstNumber(std::string_view sql);
+    void Import(const std::string& path, std::string_view insert, std::string_view columnTypes);
+
+    std::unique_ptr<sqlite3, CloseDatabase> Database;
+};

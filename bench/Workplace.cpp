@@ -1,0 +1,70 @@
+#include "Workplace.h"
+
+#include "data/Files.h"
+
+#include <cstdlib>
+#include <utility>
+
+namespace
+{
+
+Workplace* Entered = nullptr;
+
+std::string Utf8(const std::filesystem::path& path)
+{
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+} // namespace
+
+std::array<Table*, 7> ProgramTables()
+{
+    using namespace modData;
+    return {&Zavodi, &Nastavnici, &Studiji, &Smjerovi, &Kolegiji, &KolegijSmjerovi, &KolegijNastavnici};
+}
+
+Workplace::Workplace(const CatalogueSize& size, const std::filesystem::path& folder)
+    : Fixed(size),
+      Folder(folder / size.Name)
+{
+    std::filesystem::remove_all(Folder);
+    std::filesystem::create_directories(ToPath(DataFolder()));
+    GenerateCatalogue(size, UsualSeed, ToPath(DataFolder()));
+}
+
+std::string Workplace::DataFolder() const
+{
+    return PathOf("Varlostudiji");
+}
+
+std::string Workplace::PathOf(std::string_view name) const
+{
+    return Utf8(Folder / ToPath(name));
+}
+
+void Workplace::Enter()
+{
+    if (Entered == this)
+        return;
+    ::setenv("LOCALAPPDATA", Utf8(Folder).c_str(), 1);
+
+    // The tables that were in use go back to their own workplace.
+    if (Entered != nullptr)
+        for (Table* table : ProgramTables())
+            Entered->Tables.push_back(std::move(*table));
+    if (Tables.empty())
+        modData::LoadAllTables();
+    else
+        for (std::size_t i = 0; i < Tables.size(); ++i)
+            *ProgramTables()[i] = std::move(Tables[i]);
+    Tables.clear();
+    Entered = this;
+}
+
+reference::Catalogue& Workplace::Plain()
+{
+    if (!PlainTables)
+        PlainTables = std::make_unique<reference::Catalogue>(reference::Load(DataFolder()));
+    return *PlainTables;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Generator.h"
+
+#include "data/modData.h"
+#include "reference/Reference.h"
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+/// The program's tables, in the order in which they are loaded and saved.
+std::array<Table*, 7> ProgramTables();
+
+/// A generated catalogue in a folder of its own. Several may be at hand: the program works on the one that
+/// was entered last.
+class Workplace
+{
+public:
+    /// Generates a catalogue below the folder. @throws FileError
+    Workplace(const CatalogueSize& size, const std::filesystem::path& folder);
+
+    const CatalogueSize& Size() const { return Fixed; }
+
+    /// The data folder, as UTF-8.
+    std::string DataFolder() const;
+
+    /// The path of a file that is no table, as UTF-8.
+    std::string PathOf(std::string_view name) const;
+
+    /// Makes this catalogue the program's: its data folder and its loaded tables.
+    void Enter();
+
+    /// The catalogue as the reference holds it, loaded when first asked for.
+    reference::Catalogue& Plain();
+
+private:
+    CatalogueSize Fixed;
+    std::filesystem::path Folder;
+    std::vector<Table> Tables; // while another workplace is entered
+    std::unique_ptr<reference::Catalogue> PlainTables;
+};

@@ -1,0 +1,66 @@
+#include "data/Errors.h"
+#include "lists/Choice.h"
+#include "ui/department_stats/DepartmentStatistics.h"
+#include "ui/lecturer_stats/LecturerStatistics.h"
+#include "ui/main/CourseList.h"
+#include "ui/main/SemesterStatistics.h"
+#include "validation/modCSVValidator.h"
+
+#include "data/modData.h"
+
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+/// The most memory that this process has held so far, in KiB.
+long PeakMemory()
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;)
+        if (long kilobytes = 0; word == "VmHWM:" && status >> kilobytes)
+            return kilobytes;
+    return 0;
+}
+
+/// Start-up, then every list and table of the program once, each kept while it would be on the screen.
+void LoadAndRefresh()
+{
+    const std::string all(Svi);
+    modData::LoadAllTables();
+    modCSVValidator::ValidateAll();
+    std::vector<ListRow> courses = CourseRows({});
+    std::vector<ListRow> statistics = StatistikaRows({}, modData::Preddiplomski);
+    courses = CourseRows({.Search = "a"});
+    statistics = StatistikaRows({.Search = "a"}, modData::Preddiplomski);
+
+    const std::int32_t lecturer = modData::Nastavnici[0].Number(Nastavnik::ID);
+    const std::vector<ListRow> lecturerCourses = LecturerCourseRows(lecturer, {all, all});
+    const std::vector<ListRow> lecturerLoad = LecturerLoadRows(lecturer, {all, all});
+    const std::int32_t department = modData::Zavodi[0].Number(Zavod::ID);
+    const std::vector<ListRow> departmentCourses = DepartmentCourseRows(department, {all, all});
+    const std::vector<ListRow> departmentLoad = DepartmentLoadRows(department, {all, all});
+}
+
+} // namespace
+
+/// memory [empty]: loads, validates and refreshes everything with the catalogue that LOCALAPPDATA names, and
+/// prints the process's peak memory in KiB; "empty" does nothing before it prints.
+int main(int count, char**)
+{
+    try
+    {
+        if (count == 1)
+            LoadAndRefresh();
+    }
+    catch (const RuntimeError& error)
+    {
+        std::cerr << error.Description() << '\n';
+        return 1;
+    }
+    std::cout << PeakMemory() << '\n';
+    return 0;
+}

@@ -1,0 +1,126 @@
+#pragma once
+
+#include "lists/ListRow.h"
+#include "ui/course_editor/CourseEntry.h"
+#include "ui/department_stats/DepartmentStatistics.h"
+#include "ui/lecturer_stats/LecturerStatistics.h"
+#include "ui/main/CourseList.h"
+#include "ui/main/StatistikaExport.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The program's work done the plainest way: the rules as nested loops over rows of text. Every look-up scans
+/// its table from the first row and converts each number that it passes; nothing is indexed, prepared or
+/// kept. It is what the program's answers are compared with, and what its speed is measured against, hence it
+/// shares nothing with it but the conversions of numbers and of windows-1250, the errors, the access to files
+/// and the shapes of arguments and results. Errors are the program's own, with the same texts.
+namespace reference
+{
+
+/// What is fixed about a table: its file and its columns.
+struct Layout
+{
+    std::string_view FileName;
+    std::span<const std::string_view> Columns;
+};
+
+/// One row: the fields of a file line as UTF-8 text.
+struct TextRow
+{
+    std::vector<std::string> Fields;
+    std::size_t Line = 0; ///< In the file, from 1; 0 when no file holds the row.
+};
+
+/// A table: its rows in the order of the file.
+struct TextTable
+{
+    const Layout* Fixed;
+    std::vector<TextRow> Rows = {};
+};
+
+/// The seven tables.
+struct Catalogue
+{
+    Catalogue();
+
+    TextTable Zavodi;
+    TextTable Nastavnici;
+    TextTable Studiji;
+    TextTable Smjerovi;
+    TextTable Kolegiji;
+    TextTable KolegijSmjerovi;
+    TextTable KolegijNastavnici;
+
+    /// The tables in the order in which they are loaded and saved.
+    std::array<TextTable*, 7> All();
+    std::array<const TextTable*, 7> All() const;
+};
+
+// Files
+
+/// Reads the seven files of a folder (no separator behind its name), which stay as they are; one with the
+/// UTF-8 mark is read as what it is turned into. @throws FileError, InputPastEnd
+Catalogue Load(std::string_view folder);
+
+/// The bytes that a file becomes before it is read: windows-1250, without the UTF-8 mark.
+std::string Normalized(std::string_view bytes);
+
+/// The bytes that each file is saved with, in the order of All().
+std::array<std::string, 7> SavedFiles(const Catalogue& catalogue);
+
+/// Writes the seven files, each in one step and flushed, as the program does. @throws FileError
+void Save(const Catalogue& catalogue, std::string_view folder);
+
+// Edits
+
+/// The largest course ID plus 1. @throws TypeMismatch, Overflow, SubscriptOutOfRange
+std::int32_t NextKolegijID(const Catalogue& catalogue);
+
+void AddKolegij(Catalogue& catalogue, const CourseEntry& entry);
+void ReplaceKolegij(Catalogue& catalogue, std::int32_t id, const CourseEntry& entry);
+void DeleteKolegij(Catalogue& catalogue, std::int32_t id);
+
+// Reading. Each throws TypeMismatch, Overflow or SubscriptOutOfRange for a number on its way that cannot be
+// read, and Overflow for a sum that does not fit.
+
+/// The messages of all checks; none when the tables may be saved.
+std::vector<std::string> Validate(const Catalogue& catalogue);
+
+std::string GetSmjeroviKraticeString(const Catalogue& catalogue, std::int32_t kolegijID);
+std::string GetNositeljiString(const Catalogue& catalogue, std::int32_t kolegijID);
+std::string GetNositelji123String(const Catalogue& catalogue, std::int32_t kolegijID);
+
+/// The course list.
+std::vector<ListRow> CourseRows(const Catalogue& catalogue, const CourseFilter& filter);
+
+/// The rows as a click on a column's header shows them: by the Croatian order of the column's texts, equal
+/// ones as they stood.
+std::vector<ListRow> SortedRows(std::vector<ListRow> rows, std::size_t column, bool descending);
+
+/// The semester sums of the main window.
+std::vector<ListRow> StatistikaRows(const Catalogue& catalogue, const CourseFilter& filter,
+                                    std::string_view razina);
+
+std::vector<ListRow> LecturerCourseRows(const Catalogue& catalogue, std::int32_t nastavnikID,
+                                        const LecturerFilter& filter);
+std::vector<ListRow> LecturerLoadRows(const Catalogue& catalogue, std::int32_t nastavnikID,
+                                      const LecturerFilter& filter);
+std::vector<ListRow> DepartmentCourseRows(const Catalogue& catalogue, std::int32_t zavodID,
+                                          const DepartmentFilter& filter);
+std::vector<ListRow> DepartmentLoadRows(const Catalogue& catalogue, std::int32_t zavodID,
+                                        const DepartmentFilter& filter);
+
+// Exports: the bytes of the file.
+
+std::string ExportKolegiji(const Catalogue& catalogue);
+std::string ExportStatistika(const StatistikaFilters& filters, const std::vector<ListRow>& rows);
+std::string ExportAllLecturers(const Catalogue& catalogue, const LecturerFilter& filter);
+std::string ExportAllDepartments(const Catalogue& catalogue, const DepartmentFilter& filter);
+
+} // namespace reference

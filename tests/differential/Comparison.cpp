@@ -1,0 +1,327 @@
+#include "differential/Comparison.h"
+
+#include "data/Lookups.h"
+#include "data/modData.h"
+#include "differential/AnswerText.h"
+#include "support/Catalogue.h"
+#include "support/TestFolder.h"
+#include "ui/main/CatalogueExport.h"
+#include "ui/main/CourseDeletion.h"
+#include "ui/main/SemesterStatistics.h"
+#include "validation/modCSVValidator.h"
+
+#include <vector>
+
+namespace
+{
+
+/// Every row of every table, as stored.
+std::vector<std::string> ProgramRows()
+{
+    std::vector<std::string> lines;
+    for (const Table* table : {&modData::Zavodi, &modData::Nastavnici, &modData::Studiji, &modData::Smjerovi,
+                               &modData::Kolegiji, &modData::KolegijSmjerovi, &modData::KolegijNastavnici})
+        for (const std::string& line : LinesOf(*table))
+            lines.push_back(std::string(table->Layout().FileName) + ": " + line);
+    return lines;
+}
+
+std::vector<std::string> ReferenceRows(const reference::Catalogue& catalogue)
+{
+    std::vector<std::string> lines;
+    for (const reference::TextTable* table : catalogue.All())
+        for (const reference::TextRow& row : table->Rows)
+        {
+            std::string line = std::string(table->Fixed->FileName) + ": " + row.Fields.front();
+            for (std::size_t i = 1; i < row.Fields.size(); ++i)
+                line += ";" + row.Fields[i];
+            lines.push_back(line);
+        }
+    return lines;
+}
+
+std::vector<ListRow> SortedAsShown(const std::vector<ListRow>& rows, ListOrder order)
+{
+    std::vector<ListRow> sorted;
+    for (const std::size_t position : SortedPositions(rows, order))
+        sorted.push_back(rows[position]);
+    return sorted;
+}
+
+std::vector<std::vector<std::string>> Texts(const std::vector<ListRow>& rows)
+{
+    std::vector<std::vector<std::string>> texts;
+    for (const ListRow& row : rows)
+    {
+        texts.emplace_back();
+        for (const ListCell& cell : row)
+            texts.back().push_back(cell.Text);
+    }
+    return texts;
+}
+
+} // namespace
+
+/// True when both answer alike; otherwise the difference is kept.
+template<typename Program, typename Plain>
+bool Comparison::Ask(const std::string& question, const Program& program, const Plain& plain)
+{
+    const std::string ofReference = AnswerOf(plain); // first: the program may change what it reads
+    const std::string ofProgram = AnswerOf(program);
+    const bool isError = ofReference.starts_with("error ");
+    ++Counts[isError ? ofReference.substr(0, ofReference.find(':')) : "answer"];
+    if (ofProgram == ofReference)
+        return true;
+    Found = Difference{question, ofProgram, ofReference};
+    return false;
+}
+
+std::optional<Difference> Comparison::Run(const CatalogueFiles& files)
+{
+    Found.reset();
+    reference::Catalogue catalogue;
+    if (!LoadBoth(files, catalogue))
+        return Found;
+    bool alike = CompareAll(catalogue);
+    for (int edits = Dice.Between(0, 3); alike && edits > 0; --edits)
+        alike = EditBoth(catalogue) && CompareTables(catalogue) && CompareAll(catalogue);
+    if (alike && CompareSaved(catalogue))
+        CompareMainWindow(catalogue); // with the tables as they were loaded anew
+    return Found;
+}
+
+std::optional<Difference> Comparison::Compare(const reference::Catalogue& catalogue)
+{
+    Found.reset();
+    if (CompareTables(catalogue))
+        CompareAll(catalogue);
+    return Found;
+}
+
+/// True when both sides have loaded the files alike, so that there is more to ask.
+bool Comparison::LoadBoth(const CatalogueFiles& files, reference::Catalogue& catalogue)
+{
+    WriteFiles(files, Folder.Data());
+    bool loaded = false;
+    const auto loadPlain = [&]
+    {
+        catalogue = reference::Load(modData::GetDataFolder());
+        loaded = true;
+        return 0;
+    };
+    const auto loadProgram = []
+    {
+        modData::LoadAllTables();
+        return 0;
+    };
+    if (!Ask("LoadAllTables", loadProgram, loadPlain) || !loaded)
+        return false;
+    for (std::size_t i = 0; i < files.size(); ++i)
+        if (!Ask(
+                "the bytes of " + std::string(TableFiles[i]) + " after loading",
+                [&] { return Bytes{ReadBytes(Folder.Data() / TableFiles[i])}; },
+                [&] { return Bytes{reference::Normalized(files[i])}; }))
+            return false;
+    return CompareTables(catalogue);
+}
+
+bool Comparison::CompareTables(const reference::Catalogue& catalogue)
+{
+    return Ask("the rows of all tables", ProgramRows, [&] { return ReferenceRows(catalogue); });
+}
+
+bool Comparison::CompareAll(const reference::Catalogue& catalogue)
+{
+    return Ask("AllMessages()", modCSVValidator::AllMessages,
+               [&] { return reference::Validate(catalogue); }) &&
+           Ask(
+               "ValidateAll()", [] { return std::int32_t{modCSVValidator::ValidateAll()}; },
+               [&] { return std::int32_t{reference::Validate(catalogue).empty()}; }) &&
+           Ask("NextKolegijID()", modData::NextKolegijID,
+               [&] { return reference::NextKolegijID(catalogue); }) &&
+           CompareLookups(catalogue) && CompareMainWindow(catalogue) && CompareLoad(catalogue) &&
+           CompareExports(catalogue);
+}
+
+bool Comparison::CompareLookups(const reference::Catalogue& catalogue)
+{
+    const std::int32_t id = RandomID(Dice);
+    const std::string argument = "(" + std::to_string(id) + ")";
+    return Ask(
+               "GetSmjeroviKraticeString" + argument, [&] { return modData::GetSmjeroviKraticeString(id); },
+               [&] { return reference::GetSmjeroviKraticeString(catalogue, id); }) &&
+           Ask(
+               "GetNositeljiString" + argument, [&] { return modData::GetNositeljiString(id); },
+               [&] { return reference::GetNositeljiString(catalogue, id); }) &&
+           Ask(
+               "GetNositelji123String" + argument, [&] { return GetNositelji123String(id); },
+               [&] { return reference::GetNositelji123String(catalogue, id); });
+}
+
+bool Comparison::CompareMainWindow(const reference::Catalogue& catalogue)
+{
+    if (!CompareLists({}, "Preddiplomski", catalogue))
+        return false;
+    for (int i = 0; i < 4; ++i)
+        if (!CompareLists(RandomCourseFilter(Dice), RandomRazina(Dice), catalogue))
+            return false;
+    return true;
+}
+
+bool Comparison::CompareLists(const CourseFilter& filter, const std::string& razina,
+                              const reference::Catalogue& catalogue)
+{
+    constexpr std::size_t courseColumns = 11;
+    constexpr std::size_t sumColumns = 7;
+    const bool descending = Dice.PerMille(500);
+    const std::size_t courseColumn = Dice.Below(courseColumns);
+    const std::size_t sumColumn = Dice.Below(sumColumns);
+    const auto courses = [&] { return CourseRows(filter); };
+    const auto plainCourses = [&] { return reference::CourseRows(catalogue, filter); };
+    const auto sums = [&] { return StatistikaRows(filter, razina); };
+    const auto plainSums = [&] { return reference::StatistikaRows(catalogue, filter, razina); };
+    const std::string order = (descending ? " descending by " : " by ") + std::to_string(courseColumn) + "/" +
+                              std::to_string(sumColumn);
+    return Ask("CourseRows" + Shown(filter), courses, plainCourses) &&
+           Ask(
+               "CourseRows" + Shown(filter) + order,
+               [&] {
+                   return SortedAsShown(courses(), {courseColumn, descending});
+               },
+               [&] { return reference::SortedRows(plainCourses(), courseColumn, descending); }) &&
+           Ask("StatistikaRows" + Shown(filter) + razina, sums, plainSums) &&
+           Ask(
+               "StatistikaRows" + Shown(filter) + razina + order,
+               [&] {
+                   return SortedAsShown(sums(), {sumColumn, descending});
+               },
+               [&] { return reference::SortedRows(plainSums(), sumColumn, descending); });
+}
+
+bool Comparison::CompareLoad(const reference::Catalogue& catalogue)
+{
+    constexpr int people = 4;
+    for (int i = 0; i < people; ++i)
+        if (!CompareLoadOf(RandomID(Dice), catalogue))
+            return false;
+    return true;
+}
+
+bool Comparison::CompareLoadOf(std::int32_t id, const reference::Catalogue& catalogue)
+{
+    const LecturerFilter ofLecturer = RandomLecturerFilter(Dice);
+    const DepartmentFilter ofDepartment = RandomDepartmentFilter(Dice);
+    const std::string argument = " of " + std::to_string(id);
+    return Ask(
+               "LecturerCourseRows" + Shown(ofLecturer) + argument,
+               [&] { return LecturerCourseRows(id, ofLecturer); },
+               [&] { return reference::LecturerCourseRows(catalogue, id, ofLecturer); }) &&
+           Ask(
+               "LecturerLoadRows" + Shown(ofLecturer) + argument,
+               [&] { return LecturerLoadRows(id, ofLecturer); },
+               [&] { return reference::LecturerLoadRows(catalogue, id, ofLecturer); }) &&
+           Ask(
+               "DepartmentCourseRows" + Shown(ofDepartment) + argument,
+               [&] { return DepartmentCourseRows(id, ofDepartment); },
+               [&] { return reference::DepartmentCourseRows(catalogue, id, ofDepartment); }) &&
+           Ask(
+               "DepartmentLoadRows" + Shown(ofDepartment) + argument,
+               [&] { return DepartmentLoadRows(id, ofDepartment); },
+               [&] { return reference::DepartmentLoadRows(catalogue, id, ofDepartment); });
+}
+
+bool Comparison::CompareExports(const reference::Catalogue& catalogue)
+{
+    const LecturerFilter ofLecturers = RandomLecturerFilter(Dice);
+    const DepartmentFilter ofDepartments = RandomDepartmentFilter(Dice);
+    const CourseFilter ofSums = RandomCourseFilter(Dice);
+    const std::string razina = RandomRazina(Dice);
+    constexpr std::string_view shown[] = {"LOR", "a,b", "\"Q\"", "a\rb", "a\nb", ";", "", "\r\n,\"", "š漢"};
+    const StatistikaFilters boxes = {razina, std::string(Dice.OneOf(shown)), std::string(Dice.OneOf(shown)),
+                                     std::string(Dice.OneOf(shown))};
+
+    // The bytes that an export leaves in its file.
+    const auto exported = [&](const auto& write)
+    {
+        const std::filesystem::path file = Folder.Path() / "export.csv";
+        std::error_code ignored;
+        std::filesystem::remove(file, ignored);
+        write(Folder.PathOf("export.csv"));
+        return Bytes{ReadBytes(file)};
+    };
+    return Ask(
+               "ExportKolegijiToCSV", [&] { return exported(ExportKolegijiToCSV); },
+               [&] { return Bytes{reference::ExportKolegiji(catalogue)}; }) &&
+           Ask(
+               "ExportAllLecturers" + Shown(ofLecturers),
+               [&]
+               { return exported([&](const std::string& path) { ExportAllLecturers(path, ofLecturers); }); },
+               [&] { return Bytes{reference::ExportAllLecturers(catalogue, ofLecturers)}; }) &&
+           Ask(
+               "ExportAllDepartments" + Shown(ofDepartments),
+               [&] {
+                   return exported([&](const std::string& path)
+                                   { ExportAllDepartments(path, ofDepartments); });
+               },
+               [&] { return Bytes{reference::ExportAllDepartments(catalogue, ofDepartments)}; }) &&
+           Ask(
+               "WriteStatistika" + Shown(ofSums) + razina,
+               [&]
+               {
+                   return exported([&](const std::string& path)
+                                   { WriteStatistika(path, boxes, Texts(StatistikaRows(ofSums, razina))); });
+               },
+               [&] {
+                   return Bytes{reference::ExportStatistika(
+                       boxes, reference::StatistikaRows(catalogue, ofSums, razina))};
+               });
+}
+
+/// Saves and loads anew; the catalogue becomes what is loaded.
+bool Comparison::CompareSaved(reference::Catalogue& catalogue)
+{
+    modData::SaveAllTables();
+    const std::array<std::string, TableFiles.size()> saved = reference::SavedFiles(catalogue);
+    for (std::size_t i = 0; i < saved.size(); ++i)
+        if (!Ask(
+                "the bytes of " + std::string(TableFiles[i]) + " after saving",
+                [&] { return Bytes{ReadBytes(Folder.Data() / TableFiles[i])}; },
+                [&] { return Bytes{saved[i]}; }))
+            return false;
+    return LoadBoth(saved, catalogue);
+}
+
+bool Comparison::EditBoth(reference::Catalogue& catalogue)
+{
+    const CourseEntry entry = RandomEntry(Dice);
+    const std::int32_t id = RandomID(Dice);
+    const auto done = [](const auto& edit)
+    {
+        return [&edit]
+        {
+            edit();
+            return 0;
+        };
+    };
+    switch (Dice.Below(3))
+    {
+    case 0:
+    {
+        const auto add = [&] { AddKolegij(entry); };
+        const auto addPlain = [&] { reference::AddKolegij(catalogue, entry); };
+        return Ask("AddKolegij", done(add), done(addPlain));
+    }
+    case 1:
+    {
+        const auto replace = [&] { ReplaceKolegij(id, entry); };
+        const auto replacePlain = [&] { reference::ReplaceKolegij(catalogue, id, entry); };
+        return Ask("ReplaceKolegij(" + std::to_string(id) + ")", done(replace), done(replacePlain));
+    }
+    default:
+    {
+        const auto remove = [&] { DeleteKolegij(id); };
+        const auto removePlain = [&] { reference::DeleteKolegij(catalogue, id); };
+        return Ask("DeleteKolegij(" + std::to_string(id) + ")", done(remove), done(removePlain));
+    }
+    }
+}

@@ -1,0 +1,157 @@
+#include "differential/Comparison.h"
+#include "support/Catalogue.h"
+#include "support/LoadChecks.h"
+#include "support/TestFolder.h"
+
+#include "data/FileCalls.h"
+#include "data/System.h"
+#include "data/modData.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <map>
+#include <optional>
+#include <string>
+#include <system_error>
+
+// The program and the plain reference are given the same catalogues and asked the same questions.
+// VARLO_CATALOGUES is the number of random catalogues, VARLO_SEED the first one's seed.
+
+namespace
+{
+
+constexpr std::uint64_t FewCatalogues = 300; // what a run of all tests has the time for
+
+std::uint64_t Setting(const char* variable, std::uint64_t otherwise)
+{
+    const std::string value = System::EnvironmentVariable(variable);
+    return value.empty() ? otherwise : std::stoull(value);
+}
+
+/// While it lives, nothing waits for the disk: thousands of files are written here, and none need survive.
+class HastyFiles
+{
+public:
+    HastyFiles()
+    {
+        CurrentFileCalls.FlushToDisk = [](std::FILE* file) { return std::fflush(file) == 0; };
+        CurrentFileCalls.Replace = [](const std::filesystem::path& from, const std::filesystem::path& to)
+        {
+            // Some file systems wait for the disk where a file takes another's place, so there must be none.
+            std::error_code failure;
+            std::filesystem::remove(to, failure);
+            std::filesystem::rename(from, to, failure);
+            return failure;
+        };
+    }
+    ~HastyFiles() { CurrentFileCalls = Former; }
+    HastyFiles(const HastyFiles&) = delete;
+    HastyFiles& operator=(const HastyFiles&) = delete;
+
+private:
+    FileCalls Former = CurrentFileCalls;
+};
+
+/// The first difference that files bring up, with the choices that the seed makes.
+std::optional<Difference> DifferenceOf(const CatalogueFiles& files, std::uint64_t seed)
+{
+    const TestFolder folder;
+    Chance chance(seed);
+    return Comparison(folder, chance).Run(files);
+}
+
+/// The files with every line left out that the difference does not need.
+CatalogueFiles Smallest(CatalogueFiles files, std::uint64_t seed)
+{
+    for (std::string& file : files)
+        for (std::size_t begin = 0; begin < file.size();)
+        {
+            const std::size_t end = std::min(file.find('\n', begin), file.size() - 1) + 1;
+            const std::string whole = file;
+            file.erase(begin, end - begin);
+            if (DifferenceOf(files, seed))
+                continue;
+            file = whole;
+            begin = end;
+        }
+    return files;
+}
+
+std::string Report(const CatalogueFiles& files, std::uint64_t seed)
+{
+    const CatalogueFiles smallest = Smallest(files, seed);
+    const Difference difference = DifferenceOf(smallest, seed).value();
+    return "VARLO_SEED=" + std::to_string(seed) + " VARLO_CATALOGUES=1, " + difference.Question +
+           "\nprogram:\n" + difference.Program + "\nreference:\n" + difference.Reference +
+           "\nfor these files:\n" + AsSource(smallest);
+}
+
+} // namespace
+
+TEST(Differential, RandomCatalogues)
+{
+    const std::uint64_t first = Setting("VARLO_SEED", 1);
+    const std::uint64_t count = Setting("VARLO_CATALOGUES", FewCatalogues);
+    std::cout << count << " catalogues, VARLO_SEED=" << first << std::endl;
+
+    const HastyFiles hasty;
+    const TestFolder folder;
+    std::map<std::string, std::size_t> answers;
+    for (std::uint64_t seed = first; seed < first + count; ++seed)
+    {
+        if (seed > first && (seed - first) % 1000 == 0)
+            std::cout << "VARLO_SEED=" << seed << " is next" << std::endl; // to find the place after a crash
+        Chance making(seed);
+        const CatalogueFiles files = RandomFiles(making);
+        Chance asking(seed);
+        Comparison comparison(folder, asking);
+        if (comparison.Run(files))
+            FAIL() << Report(files, seed);
+        for (const auto& [kind, times] : comparison.Answers())
+            answers[kind] += times;
+    }
+
+    for (const auto& [kind, times] : answers)
+        std::cout << kind << ": " << times << std::endl;
+    // The comparison is worth something only where every way to answer comes up.
+    if (count < FewCatalogues)
+        return;
+    for (const char* kind : {"answer", "error 6", "error 9", "error 13", "error 62"})
+        EXPECT_GT(answers[kind], 0U) << kind;
+}
+
+TEST(Differential, DemoCatalogue)
+{
+    const HastyFiles hasty;
+    const TestFolder folder;
+    CopyDemo(folder);
+    CatalogueFiles files;
+    for (std::size_t i = 0; i < files.size(); ++i)
+        files[i] = ReadBytes(folder.Data() / TableFiles[i]);
+    for (std::uint64_t seed = 1; seed <= 5; ++seed)
+    {
+        Chance asking(seed);
+        if (Comparison(folder, asking).Run(files))
+            FAIL() << Report(files, seed);
+    }
+}
+
+TEST(Differential, ADifferenceIsNoticed)
+{
+    const TestFolder folder;
+    SmallCatalogue().WriteTo(folder.Data());
+    modData::LoadAllTables();
+    const reference::Catalogue catalogue = reference::Load(modData::GetDataFolder());
+    Chance chance(1);
+    Comparison comparison(folder, chance);
+    EXPECT_FALSE(comparison.Compare(catalogue));
+
+    reference::Catalogue other = catalogue;
+    other.KolegijNastavnici.Rows.back().Fields.back() = "2";
+    EXPECT_TRUE(comparison.Compare(other));
+}
