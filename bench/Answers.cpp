@@ -35,7 +35,7 @@ Rows Sorted(const Rows& rows)
 std::string ExportedBytes(Bench& bench, void (*exportAll)(Bench&))
 {
     exportAll(bench);
-    return ReadFile(bench.Place.PathOf("export.csv"));
+    return ReadFile(bench.ExportPath());
 }
 
 } // namespace
@@ -74,7 +74,7 @@ void RequireSameAsSqlite(Bench& bench)
     Require(sqlite.IsValid(), bench, "validate in SQLite");
     Require(sqlite.NextKolegijID() == modData::NextKolegijID(), bench, "next ID in SQLite");
 
-    const std::string path = bench.Place.PathOf("export.csv");
+    const std::string path = bench.ExportPath();
     const std::string lecturers = ExportedBytes(bench, LecturersExport);
     sqlite.ExportAllLecturers(path);
     Require(ReadFile(path) == lecturers, bench, "all-lecturers export in SQLite");

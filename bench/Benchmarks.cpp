@@ -63,7 +63,7 @@ void Register(Bench& bench, const Case& measured)
     registered->UseManualTime()->Unit(benchmark::kMillisecond);
     if (once)
         registered->Iterations(1)->Repetitions(1);
-    else if (measured.Counted != Clock::Processor)
+    else if (measured.Counted == Clock::Wall)
         registered->Iterations(fewTimes);
 }
 
@@ -89,6 +89,8 @@ void Run(const std::filesystem::path& folder, std::string_view sizes, bool quick
                 Register(*bench, measured);
     }
     benchmark::RunSpecifiedBenchmarks();
+    for (const auto& bench : benches)
+        std::filesystem::remove(bench->ExportPath());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "Sqlite.h"
 #include "Workplace.h"
 
+#include "data/System.h"
 #include "lists/Choice.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
@@ -49,6 +50,15 @@ struct Bench
         return paths;
     }
 
+    /// The file that exports go to. Where it can be, it is in memory: what is compared is how it is made, and
+    /// the wait for the disk belongs to saving.
+    std::string ExportPath() const
+    {
+        const std::filesystem::path memory = "/dev/shm";
+        const std::string name = "varlostudiji-" + std::to_string(System::ProcessNumber()) + ".csv";
+        return std::filesystem::is_directory(memory) ? (memory / name).string() : Place.PathOf(name);
+    }
+
     /// A folder for tables that are not to be loaded again.
     std::string OtherFolder() const
     {
@@ -81,7 +91,6 @@ enum class Growth
 enum class Clock
 {
     Processor, ///< The processor time: on a busy machine it does not hold what the others took.
-    Writes,    ///< The same for a case that also writes to the disk, where a few times are enough.
     Wall,      ///< All of it: a case that is to wait for the disk.
 };
 
@@ -103,7 +112,7 @@ std::span<const Case> Cases();
 void RequireSameAsReference(Bench& bench);
 void RequireSameAsSqlite(Bench& bench);
 
-// The exports to "export.csv", with no filter.
+// The exports to the export file, with no filter.
 
 void CatalogueExport(Bench& bench);
 void LecturersExport(Bench& bench);

@@ -2,6 +2,7 @@
 
 #include "data/Windows1250.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -29,13 +30,40 @@ std::string ReadWhole(const std::string& path)
     return bytes;
 }
 
+/// The UTF-8 text of each byte.
+const std::array<std::string, 256>& TextsOfBytes()
+{
+    static const std::array<std::string, 256> texts = []
+    {
+        std::array<std::string, 256> made;
+        for (std::size_t i = 0; i < made.size(); ++i)
+            made[i] = FromWindows1250(std::string(1, static_cast<char>(i)));
+        return made;
+    }();
+    return texts;
+}
+
+std::string Decoded(std::string_view bytes)
+{
+    std::string text;
+    text.reserve(bytes.size() + bytes.size() / 8);
+    for (const char c : bytes)
+    {
+        if (const auto byte = static_cast<unsigned char>(c); byte < 0x80)
+            text += c;
+        else
+            text += TextsOfBytes()[byte];
+    }
+    return text;
+}
+
 } // namespace
 
 std::size_t ReadAndDecode(const std::vector<std::string>& paths)
 {
     std::size_t length = 0;
     for (const std::string& path : paths)
-        length += FromWindows1250(ReadWhole(path)).size();
+        length += Decoded(ReadWhole(path)).size();
     return length;
 }
 

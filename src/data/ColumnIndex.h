@@ -20,22 +20,30 @@ public:
 
     ColumnIndex(std::span<const Row> rows, std::size_t column, Conversion conversion);
 
-    /// The position of the first row with the number, or None.
+    /// The positions of the rows with the number, in table order.
+    std::span<const std::uint32_t> Positions(std::int32_t number) const;
+
+    /// The position of the first of them, or None.
     std::uint32_t First(std::int32_t number) const;
 
-    /// The position of the next row with the same number, or None.
-    std::uint32_t Next(std::uint32_t position) const { return Following[position]; }
+    /// The number of a row that the index covers.
+    std::int32_t NumberAt(std::size_t position) const { return Numbers[position]; }
 
     /// How many rows the index covers.
-    std::size_t Covered() const { return Following.size(); }
+    std::size_t Covered() const { return Numbers.size(); }
 
 private:
-    struct Chain
-    {
-        std::uint32_t First;
-        std::uint32_t Last;
-    };
+    std::uint32_t PlaceOf(std::int32_t number) const;
+    void GivePlaces();
+    void GroupPositions();
 
-    std::unordered_map<std::int32_t, Chain> Chains;
-    std::vector<std::uint32_t> Following;
+    std::vector<std::int32_t> Numbers; // by position
+
+    // Each number has a place. Identifiers are mostly given one after the other: then it follows from the
+    // number, which is several times as fast as a map; numbers that lie far apart need the map.
+    std::int64_t Smallest = 0;
+    std::unordered_map<std::int32_t, std::uint32_t> Places;
+
+    std::vector<std::uint32_t> Begins;  // by place: where its group of positions begins; one more behind all
+    std::vector<std::uint32_t> Grouped; // the positions
 };

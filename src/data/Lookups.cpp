@@ -109,7 +109,9 @@ void GetNositelji123(std::int32_t kolegijId, std::string& first, std::string& se
 
 std::vector<PlacedNastavnik> GetNastavniciForKolegij(std::int32_t kolegijId)
 {
+    constexpr std::size_t usualCount = 4;
     std::vector<PlacedNastavnik> found;
+    found.reserve(usualCount);
     KolegijNastavnici.ForEachMatch(
         KolegijNastavnik::KolegijID, kolegijId,
         [&](const Row& link)

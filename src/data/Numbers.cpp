@@ -46,10 +46,25 @@ int CompareWithHalf(std::string_view fraction)
     return more ? 1 : 0;
 }
 
+/// Reads a text of nothing but a few digits, as nearly all numbers in the files are; false for any other. The
+/// whole rule takes three times as long.
+bool ReadPlainDigits(std::string_view text, std::int32_t& value)
+{
+    constexpr std::size_t mostThatFit = 9;
+    if (text.empty() || text.size() > mostThatFit || !IsDigits(text))
+        return false;
+    value = 0;
+    for (const char digit : text)
+        value = value * 10 + (digit - '0');
+    return true;
+}
+
 } // namespace
 
 NumberReading ReadLong(std::string_view text, std::int32_t& value)
 {
+    if (ReadPlainDigits(text, value))
+        return NumberReading::Whole;
     Decimal decimal;
     if (!SplitDecimal(text, decimal))
         return NumberReading::NotNumeric;

@@ -12,6 +12,12 @@ namespace
 /// The line of a row that was entered in the program.
 constexpr std::uint32_t EnteredLine = 0;
 
+std::uint64_t NextRevision()
+{
+    static std::uint64_t last = 0;
+    return ++last;
+}
+
 } // namespace
 
 std::string TableLayout::Header() const
@@ -22,13 +28,9 @@ std::string TableLayout::Header() const
     return header;
 }
 
-std::string_view Row::Field(std::size_t column) const
+void Row::ThrowTooShort(std::size_t column) const
 {
-    if (column >= Count)
-        throw SubscriptOutOfRange({Layout->FileName, Line, Layout->Columns[column]});
-    const char* text = reinterpret_cast<const char*>(Ends + Count);
-    const std::uint32_t begin = column == 0 ? 0 : Ends[column - 1];
-    return {text + begin, Ends[column] - begin};
+    throw SubscriptOutOfRange({Layout->FileName, Line, Layout->Columns[column]});
 }
 
 std::int32_t Row::Number(std::size_t column, Conversion conversion) const
@@ -48,14 +50,15 @@ std::int32_t Row::Number(std::size_t column, Conversion conversion) const
 Table::Table(const TableLayout& layout)
     : TableColumns(&layout),
       Memory(std::make_unique<std::pmr::monotonic_buffer_resource>()),
-      Indexes(layout.Columns.size())
+      Indexes(layout.Columns.size()),
+      ContentRevision(NextRevision())
 {
 }
 
 void Table::Append(std::span<const std::string_view> fields, std::uint32_t line)
 {
     Rows.push_back(NewRow(fields, line));
-    ForgetIndexes();
+    ContentChanged();
 }
 
 void Table::Append(const std::vector<std::string>& fields)
@@ -66,7 +69,7 @@ void Table::Append(const std::vector<std::string>& fields)
 void Table::Replace(std::size_t position, const std::vector<std::string>& fields)
 {
     Rows[position] = NewRow(std::vector<std::string_view>(fields.begin(), fields.end()), EnteredLine);
-    ForgetIndexes();
+    ContentChanged();
 }
 
 void Table::RemoveMatches(std::size_t column, std::int32_t number)
@@ -76,7 +79,7 @@ void Table::RemoveMatches(std::size_t column, std::int32_t number)
     std::ranges::copy_if(Rows, std::back_inserter(kept),
                          [&](const Row& row) { return row.Number(column) != number; });
     Rows.swap(kept);
-    ForgetIndexes();
+    ContentChanged();
 }
 
 const Row* Table::FindFirst(std::size_t column, std::int32_t number, Conversion conversion) const
@@ -94,6 +97,13 @@ std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t 
         return position;
     RequireCovered(index, column);
     return std::nullopt;
+}
+
+std::int32_t Table::NumberOf(const Row& row, std::size_t column, Conversion conversion) const
+{
+    const ColumnIndex& index = IndexOf(column, conversion);
+    const std::size_t position = PositionOf(row);
+    return position < index.Covered() ? index.NumberAt(position) : row.Number(column, conversion);
 }
 
 Row Table::NewRow(std::span<const std::string_view> fields, std::uint32_t line)
@@ -125,7 +135,10 @@ const ColumnIndex& Table::IndexOf(std::size_t column, Conversion conversion) con
 {
     std::optional<ColumnIndex>& index = Indexes[column][static_cast<std::size_t>(conversion)];
     if (!index)
+    {
         index.emplace(Rows, column, conversion);
+        HasIndexes = true;
+    }
     return *index;
 }
 
@@ -136,8 +149,12 @@ void Table::RequireCovered(const ColumnIndex& index, std::size_t column) const
         Rows[index.Covered()].Number(column); // throws: that row is not covered because it cannot be read
 }
 
-void Table::ForgetIndexes()
+void Table::ContentChanged()
 {
+    ContentRevision = NextRevision();
+    if (!HasIndexes) // as for each row but the first while a table is loaded
+        return;
+    HasIndexes = false;
     for (auto& ofColumn : Indexes)
         ofColumn = {};
 }

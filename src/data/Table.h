@@ -32,7 +32,14 @@ public:
     std::size_t FieldCount() const { return Count; }
 
     /// A field exactly as stored. @throws SubscriptOutOfRange when the row is too short
-    std::string_view Field(std::size_t column) const;
+    std::string_view Field(std::size_t column) const
+    {
+        if (column >= Count)
+            ThrowTooShort(column);
+        const char* text = reinterpret_cast<const char*>(Ends + Count);
+        const std::uint32_t begin = column == 0 ? 0 : Ends[column - 1];
+        return {text + begin, Ends[column] - begin};
+    }
 
     /// A field as a whole number. @throws SubscriptOutOfRange when the row is too short, and where the
     /// conversion is strict TypeMismatch and Overflow, each naming the place
@@ -40,6 +47,8 @@ public:
 
 private:
     friend class Table;
+
+    [[noreturn]] void ThrowTooShort(std::size_t column) const;
 
     const TableLayout* Layout = nullptr;
     const std::uint32_t* Ends = nullptr; // where each field ends in the text, which follows them
@@ -54,8 +63,14 @@ public:
     explicit Table(const TableLayout& layout);
 
     const TableLayout& Layout() const { return *TableColumns; }
+
+    /// A number that no table's content before this one has had: what was made from the table holds as long
+    /// as it stays.
+    std::uint64_t Revision() const { return ContentRevision; }
+
     std::size_t RowCount() const { return Rows.size(); }
     const Row& operator[](std::size_t position) const { return Rows[position]; }
+    std::size_t PositionOf(const Row& row) const { return static_cast<std::size_t>(&row - Rows.data()); }
     auto begin() const { return Rows.begin(); }
     auto end() const { return Rows.end(); }
 
@@ -82,6 +97,10 @@ public:
     std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number,
                                             Conversion conversion = Conversion::Strict) const;
 
+    /// A row's field as a whole number, from the index of its column: for going through many rows out of
+    /// order, which would wait for the memory of each. @throws as Row::Number
+    std::int32_t NumberOf(const Row& row, std::size_t column, Conversion conversion) const;
+
     /// Calls `test` with each row that holds the number in the column, in table order, until one answers
     /// true; returns whether one did. @throws as FindFirst, once the rows before the faulty one are tested
     template<typename Test>
@@ -89,8 +108,8 @@ public:
                   Conversion conversion = Conversion::Strict) const
     {
         const ColumnIndex& index = IndexOf(column, conversion);
-        for (std::uint32_t at = index.First(number); at != ColumnIndex::None; at = index.Next(at))
-            if (test(Rows[at]))
+        for (const std::uint32_t position : index.Positions(number))
+            if (test(Rows[position]))
                 return true;
         RequireCovered(index, column);
         return false;
@@ -113,11 +132,13 @@ private:
     Row NewRow(std::span<const std::string_view> fields, std::uint32_t line);
     const ColumnIndex& IndexOf(std::size_t column, Conversion conversion) const;
     void RequireCovered(const ColumnIndex& index, std::size_t column) const;
-    void ForgetIndexes();
+    void ContentChanged();
 
     const TableLayout* TableColumns;
     std::unique_ptr<std::pmr::monotonic_buffer_resource> Memory; // the fields of all rows
     std::vector<Row> Rows;
     mutable std::vector<std::array<std::optional<ColumnIndex>, 2>> Indexes; // by column and conversion,
                                                                             // each built when first needed
+    mutable bool HasIndexes = false;
+    std::uint64_t ContentRevision;
 };

@@ -33,10 +33,9 @@ struct Lead
     char32_t Smallest; // a longer form than needed is no character
 };
 
+/// What the first byte of a character beyond ASCII says of it.
 Lead ReadLead(std::uint8_t byte)
 {
-    if (byte < 0x80)
-        return {0, byte, 0};
     if (byte >= 0xC2 && byte < 0xE0)
         return {1, byte & 0x1FU, 0x80};
     if (byte >= 0xE0 && byte < 0xF0)
@@ -49,6 +48,11 @@ Lead ReadLead(std::uint8_t byte)
 bool IsCharacter(char32_t code)
 {
     return code < 0x110000 && !(code >= 0xD800 && code < 0xE000);
+}
+
+char32_t UpperCase(char32_t character)
+{
+    return character < UpperTableSize ? UpperTable[character] : character;
 }
 
 } // namespace
@@ -66,20 +70,26 @@ std::string UpperCase(std::string_view text)
     std::string upper;
     upper.reserve(text.size());
     while (!text.empty())
-    {
-        const char32_t character = TakeCodePoint(text);
-        AppendCodePoint(upper, character < UpperTableSize ? UpperTable[character] : character);
-    }
+        AppendCodePoint(upper, UpperCase(TakeCodePoint(text)));
     return upper;
 }
 
 bool IsWord(std::string_view text, std::string_view upperCaseWord)
 {
-    return UpperCase(TrimBlanks(text)) == upperCaseWord;
+    text = TrimBlanks(text);
+    while (!text.empty() && !upperCaseWord.empty())
+        if (UpperCase(TakeCodePoint(text)) != TakeCodePoint(upperCaseWord))
+            return false;
+    return text.empty() && upperCaseWord.empty();
 }
 
 char32_t TakeCodePoint(std::string_view& text)
 {
+    if (const auto first = static_cast<std::uint8_t>(text.front()); first < 0x80)
+    {
+        text.remove_prefix(1); // most characters
+        return first;
+    }
     const auto [followers, bits, smallest] = ReadLead(static_cast<std::uint8_t>(text.front()));
     char32_t code = bits;
     text.remove_prefix(1);

@@ -9,3 +9,6 @@ std::string FromWindows1250(std::string_view bytes);
 
 /// The windows-1250 bytes of a UTF-8 text; "?" for each character that windows-1250 lacks.
 std::string ToWindows1250(std::string_view text);
+
+/// Appends those bytes.
+void AppendWindows1250(std::string& bytes, std::string_view text);

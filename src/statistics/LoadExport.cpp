@@ -8,14 +8,15 @@ void AddLoadHeader(TextFile& file, std::string_view firstColumn)
     file.AddLine(std::string(firstColumn) + ";Semestar;Tip;P;S;V;ECTS;Broj kolegija");
 }
 
-void AddLoadBlock(TextFile& file, std::string_view name, const std::vector<ListRow>& rows)
+void AddLoadBlock(TextFile& file, std::string_view name, const std::vector<LoadLine>& lines)
 {
-    for (const ListRow& row : rows)
+    std::string text;
+    for (const LoadLine& line : lines)
     {
-        std::string line(name);
-        for (const ListCell& cell : row)
-            line.append(";").append(cell.Text);
-        file.AddLine(line);
+        text.assign(name).append(";").append(line.First).append(";").append(line.Second);
+        for (const std::int32_t number : line.Sums.Numbers())
+            text.append(";").append(std::to_string(number));
+        file.AddLine(text);
     }
     file.AddLine("");
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListRow.h"
+#include "statistics/LoadTable.h"
 
 #include <string>
 #include <string_view>
@@ -13,9 +13,9 @@ class TextFile;
 /// The header: what the first column names, then the table's columns.
 void AddLoadHeader(TextFile& file, std::string_view firstColumn);
 
-/// The table of one lecturer or department: a line per row, the name before it, and an empty line behind the
-/// last. Nothing is quoted: a ";" in a name stays as it is.
-void AddLoadBlock(TextFile& file, std::string_view name, const std::vector<ListRow>& rows);
+/// The table of one lecturer or department, the name before each line, and an empty line behind the last.
+/// Nothing is quoted: a ";" in a name stays as it is.
+void AddLoadBlock(TextFile& file, std::string_view name, const std::vector<LoadLine>& lines);
 
 /// The path with ".csv" behind it, unless it ends so in any case.
 std::string WithCsvEnding(std::string path);

@@ -3,6 +3,7 @@
 #include "data/Numbers.h"
 #include "data/Text.h"
 
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -20,13 +21,7 @@ struct NamedTip
 
 constexpr NamedTip Types[] = {{Tip::Obvezni, "Obvezni"}, {Tip::Izborni, "Izborni"}};
 
-ListRow LoadRow(std::string_view first, std::string_view second, const Load& load, bool bold)
-{
-    std::vector<std::string> texts = {std::string(first), std::string(second)};
-    for (const std::int32_t number : {load.P, load.S, load.V, load.ECTS, load.Kolegija})
-        texts.push_back(std::to_string(number));
-    return UniformRow(std::move(texts), Black, bold);
-}
+constexpr std::string_view SemesterTexts[MostSemesters] = {"1", "2", "3", "4", "5", "6"};
 
 } // namespace
 
@@ -74,19 +69,19 @@ Load LoadSums::Total(Tip tip, int last) const
     return total;
 }
 
-std::vector<ListRow> LoadRows(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range)
+std::vector<LoadLine> LoadLines(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range)
 {
-    std::vector<ListRow> rows;
+    std::vector<LoadLine> lines;
+    lines.reserve((MostSemesters + 1) * std::size(Types) + 1);
     for (int semestar = 1; semestar <= range.Last; ++semestar)
     {
         if (range.Only != 0 && semestar != range.Only)
             continue;
+        const std::string_view text = SemesterTexts[semestar - 1];
         for (const auto& [tip, name] : Types)
         {
             const Load& load = sums.Of(semestar, tip);
-            rows.push_back(LoadRow(std::to_string(semestar), name, load, false));
-            if (style.FlagsOverfull && load.ECTS > FullSemesterEcts)
-                rows.back()[EctsColumn].Colour = Red;
+            lines.push_back({text, name, load, false, load.ECTS > FullSemesterEcts});
         }
     }
 
@@ -94,9 +89,25 @@ std::vector<ListRow> LoadRows(const LoadSums& sums, const LoadTableStyle& style,
     for (const auto& [tip, name] : Types)
     {
         const Load total = sums.Total(tip, range.Last);
-        rows.push_back(LoadRow(style.TypeTotal, name, total, true));
+        lines.push_back({style.TypeTotal, name, total, true, false});
         grandTotal += total;
     }
-    rows.push_back(LoadRow(style.GrandTotal, style.AllTypes, grandTotal, true));
+    lines.push_back({style.GrandTotal, style.AllTypes, grandTotal, true, false});
+    return lines;
+}
+
+std::vector<ListRow> LoadRows(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range)
+{
+    std::vector<ListRow> rows;
+    for (const LoadLine& line : LoadLines(sums, style, range))
+    {
+        ListRow& row = rows.emplace_back();
+        row.Add(line.First, Black, line.IsTotal);
+        row.Add(line.Second, Black, line.IsTotal);
+        for (const std::int32_t number : line.Sums.Numbers())
+            row.Add(std::to_string(number), Black, line.IsTotal);
+        if (style.FlagsOverfull && line.IsOverfull)
+            row.SetColour(EctsColumn, Red);
+    }
     return rows;
 }

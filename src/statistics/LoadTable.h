@@ -13,7 +13,7 @@
 // semester and type, with totals per type and over all.
 
 /// A course's type, as the table counts it.
-enum class Tip : std::size_t
+enum class Tip : std::uint8_t
 {
     Obvezni,
     Izborni,
@@ -43,6 +43,9 @@ struct Load
 
     /// The load that many times over. @throws Overflow
     Load Times(std::int32_t weight) const;
+
+    /// The five numbers in the order of the table's columns.
+    std::array<std::int32_t, 5> Numbers() const { return {P, S, V, ECTS, Kolegija}; }
 };
 
 inline constexpr int MostSemesters = 6;
@@ -82,6 +85,19 @@ struct SemesterRange
     int Last = MostSemesters;
     int Only = 0; ///< 0 for all.
 };
+
+/// One row of the table before it is text.
+struct LoadLine
+{
+    std::string_view First;  ///< The semester, or what the total is of.
+    std::string_view Second; ///< The type.
+    Load Sums;
+    bool IsTotal;
+    bool IsOverfull; ///< More than 30 ECTS for one type in one semester.
+};
+
+/// The table's lines, in the order of LoadRows. @throws Overflow
+std::vector<LoadLine> LoadLines(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range = {});
 
 /// The table's rows: per semester the compulsory and the elective sums, then three bold rows of totals.
 /// Cells: semester, type, P, S, V, ECTS, number of courses; the ECTS of an overfull row are red. @throws

@@ -2,7 +2,6 @@
 
 #include "data/Lookups.h"
 
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,21 +22,22 @@ ListRow TaughtCourseRow(const Row& kolegij, std::int32_t kolegijID, std::int32_t
         texts.emplace_back(kolegij.Field(column));
     texts.push_back(modData::GetStudijKratica(studijID));
     texts.push_back(modData::GetNositeljiString(kolegijID));
-    return UniformRow(std::move(texts), ElectiveColour(kolegij.Field(Kolegij::Tip)));
+    return UniformRow(texts, ElectiveColour(kolegij.Field(Kolegij::Tip)));
 }
 
-void CountCourse(LoadSums& sums, const Row& kolegij, const CountingRules& rules)
+std::optional<CourseLoad> CourseLoadOf(const Row& kolegij, const CountingRules& rules)
 {
     const std::int32_t semestar = kolegij.Number(Kolegij::Semestar, rules.Semestar);
     if (semestar < 1 || semestar > MostSemesters)
-        return;
+        return std::nullopt;
     const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), rules.Others);
     if (!tip)
-        return;
-    sums.Add(semestar, *tip,
-             {.P = kolegij.Number(Kolegij::P, rules.Hours),
-              .S = kolegij.Number(Kolegij::S, rules.Hours),
-              .V = kolegij.Number(Kolegij::V, rules.Hours),
-              .ECTS = kolegij.Number(Kolegij::ECTS, rules.Hours),
-              .Kolegija = 1});
+        return std::nullopt;
+    return CourseLoad{semestar,
+                      *tip,
+                      {.P = kolegij.Number(Kolegij::P, rules.Hours),
+                       .S = kolegij.Number(Kolegij::S, rules.Hours),
+                       .V = kolegij.Number(Kolegij::V, rules.Hours),
+                       .ECTS = kolegij.Number(Kolegij::ECTS, rules.Hours),
+                       .Kolegija = 1}};
 }

@@ -7,6 +7,8 @@
 #include "statistics/LoadTable.h"
 
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 // What the statistics of lecturers and of departments share: who teaches what, the rows of their course
 // lists, and how a course is counted.
@@ -29,9 +31,40 @@ struct CountingRules
     OtherTypes Others;
 };
 
-/// Adds a course to the sums; one outside the semesters 1 to 6 is left out.
-/// @throws Overflow; TypeMismatch where a conversion is strict; SubscriptOutOfRange
-void CountCourse(LoadSums& sums, const Row& kolegij, const CountingRules& rules);
+/// What a course adds to the sums.
+struct CourseLoad
+{
+    std::int32_t Semestar;
+    Tip Type;
+    Load Adds;
+};
+
+/// What a course adds to the sums; nothing outside the semesters 1 to 6.
+/// @throws TypeMismatch, Overflow where a conversion is strict; SubscriptOutOfRange
+std::optional<CourseLoad> CourseLoadOf(const Row& kolegij, const CountingRules& rules);
+
+/// Keeps what courses add to the sums while an export is made: each comes once for every lecturer of it, and
+/// reading its numbers anew each time would be half of the export's work.
+class CourseLoads
+{
+public:
+    CourseLoads() : Known(modData::Kolegiji.RowCount()) {}
+
+    /// Adds what `workOut` gives for a row of the program's courses, if anything; it is asked but once.
+    /// @throws Overflow, and as `workOut`
+    template<typename WorkOut>
+    void AddTo(LoadSums& sums, const Row& kolegij, const WorkOut& workOut)
+    {
+        std::optional<std::optional<CourseLoad>>& known = Known.at(modData::Kolegiji.PositionOf(kolegij));
+        if (!known)
+            known = workOut(kolegij);
+        if (const std::optional<CourseLoad>& load = *known)
+            sums.Add(load->Semestar, load->Type, load->Adds);
+    }
+
+private:
+    std::vector<std::optional<std::optional<CourseLoad>>> Known; // by the course's position
+};
 
 /// Calls `visit` with each course that a lecturer is linked to, once per link, in the order of the links,
 /// whatever the role. @throws TypeMismatch, Overflow where the conversion is strict; SubscriptOutOfRange
@@ -40,7 +73,8 @@ void ForEachTaughtCourse(std::int32_t nastavnikID, Conversion conversion, const 
 {
     const auto visitLinked = [&](const Row& link)
     {
-        const std::int32_t kolegijID = link.Number(KolegijNastavnik::KolegijID, conversion);
+        const std::int32_t kolegijID =
+            modData::KolegijNastavnici.NumberOf(link, KolegijNastavnik::KolegijID, conversion);
         modData::Kolegiji.ForEachMatch(Kolegij::ID, kolegijID, visit, conversion);
     };
     modData::KolegijNastavnici.ForEachMatch(KolegijNastavnik::NastavnikID, nastavnikID, visitLinked,

@@ -5,7 +5,6 @@
 #include "data/modData.h"
 
 #include <string_view>
-#include <unordered_set>
 
 namespace modCSVValidator
 {
@@ -17,6 +16,12 @@ constexpr std::int32_t FirstSemestar = 1;
 constexpr std::int32_t LastSemestar = 6;
 constexpr std::int32_t FirstRedoslijed = 1;
 constexpr std::int32_t LastRedoslijed = 3;
+
+/// True when a row before this one has its ID, which is in the first column and has been read already.
+bool IsDuplicate(const Table& table, const Row& row, std::int32_t id)
+{
+    return table.FindPosition(0, id) < table.PositionOf(row);
+}
 
 /// "Table: column ne postoji › value", the value as it stands in the file.
 std::string Missing(std::string_view what, std::string_view value)
@@ -58,11 +63,10 @@ bool KolegijExists(std::int32_t id)
 
 void CheckNastavnici(Messages& messages)
 {
-    std::unordered_set<std::int32_t> seen;
     for (const Row& row : modData::Nastavnici)
     {
         const std::int32_t id = row.Number(Nastavnik::ID);
-        if (!seen.insert(id).second)
+        if (IsDuplicate(modData::Nastavnici, row, id))
             messages.push_back("Nastavnici: dupli ID_nastavnik = " + std::to_string(id));
         if (TrimBlanks(row.Field(Nastavnik::PrezimeIme)).empty())
             messages.push_back("Nastavnici: prazno ime za ID " + std::to_string(id));
@@ -73,11 +77,10 @@ void CheckNastavnici(Messages& messages)
 
 void CheckKolegiji(Messages& messages)
 {
-    std::unordered_set<std::int32_t> seen;
     for (const Row& row : modData::Kolegiji)
     {
         const std::int32_t id = row.Number(Kolegij::ID);
-        if (!seen.insert(id).second)
+        if (IsDuplicate(modData::Kolegiji, row, id))
             messages.push_back("Kolegiji: dupli ID_kolegij = " + std::to_string(id));
 
         // The conversion comes first on purpose: a semester that is no number ends the check as an error,

@@ -49,8 +49,8 @@ auto Scan(const Table& table, std::int32_t number, Conversion conversion, bool s
 /// Rows whose second field is mostly a number, in one of its forms, and sometimes none, or is missing.
 Table RandomTable(std::mt19937& random)
 {
-    constexpr std::string_view values[] = {"0", "1", "2",     "3",  " 1 ", "01",  "2,0",
-                                           "3", "3", "+2.50", "-0", "",    "bad", "99999999999"};
+    constexpr std::string_view values[] = {"0", "1",     "2",  "3", " 1 ", "01",          "2,0",
+                                           "3", "+2.50", "-0", "",  "bad", "99999999999", "2000000000"};
     Table table(modData::KolegijSmjerovi.Layout());
     const auto end = static_cast<std::uint32_t>(2 + random() % 8);
     for (std::uint32_t line = 2; line < end; ++line)
@@ -69,7 +69,7 @@ TEST(ColumnIndex, FindsWhatReadingRowByRowFinds)
     {
         const Table table = RandomTable(random);
         for (const Conversion conversion : {Conversion::Strict, Conversion::Safe})
-            for (std::int32_t number = -1; number < 5; ++number)
+            for (const std::int32_t number : {-1, 0, 1, 2, 3, 4, 2000000000})
             {
                 const auto first = [&](const auto& visit)
                 {

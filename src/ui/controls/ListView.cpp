@@ -96,7 +96,7 @@ int ListView::ColumnWidth(int column) const
     return Native->ColumnWidth(column);
 }
 
-const ListCell& ListView::Cell(int row, int column) const
+ListCell ListView::Cell(int row, int column) const
 {
     return Rows.at(Index(row)).at(Index(column));
 }

@@ -58,7 +58,7 @@ public:
     void ClickColumn(int column);
     void ActivateRow(int row);
 
-    const ListCell& Cell(int row, int column) const;
+    ListCell Cell(int row, int column) const;
 
 protected:
     wxSize DoGetBestClientSize() const override;

@@ -20,20 +20,29 @@ bool PassesRazina(std::int32_t studijID, std::string_view wanted)
     return studij != nullptr && studij->Field(Studij::Razina) == wanted;
 }
 
-template<typename Visit>
-void ForEachPassingCourse(std::int32_t zavodID, const DepartmentFilter& filter, const Visit& visit)
+bool Passes(const Row& kolegij, const DepartmentFilter& filter)
 {
-    const auto visitPassing = [&](const Row& kolegij)
-    {
-        if (PassesSemestar(kolegij.Number(Kolegij::Semestar, Conversion::Safe), filter.Semestar) &&
-            PassesRazina(kolegij.Number(Kolegij::StudijID, Conversion::Safe), filter.Razina))
-            visit(kolegij);
-    };
-    const auto visitTaught = [&](const Row& nastavnik) {
-        ForEachTaughtCourse(nastavnik.Number(Nastavnik::ID, Conversion::Safe), Conversion::Safe,
-                            visitPassing);
-    };
+    return PassesSemestar(kolegij.Number(Kolegij::Semestar, Conversion::Safe), filter.Semestar) &&
+           PassesRazina(kolegij.Number(Kolegij::StudijID, Conversion::Safe), filter.Razina);
+}
+
+/// Calls `visit` with each course of each of the department's lecturers.
+template<typename Visit>
+void ForEachCourse(std::int32_t zavodID, const Visit& visit)
+{
+    const auto visitTaught = [&](const Row& nastavnik)
+    { ForEachTaughtCourse(nastavnik.Number(Nastavnik::ID, Conversion::Safe), Conversion::Safe, visit); };
     modData::Nastavnici.ForEachMatch(Nastavnik::ZavodID, zavodID, visitTaught, Conversion::Safe);
+}
+
+LoadSums SumsOf(std::int32_t zavodID, const DepartmentFilter& filter, CourseLoads& loads)
+{
+    const auto passingLoad = [&](const Row& kolegij)
+    { return Passes(kolegij, filter) ? CourseLoadOf(kolegij, SafeRules) : std::nullopt; };
+
+    LoadSums sums;
+    ForEachCourse(zavodID, [&](const Row& kolegij) { loads.AddTo(sums, kolegij, passingLoad); });
+    return sums;
 }
 
 } // namespace
@@ -41,31 +50,33 @@ void ForEachPassingCourse(std::int32_t zavodID, const DepartmentFilter& filter, 
 std::vector<ListRow> DepartmentCourseRows(std::int32_t zavodID, const DepartmentFilter& filter)
 {
     std::vector<ListRow> rows;
-    ForEachPassingCourse(zavodID, filter,
-                         [&](const Row& kolegij)
-                         {
-                             rows.push_back(
-                                 TaughtCourseRow(kolegij, kolegij.Number(Kolegij::ID, Conversion::Safe),
-                                                 kolegij.Number(Kolegij::StudijID, Conversion::Safe)));
-                         });
+    ForEachCourse(zavodID,
+                  [&](const Row& kolegij)
+                  {
+                      if (Passes(kolegij, filter))
+                          rows.push_back(
+                              TaughtCourseRow(kolegij, kolegij.Number(Kolegij::ID, Conversion::Safe),
+                                              kolegij.Number(Kolegij::StudijID, Conversion::Safe)));
+                  });
     return rows;
 }
 
 std::vector<ListRow> DepartmentLoadRows(std::int32_t zavodID, const DepartmentFilter& filter)
 {
-    LoadSums sums;
-    ForEachPassingCourse(zavodID, filter, [&](const Row& kolegij) { CountCourse(sums, kolegij, SafeRules); });
-    return LoadRows(sums, PlainStyle);
+    CourseLoads loads;
+    return LoadRows(SumsOf(zavodID, filter, loads), PlainStyle);
 }
 
 void ExportAllDepartments(std::string_view path, const DepartmentFilter& filter)
 {
     TextFile file;
     AddLoadHeader(file, "Zavod");
+    CourseLoads loads;
     for (const Row& zavod : modData::Zavodi)
     {
         const std::string_view name = zavod.Field(Zavod::Naziv);
-        AddLoadBlock(file, name, DepartmentLoadRows(zavod.Number(Zavod::ID, Conversion::Safe), filter));
+        const LoadSums sums = SumsOf(zavod.Number(Zavod::ID, Conversion::Safe), filter, loads);
+        AddLoadBlock(file, name, LoadLines(sums, PlainStyle));
     }
     file.SaveAs(path);
 }

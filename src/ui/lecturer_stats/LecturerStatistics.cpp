@@ -23,23 +23,16 @@ bool Passes(const Row& kolegij, const LecturerFilter& filter)
            (filter.Program == Svi || filter.Program == kratica);
 }
 
-template<typename Visit>
-void ForEachPassingCourse(std::int32_t nastavnikID, const LecturerFilter& filter, const Visit& visit)
+LoadSums SumsOf(std::int32_t nastavnikID, const LecturerFilter& filter, const CountingRules& rules,
+                CourseLoads& loads)
 {
-    ForEachTaughtCourse(nastavnikID, Conversion::Strict,
-                        [&](const Row& kolegij)
-                        {
-                            if (Passes(kolegij, filter))
-                                visit(kolegij);
-                        });
-}
+    const auto passingLoad = [&](const Row& kolegij)
+    { return Passes(kolegij, filter) ? CourseLoadOf(kolegij, rules) : std::nullopt; };
 
-std::vector<ListRow> LoadRowsOf(std::int32_t nastavnikID, const LecturerFilter& filter,
-                                const CountingRules& rules)
-{
     LoadSums sums;
-    ForEachPassingCourse(nastavnikID, filter, [&](const Row& kolegij) { CountCourse(sums, kolegij, rules); });
-    return LoadRows(sums, FlaggingStyle);
+    ForEachTaughtCourse(nastavnikID, Conversion::Strict,
+                        [&](const Row& kolegij) { loads.AddTo(sums, kolegij, passingLoad); });
+    return sums;
 }
 
 } // namespace
@@ -47,28 +40,32 @@ std::vector<ListRow> LoadRowsOf(std::int32_t nastavnikID, const LecturerFilter& 
 std::vector<ListRow> LecturerCourseRows(std::int32_t nastavnikID, const LecturerFilter& filter)
 {
     std::vector<ListRow> rows;
-    ForEachPassingCourse(nastavnikID, filter,
-                         [&](const Row& kolegij)
-                         {
-                             rows.push_back(TaughtCourseRow(kolegij, kolegij.Number(Kolegij::ID),
-                                                            kolegij.Number(Kolegij::StudijID)));
-                         });
+    ForEachTaughtCourse(nastavnikID, Conversion::Strict,
+                        [&](const Row& kolegij)
+                        {
+                            if (Passes(kolegij, filter))
+                                rows.push_back(TaughtCourseRow(kolegij, kolegij.Number(Kolegij::ID),
+                                                               kolegij.Number(Kolegij::StudijID)));
+                        });
     return rows;
 }
 
 std::vector<ListRow> LecturerLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter)
 {
-    return LoadRowsOf(nastavnikID, filter, ShownRules);
+    CourseLoads loads;
+    return LoadRows(SumsOf(nastavnikID, filter, ShownRules, loads), FlaggingStyle);
 }
 
 void ExportAllLecturers(std::string_view path, const LecturerFilter& filter)
 {
     TextFile file;
     AddLoadHeader(file, "Nastavnik");
+    CourseLoads loads;
     for (const Row& nastavnik : modData::Nastavnici)
     {
         const std::string_view name = nastavnik.Field(Nastavnik::PrezimeIme);
-        AddLoadBlock(file, name, LoadRowsOf(nastavnik.Number(Nastavnik::ID), filter, ExportRules));
+        const LoadSums sums = SumsOf(nastavnik.Number(Nastavnik::ID), filter, ExportRules, loads);
+        AddLoadBlock(file, name, LoadLines(sums, FlaggingStyle));
     }
     file.SaveAs(path);
 }

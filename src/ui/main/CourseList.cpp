@@ -3,6 +3,7 @@
 #include "data/Lookups.h"
 #include "data/Text.h"
 #include "data/modData.h"
+#include "ui/main/SearchTexts.h"
 
 #include <array>
 #include <utility>
@@ -22,16 +23,17 @@ bool Passes(const Row& kolegij, const CourseFilter& filter, std::string_view sea
            (filter.SmjerID == 0 || KolegijHasSmjer(kolegij.Number(Kolegij::ID), filter.SmjerID));
 }
 
-ListRow CourseRow(const Row& kolegij)
+void FillCourseRow(ListRow& row, const Row& kolegij)
 {
     const std::int32_t id = kolegij.Number(Kolegij::ID);
-    std::vector<std::string> texts = {std::string(kolegij.Field(Kolegij::ID))};
+    row.clear();
+    row.Add(kolegij.Field(Kolegij::ID));
     for (const Kolegij::Column column : ShownFields)
-        texts.emplace_back(kolegij.Field(column));
-    texts.push_back(modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID)));
-    texts.push_back(GetSmjeroviForKolegijString(id));
-    texts.push_back(GetNastavniciForKolegijString(id));
-    return UniformRow(std::move(texts), ElectiveColour(kolegij.Field(Kolegij::Tip)));
+        row.Add(kolegij.Field(column));
+    row.Add(modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID)));
+    row.Add(GetSmjeroviForKolegijString(id));
+    row.Add(GetNastavniciForKolegijString(id));
+    row.SetColour(ElectiveColour(kolegij.Field(Kolegij::Tip)));
 }
 
 } // namespace
@@ -40,21 +42,21 @@ std::vector<ListRow> CourseRows(const CourseFilter& filter)
 {
     const std::string search = SearchKey(filter.Search);
     std::vector<ListRow> rows;
+    rows.reserve(modData::Kolegiji.RowCount());
+    ListRow row; // filled anew for each course: its copies take no more memory than they need
     for (const Row& kolegij : modData::Kolegiji)
         if (Passes(kolegij, filter, search))
-            rows.push_back(CourseRow(kolegij));
+        {
+            FillCourseRow(row, kolegij);
+            rows.push_back(row);
+        }
     return rows;
 }
 
 bool MatchesSearch(const Row& kolegij, std::string_view search)
 {
-    if (search.empty())
-        return true;
-    std::string haystack;
-    for (const Kolegij::Column column : {Kolegij::Naziv, Kolegij::ECTS, Kolegij::Tip})
-        haystack.append(" ").append(kolegij.Field(column));
-    haystack.append(" ").append(GetNastavniciForKolegijString(kolegij.Number(Kolegij::ID)));
-    return UpperCase(haystack).find(search) != std::string::npos;
+    static SearchTexts texts;
+    return search.empty() || texts.Of(kolegij).find(search) != std::string_view::npos;
 }
 
 std::string SearchKey(std::string_view typed)
@@ -85,10 +87,11 @@ std::string GetSmjeroviForKolegijString(std::int32_t kolegijID)
 
 std::string GetNastavniciForKolegijString(std::int32_t kolegijID)
 {
-    std::vector<std::string> names;
+    std::string joined;
+    std::string_view separator = "";
     for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
-        names.emplace_back(placed.Nastavnik.Field(Nastavnik::PrezimeIme));
-    return Joined(names, ", ");
+        joined.append(std::exchange(separator, ", ")).append(placed.Nastavnik.Field(Nastavnik::PrezimeIme));
+    return joined;
 }
 
 std::string GetNositelji123String(std::int32_t kolegijID)

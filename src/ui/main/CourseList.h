@@ -23,8 +23,9 @@ struct CourseFilter
 /// The course list's rows: one per course that passes the filter, in table order; electives are blue.
 std::vector<ListRow> CourseRows(const CourseFilter& filter);
 
-/// The search rule: a course matches when the text occurs in its title, credits, type or lecturers, upper and
-/// lower case alike. `search` is trimmed and upper-cased already; empty matches every course.
+/// The search rule: a row of the program's courses matches when the text occurs in its title, credits, type
+/// or lecturers, upper and lower case alike. `search` is trimmed and upper-cased already; empty matches every
+/// course.
 bool MatchesSearch(const Row& kolegij, std::string_view search);
 
 /// A search text made ready for MatchesSearch: trimmed and upper-cased.

@@ -1,5 +1,6 @@
 #include "ui/main/SemesterStatistics.h"
 
+#include "data/Errors.h"
 #include "data/Numbers.h"
 #include "data/modData.h"
 #include "statistics/LoadTable.h"
@@ -54,5 +55,8 @@ std::int32_t CountKolegijSmjerLinks(std::int32_t kolegijID, std::int32_t smjerID
 
 std::int32_t ParseWholeOrZero(std::string_view text)
 {
-    return IsNumeric(text) ? ToLong(text) : 0;
+    std::int32_t value = 0;
+    if (ReadLong(text, value) == NumberReading::TooLarge)
+        throw Overflow(text);
+    return value;
 }
