@@ -4,6 +4,7 @@
 
 #include "ects/WorkloadLabels.h"
 #include "ui/controls/Controls.h"
+#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -16,7 +17,6 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <algorithm>
 #include <span>
 
 namespace
@@ -42,9 +42,10 @@ wxFlexGridSizer* NewGrid(const wxWindow* window, int columns)
 void AddHeads(wxFlexGridSizer& grid, wxWindow* parent, std::span<const std::string_view> captions)
 {
     for (const std::string_view caption : captions)
-        grid.Add(NewLabel(parent, "lblHead", caption), wxSizerFlags().CenterVertical());
+        grid.Add(NewRemark(parent, "lblHead", caption), wxSizerFlags().CenterVertical());
 }
 
+/// Adds the label of the box that follows.
 wxStaticText* AddLabel(wxFlexGridSizer& grid, wxWindow* parent, std::string_view caption)
 {
     wxStaticText* label = NewLabel(parent, "lblRow", caption);
@@ -52,18 +53,23 @@ wxStaticText* AddLabel(wxFlexGridSizer& grid, wxWindow* parent, std::string_view
     return label;
 }
 
+/// Adds the caption of a row whose boxes are named each for itself.
+void AddRowCaption(wxFlexGridSizer& grid, wxWindow* parent, std::string_view caption)
+{
+    grid.Add(NewRemark(parent, "lblRow", caption), wxSizerFlags().CenterVertical());
+}
+
+/// Adds a box that the label before it names.
 void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box)
 {
     grid.Add(box, wxSizerFlags().Expand());
 }
 
-/// Makes a box wide enough for its characters, and high enough for large text, for which some systems' own
-/// height of it is too little.
-void UseTextSize(wxTextCtrl* box, int characters)
+/// Adds a box that screen readers name by two captions, those of its group or row and of the box itself.
+void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box, std::string_view outer, std::string_view own)
 {
-    const int width = box->GetSizeFromTextSize(box->GetTextExtent(wxString('n', characters)).x).x;
-    const int height = std::max(box->GetBestSize().y, box->GetCharHeight() + box->FromDIP(4));
-    box->SetMinSize({width, height});
+    AddBox(grid, box);
+    SetSpokenName(*box, std::string(outer) + ", " + std::string(own));
 }
 
 /// A box that shows a figure. Whether Tab stops at it is the window's choice; the systems do not agree.
@@ -123,7 +129,7 @@ frmECTSCalc::frmECTSCalc(wxWindow* parent)
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(columns, wxSizerFlags(1).Expand());
     content->Add(TotalsFrame(), below);
-    content->Add(lblUpozorenje = NewLabel(Panel, "lblUpozorenje", ""), below);
+    content->Add(lblUpozorenje = NewRemark(Panel, "lblUpozorenje", ""), below);
     content->Add(CommandRow(), below);
     auto* margin = new wxBoxSizer(wxVERTICAL);
     margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap(this)));
@@ -148,7 +154,7 @@ wxTextCtrl* frmECTSCalc::NewOutput(const std::string& name, std::string& text, b
 
 wxTextCtrl* frmECTSCalc::AddField(wxTextCtrl* box, std::string& text)
 {
-    UseTextSize(box, NumberCharacters);
+    UseTextSize(*box, NumberCharacters);
     Boxes.push_back({box, &text});
     return box;
 }
@@ -180,15 +186,18 @@ wxSizer* frmECTSCalc::ContactFrame()
     AddHeads(*grid, Panel, heads);
     for (std::size_t i = 0; i < ContactRows.size(); ++i)
     {
-        AddLabel(*grid, Panel, ContactRows[i].Label);
+        const std::string_view row = ContactRows[i].Label;
+        AddRowCaption(*grid, Panel, row);
         txtKontaktniSati[i] = NewField(Element("txtKontaktniSati", i), Fields.KontaktniSati[i]);
-        AddBox(*grid, txtKontaktniSati[i]);
+        AddBox(*grid, txtKontaktniSati[i], row, EctsLabel::KontaktniSati);
         txtSamostalniSati[i] = NewField(Element("txtSamostalniSati", i), Fields.SamostalniSati[i]);
-        AddBox(*grid, txtSamostalniSati[i]);
+        AddBox(*grid, txtSamostalniSati[i], row, EctsLabel::SamostalniSati);
     }
-    AddLabel(*grid, Panel, EctsLabel::Ukupno);
-    AddBox(*grid, txtKontaktniUkupno = NewOutput("txtKontaktniUkupno(3)", Fields.KontaktniUkupno));
-    AddBox(*grid, txtSamostalniUkupno = NewOutput("txtSamostalniUkupno(3)", Fields.SamostalniUkupno));
+    AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
+    txtKontaktniUkupno = NewOutput("txtKontaktniUkupno(3)", Fields.KontaktniUkupno);
+    AddBox(*grid, txtKontaktniUkupno, EctsLabel::Ukupno, EctsLabel::KontaktniSati);
+    txtSamostalniUkupno = NewOutput("txtSamostalniUkupno(3)", Fields.SamostalniUkupno);
+    AddBox(*grid, txtSamostalniUkupno, EctsLabel::Ukupno, EctsLabel::SamostalniSati);
     AddWide(*frame, grid);
     return frame;
 }
@@ -205,16 +214,21 @@ wxSizer* frmECTSCalc::LiteratureFrame()
     AddHeads(*grid, Panel, heads);
     for (std::size_t i = 0; i < LiteratureRows.size(); ++i)
     {
-        AddLabel(*grid, Panel, LiteratureRows[i].Label);
-        AddBox(*grid, txtLitStranice[i] = NewField(Element("txtLitStranice", i), Fields.LitStranice[i]));
-        AddLabel(*grid, Panel, LiteratureRows[i].NormLabel);
-        AddBox(*grid, txtLitIzracun[i] = NewOutput(Element("txtLitIzracun", i), Fields.LitIzracun[i]));
-        AddBox(*grid, txtLitProcjena[i] = NewField(Element("txtLitProcjena", i), Fields.LitProcjena[i]));
+        const std::string_view row = LiteratureRows[i].Label;
+        AddRowCaption(*grid, Panel, row);
+        txtLitStranice[i] = NewField(Element("txtLitStranice", i), Fields.LitStranice[i]);
+        AddBox(*grid, txtLitStranice[i], row, EctsLabel::BrojStranica);
+        AddRowCaption(*grid, Panel, LiteratureRows[i].NormLabel);
+        txtLitIzracun[i] = NewOutput(Element("txtLitIzracun", i), Fields.LitIzracun[i]);
+        AddBox(*grid, txtLitIzracun[i], row, EctsLabel::IzracunSati);
+        txtLitProcjena[i] = NewField(Element("txtLitProcjena", i), Fields.LitProcjena[i]);
+        AddBox(*grid, txtLitProcjena[i], row, EctsLabel::Procjena);
     }
-    AddLabel(*grid, Panel, EctsLabel::Ukupno);
+    AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
     grid->AddStretchSpacer();
     grid->AddStretchSpacer();
-    AddBox(*grid, txtLitUkupno = NewOutput("txtLitUkupno", Fields.LitUkupno));
+    txtLitUkupno = NewOutput("txtLitUkupno", Fields.LitUkupno);
+    AddBox(*grid, txtLitUkupno, EctsGroup::Literatura, EctsLabel::Ukupno);
     AddWide(*frame, grid);
     return frame;
 }
@@ -230,13 +244,14 @@ wxSizer* frmECTSCalc::WrittenFrame()
     AddBox(*grid, txtOpsegStranice = NewField("txtOpsegStranice", Fields.OpsegStranice));
     AddLabel(*grid, Panel, EctsLabel::OpsegRijeci);
     AddBox(*grid, txtOpsegRijeci = NewField("txtOpsegRijeci", Fields.OpsegRijeci));
-    AddLabel(*grid, Panel, EctsLabel::IzracunatoVrijeme);
-    AddBox(*grid, txtPismeniIzracun = NewOutput("txtPismeniIzracun", Fields.PismeniIzracun));
+    AddRowCaption(*grid, Panel, EctsLabel::IzracunatoVrijeme);
+    txtPismeniIzracun = NewOutput("txtPismeniIzracun", Fields.PismeniIzracun);
+    AddBox(*grid, txtPismeniIzracun, EctsGroup::Pismeni, EctsLabel::IzracunatoVrijeme);
     AddLabel(*grid, Panel, EctsLabel::VlastitaProcjena);
     AddBox(*grid, txtPismeniProcjena = NewField("txtPismeniProcjena", Fields.PismeniProcjena));
     AddWide(*frame, grid);
     auto* note = new wxBoxSizer(wxHORIZONTAL);
-    note->Add(NewLabel(Panel, "lblPismeniNormativ", WrittenNormNote));
+    note->Add(NewRemark(Panel, "lblPismeniNormativ", WrittenNormNote));
     AddWide(*frame, note);
     return frame;
 }
@@ -255,8 +270,9 @@ wxSizer* frmECTSCalc::OtherMethodsFrame()
         txtOstaleMetode[i] = NewField(Element("txtOstaleMetode", index), Fields.OstaleMetode[i]);
         grid->Add(txtOstaleMetode[i], wxSizerFlags().CenterVertical());
     }
-    AddLabel(*grid, Panel, EctsLabel::Ukupno);
-    AddBox(*grid, txtOstaleMetodeUkupno = NewOutput("txtOstaleMetodeUkupno", Fields.OstaleMetodeUkupno));
+    AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
+    txtOstaleMetodeUkupno = NewOutput("txtOstaleMetodeUkupno", Fields.OstaleMetodeUkupno);
+    AddBox(*grid, txtOstaleMetodeUkupno, EctsGroup::Ostale, EctsLabel::Ukupno);
     AddWide(*frame, grid);
     return frame;
 }
@@ -270,7 +286,7 @@ wxSizer* frmECTSCalc::TotalsFrame()
     {
         grid->AddGrowableCol(i, 1);
         txtUkupnoOpter[i] = NewOutput(Element("txtUkupnoOpter", i), Fields.UkupnoOpter[i], true);
-        AddBox(*grid, txtUkupnoOpter[i]);
+        AddBox(*grid, txtUkupnoOpter[i], EctsGroup::UkupnoOpter, TotalLabels[i]);
     }
     AddWide(*frame, grid);
     return frame;
@@ -279,8 +295,9 @@ wxSizer* frmECTSCalc::TotalsFrame()
 wxSizer* frmECTSCalc::CommandRow()
 {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    AddLabelled(*row, Panel, "lbl1ECTS", "1 ECTS", cbo1ECTS = NewChoice(Panel, "cbo1ECTS", 4));
-    row->Add(NewLabel(Panel, "lblSati", "sati"), wxSizerFlags().CenterVertical());
+    AddLabelled(*row, Panel, "lbl1ECTS", "1 ECTS",
+                [this] { return cbo1ECTS = NewChoice(Panel, "cbo1ECTS", 4); });
+    row->Add(NewRemark(Panel, "lblSati", "sati"), wxSizerFlags().CenterVertical());
     row->AddStretchSpacer();
     const auto add = [&](std::string_view name, std::string_view caption)
     {

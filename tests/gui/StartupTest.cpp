@@ -5,7 +5,10 @@
 #include "ui/startup/frmAbout.h"
 #include "ui/startup/frmSplash.h"
 
+#include <wx/app.h>
 #include <wx/datetime.h>
+#include <wx/dynlib.h>
+#include <wx/log.h>
 #include <wx/stattext.h>
 #include <wx/stopwatch.h>
 #include <wx/uiaction.h>
@@ -85,6 +88,48 @@ TEST_F(Startup, TheMainWindowOpensOnceWhateverComesTogether)
     EXPECT_EQ(OpenWindows(), Open(false, 1));
 }
 
+TEST_F(Startup, TheMainWindowOpensOnceWhenAClickAndEscapeAndTheSecondComeTogether)
+{
+    frmSplash* splash = ShowSplash();
+    wxWindow* picture = Find<wxWindow>(splash, "Picture1");
+    Focus(picture);
+    wxMilliSleep(1100); // the timer is due, and nothing has been dealt with
+    wxUIActionSimulator simulator;
+    simulator.MouseClick();
+    simulator.Char(WXK_ESCAPE);
+    Settle();
+    EXPECT_EQ(OpenWindows(), Open(false, 1));
+    EXPECT_EQ(TakeUncaughtError(), "");
+}
+
+TEST_F(Startup, TheSplashIsGoneWhenTheMainWindowCannotLoad)
+{
+    WriteBytes(Folder.Data() / "db_smjer.csv", "");
+    frmSplash* splash = ShowSplash();
+    EXPECT_TRUE(splash->IsShown());
+    PressKey(Find<wxWindow>(splash, "Picture1"), WXK_ESCAPE);
+    EXPECT_NE(TakeUncaughtError(), "");
+    EXPECT_FALSE(splash->IsShown());
+}
+
+TEST_F(Startup, TheMainWindowIsShownBeforeTheSplashGoes)
+{
+    frmSplash* splash = ShowSplash();
+    bool splashWasThere = false;
+    const auto look = [&](wxShowEvent& event)
+    {
+        event.Skip();
+        if (event.IsShown() && dynamic_cast<frmMain*>(event.GetEventObject()) != nullptr)
+            splashWasThere = splash->IsShown();
+    };
+    wxTheApp->Bind(wxEVT_SHOW, look);
+    splash->CloseSplash();
+    wxTheApp->Unbind(wxEVT_SHOW, look);
+    EXPECT_TRUE(splashWasThere);
+    Settle();
+    EXPECT_EQ(OpenWindows(), Open(false, 1));
+}
+
 /// Runs a script while the About box is open, then closes the box by its button.
 class AboutBox : public Startup
 {
@@ -141,7 +186,12 @@ TEST_F(AboutBox, ShowsTheCurrentYear)
 TEST_F(AboutBox, HandsItsLinksToTheSystem)
 {
     std::vector<std::string> opened;
-    SetLinkOpener([&](const std::string& address) { opened.push_back(address); });
+    SetLinkOpener(
+        [&](const std::string& address)
+        {
+            opened.push_back(address);
+            return true;
+        });
     WhileOpen(
         [](frmAbout& about)
         {
@@ -152,5 +202,70 @@ TEST_F(AboutBox, HandsItsLinksToTheSystem)
     EXPECT_EQ(opened, (std::vector<std::string>{"https://varlostudiji.example",
                                                 "mailto:podrska@varlostudiji.example"}));
 }
+
+TEST_F(AboutBox, IsSilentWhenTheSystemCannotOpenALink)
+{
+    int asked = 0;
+    SetLinkOpener(
+        [&](const std::string&)
+        {
+            ++asked;
+            wxLogError("no program for this address");
+            return false;
+        });
+    const MessageAnswers messages;
+    WhileOpen(
+        [](frmAbout& about)
+        {
+            Click(Find<wxWindow>(&about, "lblWeb"));
+            Click(Find<wxWindow>(&about, "lblEmail"));
+            wxLog::FlushActive(); // what was logged would be shown now
+            Settle();
+            EXPECT_TRUE(about.IsModal());
+        });
+    SetLinkOpener({});
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(messages.Shown().size(), 0U);
+}
+
+#ifndef _WIN32
+/// The pointer that a window asks the display for: 0 for the usual one, else the display's number of the
+/// form.
+int PointerOf(wxWindow* window)
+{
+    const auto call = [](const char* name)
+    { return wxDynamicLibrary::RawGetSymbol(wxDynamicLibrary::GetProgramHandle(), name); };
+    void* surface = reinterpret_cast<void* (*)(void*)>(call("gtk_widget_get_window"))(window->m_widget);
+    void* cursor = reinterpret_cast<void* (*)(void*)>(call("gdk_window_get_cursor"))(surface);
+    return cursor == nullptr ? 0
+                             : reinterpret_cast<int (*)(void*)>(call("gdk_cursor_get_cursor_type"))(cursor);
+}
+
+// Windows shows its plain arrow either way.
+TEST_F(AboutBox, ThePointerIsThePlainArrowOverTheLinksAndTheUsualOneBesideThem)
+{
+    static constexpr int plainArrow = 68;
+    WhileOpen(
+        [](frmAbout& about)
+        {
+            const auto pointAt = [&](wxPoint place)
+            {
+                wxUIActionSimulator().MouseMove(about.ClientToScreen(place));
+                Settle();
+            };
+            const wxPoint besideLinks(3, 3);
+            for (const char* link : {"lblWeb", "lblEmail"})
+            {
+                const wxRect place = Find<wxWindow>(&about, link)->GetRect();
+                pointAt(besideLinks);
+                EXPECT_EQ(PointerOf(&about), 0);
+                pointAt(place.GetPosition() + place.GetSize() / 2);
+                EXPECT_EQ(PointerOf(&about), plainArrow) << link;
+            }
+            pointAt(besideLinks + wxPoint(4, 4));
+            EXPECT_EQ(PointerOf(&about), 0);
+        });
+}
+#endif
 
 } // namespace

@@ -45,7 +45,12 @@ wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters)
 {
     auto* choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                                 wxDefaultValidator, ToWx(name));
-    choice->SetMinSize(choice->GetSizeFromTextSize(parent->GetTextExtent(wxString('n', characters)).x));
+    const int width = choice->GetSizeFromTextSize(parent->GetTextExtent(wxString('n', characters)).x).x;
+    // Without a chosen entry some systems forget to make it high enough for large text.
+    choice->Append("n");
+    choice->SetSelection(0);
+    choice->SetMinSize({width, choice->GetBestSize().y});
+    choice->Clear();
     return choice;
 }
 
@@ -53,8 +58,15 @@ wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters)
 {
     auto* box = new wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                                wxDefaultValidator, ToWx(name));
-    box->SetMinSize(box->GetSizeFromTextSize(parent->GetTextExtent(wxString('n', characters)).x));
+    UseTextSize(*box, characters);
     return box;
+}
+
+void UseTextSize(wxTextCtrl& box, int characters)
+{
+    const wxSize padding = box.FromDIP(wxSize(0, 4)); // the least that the themes leave around a line
+    const int width = box.GetSizeFromTextSize(box.GetTextExtent(wxString('n', characters)).x).x;
+    box.SetMinSize({width, std::max(box.GetBestSize().y, box.GetCharHeight() + padding.y)});
 }
 
 wxListBox* NewListBox(wxWindow* parent, std::string_view name, long style)
@@ -64,10 +76,10 @@ wxListBox* NewListBox(wxWindow* parent, std::string_view name, long style)
 }
 
 wxStaticText* AddLabelled(wxSizer& row, wxWindow* parent, std::string_view labelName,
-                          std::string_view caption, wxWindow* control)
+                          std::string_view caption, const std::function<wxWindow*()>& makeControl)
 {
     wxStaticText* label = NewLabel(parent, labelName, caption);
-    label->MoveBeforeInTabOrder(control);
+    wxWindow* control = makeControl();
     row.Add(label, wxSizerFlags().CenterVertical().Border(wxRIGHT, Gap(parent)));
     row.Add(control, wxSizerFlags().CenterVertical().Border(wxRIGHT, 2 * Gap(parent)));
     return label;

@@ -3,6 +3,7 @@
 #include <wx/defs.h>
 #include <wx/gdicmn.h>
 
+#include <functional>
 #include <string_view>
 
 class wxButton;
@@ -34,12 +35,17 @@ wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters);
 /// A one-line text box, wide enough for `characters` of text.
 wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters);
 
+/// Makes a one-line text box wide enough for `characters`, and high enough for large text: some systems' own
+/// height is too little for it.
+void UseTextSize(wxTextCtrl& box, int characters);
+
 /// A list box of which one entry can be selected, or with another style more.
 wxListBox* NewListBox(wxWindow* parent, std::string_view name, long style = wxLB_SINGLE);
 
-/// Adds a control to a row, a new label before it, also in tab order. Returns the label.
+/// Adds a label to a row, then the control that it names: a screen reader takes for the label of a control
+/// what was made right before it. Returns the label.
 wxStaticText* AddLabelled(wxSizer& row, wxWindow* parent, std::string_view labelName,
-                          std::string_view caption, wxWindow* control);
+                          std::string_view caption, const std::function<wxWindow*()>& makeControl);
 
 /// A frame with a caption; its content goes into the sizer.
 wxStaticBoxSizer* NewFrame(wxWindow* parent, std::string_view name, std::string_view caption);

@@ -2,6 +2,7 @@
 
 #include "ui/controls/Controls.h"
 #include "ui/controls/NativeList.h"
+#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/sizer.h>
@@ -20,7 +21,7 @@ std::size_t Index(int i)
 
 } // namespace
 
-ListView::ListView(wxWindow* parent, const wxString& name)
+ListView::ListView(wxWindow* parent, const wxString& name, std::string_view spokenName)
 {
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | NativeContainerStyle(), name);
     Native = CreateNativeList(
@@ -37,6 +38,7 @@ ListView::ListView(wxWindow* parent, const wxString& name)
                         Activated();
                 },
                 .KeyPressed = [this](const wxKeyEvent& key) { return KeyPressed && KeyPressed(key); }});
+    SetSpokenName(*Native->Window(), spokenName);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(Native->Window(), wxSizerFlags(1).Expand());
     SetSizer(sizer);

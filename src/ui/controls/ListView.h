@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 class NativeList;
@@ -20,7 +21,8 @@ class wxKeyEvent;
 class ListView : public wxNavigationEnabled<wxWindow>
 {
 public:
-    ListView(wxWindow* parent, const wxString& name);
+    /// `spokenName` is what a screen reader says for the list (UTF-8).
+    ListView(wxWindow* parent, const wxString& name, std::string_view spokenName);
     ~ListView() override;
 
     /// Sets the columns; once, before any row.

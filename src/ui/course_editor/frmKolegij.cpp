@@ -88,18 +88,24 @@ wxSizer* frmKolegij::Fields()
     // A text box with a list: the catalogue may hold a type that is not in the list, and it stays as it is.
     cboObvezniIzborni = new wxComboBox(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                                        nullptr, wxCB_DROPDOWN, wxDefaultValidator, "cboObvezniIzborni");
+    const int typeWidth = cboObvezniIzborni->GetSizeFromTextSize(GetTextExtent(wxString('n', 10)).x).x;
+    cboObvezniIzborni->SetMinSize({typeWidth, cboRazina->GetMinSize().y});
     row->Add(cboObvezniIzborni, boxFlags);
     return grid;
 }
 
 wxSizer* frmKolegij::Lists()
 {
+    constexpr int narrowest = 4;
+    constexpr int fewestEntries = 8;
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     const auto addList = [&](const wxString& name, std::string_view label, int proportion, long style)
     {
         auto* column = new wxBoxSizer(wxVERTICAL);
         column->Add(NewLabel(this, "", label), wxSizerFlags().Border(wxBOTTOM, Gap(this) / 2));
         wxListBox* list = NewListBox(this, ToUtf8(name), style);
+        // The columns share the window's width; a list's own best width would make the window too wide.
+        list->SetMinSize({GetTextExtent(wxString('n', narrowest)).x, fewestEntries * GetCharHeight()});
         column->Add(list, wxSizerFlags(1).Expand());
         row->Add(column, wxSizerFlags(proportion).Expand().Border(wxLEFT, row->IsEmpty() ? 0 : Gap(this)));
         return list;

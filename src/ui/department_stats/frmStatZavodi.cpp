@@ -58,8 +58,10 @@ frmStatZavodi::frmStatZavodi(wxWindow* parent)
 wxSizer* frmStatZavodi::FilterRow()
 {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    Label1 = AddLabelled(*row, Panel, "Label1", "Razina", cboRazina = NewChoice(Panel, "cboRazina", 14));
-    Label2 = AddLabelled(*row, Panel, "Label2", "Zavod", cboZavodi = NewChoice(Panel, "cboZavodi", 36));
+    Label1 = AddLabelled(*row, Panel, "Label1", "Razina",
+                         [this] { return cboRazina = NewChoice(Panel, "cboRazina", 14); });
+    Label2 = AddLabelled(*row, Panel, "Label2", "Zavod",
+                         [this] { return cboZavodi = NewChoice(Panel, "cboZavodi", 36); });
     return row;
 }
 
@@ -71,8 +73,8 @@ wxSizer* frmStatZavodi::Grids()
     semesters->Add(lstSemestri = NewListBox(Panel, "lstSemestri"), wxSizerFlags(1).Expand());
 
     auto* lists = new wxBoxSizer(wxVERTICAL);
-    lists->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji"), wxSizerFlags(1).Expand());
-    lists->Add(lvwStatZavod = new ListView(Panel, "lvwStatZavod"),
+    lists->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji"), wxSizerFlags(1).Expand());
+    lists->Add(lvwStatZavod = new ListView(Panel, "lvwStatZavod", "Statistika"),
                wxSizerFlags(2).Expand().Border(wxTOP, Gap(this)));
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);
@@ -112,6 +114,7 @@ void frmStatZavodi::Form_Load()
     SelectFirst(*lstSemestri);
     SelectFirst(*cboRazina);
     ShowSelected();
+    Panel->Layout(); // the list of semesters is as wide as its entries
     CenterForm(*this);
 }
 

@@ -48,8 +48,9 @@ frmStatNositelji::frmStatNositelji(wxWindow* parent)
     content->Add(NastavniciColumn(), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * Gap(this)));
     auto* right = new wxBoxSizer(wxVERTICAL);
     right->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
-    right->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji"), wxSizerFlags(1).Expand());
-    right->Add(lvwStat = new ListView(Panel, "lvwStat"), wxSizerFlags(2).Expand().Border(wxTOP, Gap(this)));
+    right->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji"), wxSizerFlags(1).Expand());
+    right->Add(lvwStat = new ListView(Panel, "lvwStat", "Statistika"),
+               wxSizerFlags(2).Expand().Border(wxTOP, Gap(this)));
     right->Add(Buttons(), wxSizerFlags().Expand().Border(wxTOP, Gap(this)));
     content->Add(right, wxSizerFlags(4).Expand());
     auto* margin = new wxBoxSizer(wxVERTICAL);
@@ -72,8 +73,10 @@ wxSizer* frmStatNositelji::NastavniciColumn()
 wxSizer* frmStatNositelji::FilterRow()
 {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    Label2 = AddLabelled(*row, Panel, "Label2", "Razina", cboRazina = NewChoice(Panel, "cboRazina", 14));
-    Label3 = AddLabelled(*row, Panel, "Label3", "Program", cboProgram = NewChoice(Panel, "cboProgram", 8));
+    Label2 = AddLabelled(*row, Panel, "Label2", "Razina",
+                         [this] { return cboRazina = NewChoice(Panel, "cboRazina", 14); });
+    Label3 = AddLabelled(*row, Panel, "Label3", "Program",
+                         [this] { return cboProgram = NewChoice(Panel, "cboProgram", 8); });
     return row;
 }
 

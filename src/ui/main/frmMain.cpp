@@ -108,9 +108,9 @@ frmMain::frmMain()
     const wxSizerFlags whole = wxSizerFlags(1).Expand();
     auto* lists = new wxBoxSizer(wxVERTICAL);
     lists->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
-    lvwKolegiji = new ListView(Panel, "lvwKolegiji");
+    lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji");
     lists->Add(lvwKolegiji, wxSizerFlags(1).Expand().Border(wxBOTTOM, Gap(this)));
-    lvwStatistika = new ListView(Panel, "lvwStatistika");
+    lvwStatistika = new ListView(Panel, "lvwStatistika", "Statistika");
     lists->Add(lvwStatistika, whole);
 
     auto* content = new wxBoxSizer(wxHORIZONTAL);
@@ -135,7 +135,7 @@ wxSizer* frmMain::FilterRow()
         int Characters;
     };
     const Filter filters[] = {
-        {&cboRazina, "cboRazina", "lblRazina", "Razina:", 12},
+        {&cboRazina, "cboRazina", "lblRazina", "Razina:", 14},
         {&cboProgram, "cboProgram", "lblProgram", "Program:", 5},
         {&cboSmjer, "cboSmjer", "lblSmjer", "Smjer:", 5},
         {&cboSemestar, "cboSemestar", "lblSemestar", "Semestar:", 3},
@@ -144,11 +144,11 @@ wxSizer* frmMain::FilterRow()
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     for (const Filter& filter : filters)
     {
-        *filter.Box = NewChoice(Panel, filter.Name, filter.Characters);
-        AddLabelled(*row, Panel, filter.LabelName, filter.Caption, *filter.Box);
+        AddLabelled(*row, Panel, filter.LabelName, filter.Caption,
+                    [&] { return *filter.Box = NewChoice(Panel, filter.Name, filter.Characters); });
     }
-    txtSearch = NewTextBox(Panel, "txtSearch", 6);
-    Label1 = AddLabelled(*row, Panel, "Label1", "Traži:", txtSearch);
+    Label1 = AddLabelled(*row, Panel, "Label1",
+                         "Traži:", [this] { return txtSearch = NewTextBox(Panel, "txtSearch", 6); });
     row->GetItem(txtSearch)->SetProportion(1); // it takes the width that the boxes leave
     row->GetItem(txtSearch)->SetBorder(0);
     return row;

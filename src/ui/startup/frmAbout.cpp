@@ -3,6 +3,7 @@
 #include "data/Product.h"
 #include "data/modData.h"
 #include "ui/controls/Controls.h"
+#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -26,18 +27,16 @@ constexpr std::string_view EmailAddress = "podrska@varlostudiji.example";
 constexpr int TitlePoints = 14;
 const wxColour LinkColour(0, 0, 255);
 
-std::function<void(const std::string&)> LinkOpener;
+std::function<bool(const std::string&)> LinkOpener;
 
 /// Hands an address to the system. A system without a browser or mail program is no error worth a message.
 void OpenLink(const std::string& address)
 {
-    if (LinkOpener)
-    {
-        LinkOpener(address);
-        return;
-    }
     const wxLogNull silence;
-    wxLaunchDefaultBrowser(ToWx(address));
+    if (LinkOpener)
+        LinkOpener(address);
+    else
+        wxLaunchDefaultBrowser(ToWx(address));
 }
 
 } // namespace
@@ -79,8 +78,7 @@ frmAbout::frmAbout(wxWindow* parent)
 wxStaticText* frmAbout::AddLabel(wxSizer& sizer, const char* name, const std::string& text)
 {
     // A folder or an address may hold an "&", which is a letter here and no access key.
-    auto* label = new wxStaticText(this, wxID_ANY, wxControl::EscapeMnemonics(ToWx(text)), wxDefaultPosition,
-                                   wxDefaultSize, 0, name);
+    wxStaticText* label = NewRemark(this, name, ToUtf8(wxControl::EscapeMnemonics(ToWx(text))));
     sizer.Add(label, wxSizerFlags().Border(wxBOTTOM, Gap(this)));
     return label;
 }
@@ -105,7 +103,7 @@ std::string AboutDescription(int year)
            std::to_string(year) + " " + std::string(ProductName);
 }
 
-void SetLinkOpener(std::function<void(const std::string& address)> opener)
+void SetLinkOpener(std::function<bool(const std::string& address)> opener)
 {
     LinkOpener = std::move(opener);
 }

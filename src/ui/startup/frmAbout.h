@@ -34,5 +34,6 @@ private:
 /// The three lines that describe the program, with the year of the notice, separated by CR LF.
 std::string AboutDescription(int year);
 
-/// Opens a link in the system's stead, for tests; an empty function brings the system back.
-void SetLinkOpener(std::function<void(const std::string& address)> opener);
+/// Opens a link in the system's stead, for tests, and answers whether it could; an empty function brings the
+/// system back.
+void SetLinkOpener(std::function<bool(const std::string& address)> opener);

@@ -48,7 +48,15 @@ void frmSplash::CloseSplash()
         return;
     Closing = true;
     Timer1.Stop();
-    (new frmMain)->Form_Load();
+    try
+    {
+        (new frmMain)->Form_Load();
+    }
+    catch (...)
+    {
+        Hide(); // the error's report must not stand before a picture of the program at work
+        throw;
+    }
     Destroy();
 }
 

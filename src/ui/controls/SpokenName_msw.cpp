@@ -1,0 +1,43 @@
+// Names for screen readers on Windows: an accessible object that answers for the name alone.
+
+#include "ui/controls/SpokenName.h"
+
+#include "ui/controls/Controls.h"
+#include "ui/controls/Strings.h"
+
+#include <wx/access.h>
+#include <wx/window.h>
+
+#include <utility>
+
+namespace
+{
+
+class NamedAccessible : public wxAccessible
+{
+public:
+    NamedAccessible(wxWindow* control, wxString name) : wxAccessible(control), Name(std::move(name)) {}
+
+    wxAccStatus GetName(int child, wxString* name) override
+    {
+        if (child != wxACC_SELF)
+            return wxACC_NOT_IMPLEMENTED; // the system's own answer
+        *name = Name;
+        return wxACC_OK;
+    }
+
+private:
+    wxString Name;
+};
+
+} // namespace
+
+void SetSpokenName(wxWindow& control, std::string_view name)
+{
+    control.SetAccessible(new NamedAccessible(&control, ToWx(name)));
+}
+
+wxStaticText* NewRemark(wxWindow* parent, std::string_view name, std::string_view caption)
+{
+    return NewLabel(parent, name, caption); // what comes behind it has a name of its own
+}

@@ -1,0 +1,394 @@
+// One pass over every window with the keyboard alone: Tab, access keys, Enter, Escape, and where the focus is
+// after a command.
+
+#include "support/EveryWindow.h"
+
+#include <wx/button.h>
+#include <wx/listbox.h>
+#include <wx/radiobut.h>
+#include <wx/stattext.h>
+#include <wx/stopwatch.h>
+#include <wx/textctrl.h>
+#include <wx/uiaction.h>
+
+#include <algorithm>
+#include <map>
+#include <typeinfo>
+
+namespace
+{
+
+using Texts = std::vector<std::string>;
+
+class Keyboard : public EveryWindowTest
+{
+};
+
+/// The control of a window that a window in it belongs to; null when it is none of them.
+wxWindow* ControlWith(wxTopLevelWindow& window, wxWindow* inner)
+{
+    const wxWindow* parent = ControlParent(window);
+    while (inner != nullptr && inner->GetParent() != parent)
+        inner = inner->GetParent();
+    return inner;
+}
+
+/// The controls at which Tab should stop, in their own order: of a group of options the chosen one.
+std::vector<wxWindow*> TabStops(wxTopLevelWindow& window)
+{
+    std::vector<wxWindow*> stops;
+    for (wxWindow* control : ControlsOf(window))
+    {
+        const auto* option = dynamic_cast<wxRadioButton*>(control);
+        const bool takesKeys =
+            dynamic_cast<ListView*>(control) != nullptr || control->AcceptsFocusFromKeyboard();
+        if (takesKeys && control->IsEnabled() && control->IsShown() &&
+            (option == nullptr || option->GetValue()))
+            stops.push_back(control);
+    }
+    return stops;
+}
+
+/// The first of the tab stops of each kind.
+std::vector<wxWindow*> KindsOfTabStops(wxTopLevelWindow& window)
+{
+    std::vector<wxWindow*> kinds;
+    for (wxWindow* stop : TabStops(window))
+        if (std::ranges::none_of(kinds, [&](wxWindow* kind) { return typeid(*kind) == typeid(*stop); }))
+            kinds.push_back(stop);
+    return kinds;
+}
+
+/// The controls of a window that get key strokes, first to last, each once as long as the keys stay in it.
+class KeyLog
+{
+public:
+    explicit KeyLog(wxTopLevelWindow& window) : Window(window)
+    {
+        // What has the focus is not always what the toolkit knows to have it; what gets a key is.
+        Window.Bind(wxEVT_CHAR_HOOK, &KeyLog::Note, this);
+    }
+    ~KeyLog() { Window.Unbind(wxEVT_CHAR_HOOK, &KeyLog::Note, this); }
+    KeyLog(const KeyLog&) = delete;
+    KeyLog& operator=(const KeyLog&) = delete;
+
+    const std::vector<wxWindow*>& Controls() const { return Controls_; }
+
+private:
+    void Note(wxKeyEvent& event)
+    {
+        event.Skip();
+        wxWindow* control = ControlWith(Window, dynamic_cast<wxWindow*>(event.GetEventObject()));
+        if (control != nullptr && (Controls_.empty() || Controls_.back() != control))
+            Controls_.push_back(control);
+    }
+
+    wxTopLevelWindow& Window;
+    std::vector<wxWindow*> Controls_;
+};
+
+/// While it lives, notes the buttons pressed in a window, and nothing else comes of it.
+class ButtonLog
+{
+public:
+    explicit ButtonLog(wxTopLevelWindow& window)
+    {
+        for (wxWindow* control : ControlsOf(window))
+            if (auto* button = dynamic_cast<wxButton*>(control))
+            {
+                Buttons.push_back(button);
+                button->Bind(wxEVT_BUTTON, &ButtonLog::Note, this);
+            }
+    }
+    ~ButtonLog()
+    {
+        for (wxButton* button : Buttons)
+            button->Unbind(wxEVT_BUTTON, &ButtonLog::Note, this);
+    }
+    ButtonLog(const ButtonLog&) = delete;
+    ButtonLog& operator=(const ButtonLog&) = delete;
+
+    const std::vector<wxButton*>& All() const { return Buttons; }
+
+    /// The button pressed since the last call; empty when none was. Some systems show a button pressed for a
+    /// quarter of a second before they say so.
+    std::string Take(long patience = 1000)
+    {
+        for (const wxStopWatch watch; Names.empty() && watch.Time() < patience;)
+            Settle();
+        std::string names;
+        for (const std::string& name : Names)
+            names.append(names.empty() ? "" : " ").append(name);
+        Names.clear();
+        return names;
+    }
+
+private:
+    void Note(wxCommandEvent& event)
+    {
+        Names.push_back(dynamic_cast<wxWindow*>(event.GetEventObject())->GetName().utf8_string());
+    }
+
+    std::vector<wxButton*> Buttons;
+    Texts Names;
+};
+
+/// The access key of a caption in upper case; 0 when it has none.
+char AccessKey(const wxWindow* control)
+{
+    const wxString label = control->GetLabel();
+    for (std::size_t i = 0; i + 1 < label.size(); ++i)
+        if (label[i] == '&' && label[++i] != '&')
+            return static_cast<char>(wxToupper(label[i]));
+    return 0;
+}
+
+/// Whether access keys typed in a control are found. Wine looks for them only beside the control that has the
+/// focus, not around a list's window.
+bool TakesAccessKeys([[maybe_unused]] wxWindow* control)
+{
+#ifdef _WIN32
+    return dynamic_cast<ListView*>(control) == nullptr;
+#else
+    return true;
+#endif
+}
+
+std::string FocusName(wxTopLevelWindow& window)
+{
+    const wxWindow* control = ControlWith(window, wxWindow::FindFocus());
+    return control == nullptr ? "none" : control->GetName().utf8_string();
+}
+
+// Tab
+
+TEST_F(Keyboard, TabGoesThroughEveryControlInReadingOrderAndBack)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            std::vector<wxWindow*> stops = TabStops(window);
+            for (std::size_t i = 1; i < stops.size(); ++i)
+            {
+                const wxRect former = stops[i - 1]->GetScreenRect();
+                const wxRect next = stops[i]->GetScreenRect();
+                EXPECT_TRUE(next.GetLeft() > former.GetRight() || next.GetTop() > former.GetBottom())
+                    << stops[i]->GetName() << " stands neither right of " << stops[i - 1]->GetName()
+                    << " nor below it";
+            }
+            if (stops.size() < 2)
+                return; // the About box has its button alone
+            stops.push_back(stops.front());
+            for (const int modifiers : {wxMOD_NONE, wxMOD_SHIFT})
+            {
+                Focus(stops.front());
+                const KeyLog log(window);
+                for (std::size_t i = 0; i < 2 * stops.size() && log.Controls().size() < stops.size(); ++i)
+                {
+                    wxUIActionSimulator().Char(WXK_TAB, modifiers);
+                    Settle();
+                }
+                EXPECT_EQ(NamesOf(log.Controls()), NamesOf(stops));
+                std::ranges::reverse(stops);
+            }
+        });
+}
+
+// Access keys
+
+TEST_F(Keyboard, NoTwoAccessKeysOfAWindowAreTheSame)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            std::map<char, wxWindow*> keys;
+            for (wxWindow* control : ControlsOf(window))
+                if (const char key = AccessKey(control); key != 0)
+                {
+                    EXPECT_TRUE(keys.emplace(key, control).second)
+                        << control->GetName() << " and " << keys[key]->GetName() << " share " << key;
+                }
+            for (wxWindow* control : ControlsOf(window))
+                EXPECT_TRUE(dynamic_cast<wxButton*>(control) == nullptr || AccessKey(control) != 0 ||
+                            control->GetName() == "cmdOk")
+                    << control->GetName();
+        });
+}
+
+TEST_F(Keyboard, EveryAccessKeyPressesItsButton)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            ButtonLog pressed(window);
+            Focus(TabStops(window).front());
+            for (const wxButton* button : pressed.All())
+            {
+                const char key = AccessKey(button);
+                if (key == 0)
+                    continue;
+                wxUIActionSimulator().Char(key, wxMOD_ALT);
+                EXPECT_EQ(pressed.Take(), button->GetName().utf8_string()) << key;
+            }
+        });
+}
+
+TEST_F(Keyboard, AnAccessKeyWorksInEveryKindOfControl)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            ButtonLog pressed(window);
+            const wxButton* last = pressed.All().back();
+            const char key = AccessKey(last);
+            for (wxWindow* stop : KindsOfTabStops(window))
+            {
+                if (key == 0 || !TakesAccessKeys(stop))
+                    continue;
+                Focus(stop);
+                wxUIActionSimulator().Char(key, wxMOD_ALT);
+                EXPECT_EQ(pressed.Take(), last->GetName().utf8_string()) << "from " << stop->GetName();
+            }
+        });
+}
+
+// Enter and Escape
+
+TEST_F(Keyboard, EnterAndSpacePressTheButtonThatHasTheFocus)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            ButtonLog pressed(window);
+            for (wxButton* button : pressed.All())
+                for (const int key : {WXK_RETURN, WXK_SPACE})
+                {
+                    PressKey(button, key);
+                    EXPECT_EQ(pressed.Take(), button->GetName().utf8_string()) << key;
+                }
+        });
+}
+
+TEST_F(Keyboard, InADialogEnterPressesItsDefaultAndEscapeItsCancelButton)
+{
+    struct DialogButtons
+    {
+        ProgramWindow Window;
+        const char* Default;
+        const char* Cancel;
+    };
+    for (const DialogButtons& dialog :
+         {DialogButtons{EditorForm, "cmdSave", "cmdCancel"}, DialogButtons{AboutForm, "cmdOk", "cmdOk"}})
+        InWindow(dialog.Window,
+                 [&](wxTopLevelWindow& window)
+                 {
+                     ButtonLog pressed(window);
+                     wxWindow* first = TabStops(window).front();
+                     PressKey(first, WXK_RETURN);
+                     EXPECT_EQ(pressed.Take(), dialog.Default);
+                     PressKey(first, WXK_ESCAPE);
+                     EXPECT_EQ(pressed.Take(), dialog.Cancel);
+                 });
+}
+
+TEST_F(Keyboard, TheAboutBoxClosesByEnterAndByEscape)
+{
+    for (const int key : {WXK_RETURN, WXK_ESCAPE})
+        InWindow(AboutForm,
+                 [&](wxTopLevelWindow& window)
+                 {
+                     PressKey(Find<wxWindow>(&window, "cmdOk"), key);
+                     for (const wxStopWatch watch; window.IsShown() && watch.Time() < 1000;)
+                         Settle();
+                     EXPECT_FALSE(window.IsShown()) << key;
+                 });
+}
+
+TEST_F(Keyboard, InTheOtherWindowsEnterAndEscapeInAFieldLoseNothing)
+{
+    for (const ProgramWindow& which : {LecturerForm, DepartmentForm, CalculatorForm})
+        InWindow(which,
+                 [&](wxTopLevelWindow& window)
+                 {
+                     ButtonLog pressed(window);
+                     for (wxWindow* stop : KindsOfTabStops(window))
+                     {
+                         if (dynamic_cast<wxButton*>(stop) != nullptr)
+                             continue;
+                         PressKey(stop, WXK_ESCAPE);
+                         if (dynamic_cast<wxChoice*>(stop) == nullptr) // there it opens the list
+                             PressKey(stop, WXK_RETURN);
+                         EXPECT_EQ(pressed.Take(0), "") << stop->GetName();
+                         EXPECT_TRUE(window.IsShown()) << stop->GetName();
+                     }
+                 });
+}
+
+// Where the focus is afterwards
+
+TEST_F(Keyboard, AfterTheEditorTheFocusIsWhereItWasOpenedFrom)
+{
+    OpenMain();
+    auto* list = Find<ListView>(Main, "lvwKolegiji");
+    struct Way
+    {
+        const char* Control;
+        int Key;
+    };
+    for (const Way& way :
+         {Way{"cmdAdd", WXK_SPACE}, Way{"cmdEdit", WXK_SPACE}, Way{"lvwKolegiji", WXK_INSERT},
+          Way{"lvwKolegiji", WXK_RETURN}, Way{"lvwKolegiji", WXK_F2}})
+        for (const char* answer : {"cmdCancel", "cmdSave"})
+        {
+            const MessageAnswers warnings; // a new course has no title yet
+            list->SelectRow(0);
+            const ModalSession session([&](wxTopLevelWindow& editor) { Press(&editor, answer); });
+            PressKey(Find<wxWindow>(Main, way.Control), way.Key);
+            for (const wxStopWatch watch; watch.Time() < 500 && FocusName(*Main) != way.Control;)
+                Settle();
+            session.Check();
+            EXPECT_EQ(FocusName(*Main), way.Control) << answer;
+        }
+}
+
+TEST_F(Keyboard, AfterADeletionTheFocusIsInTheListOrOnTheButton)
+{
+    OpenMain();
+    auto* list = Find<ListView>(Main, "lvwKolegiji");
+    const MessageAnswers yes(wxID_YES);
+    int rows = list->RowCount();
+
+    Focus(list);
+    list->SelectRow(1);
+    PressKey(list, WXK_DELETE);
+    EXPECT_EQ(list->RowCount(), --rows);
+    EXPECT_EQ(FocusName(*Main), "lvwKolegiji");
+
+    list->SelectRow(1);
+    PressKey(Find<wxWindow>(Main, "cmdDelete"), WXK_SPACE);
+    EXPECT_EQ(list->RowCount(), --rows);
+    EXPECT_EQ(FocusName(*Main), "cmdDelete");
+}
+
+TEST_F(Keyboard, AfterAnExportTheFocusIsOnItsButton)
+{
+    const std::pair<ProgramWindow, const char*> exports[] = {{MainForm, "cmdExport"},
+                                                             {MainForm, "cmdExportVarlo"},
+                                                             {LecturerForm, "cmdExportAllStat"},
+                                                             {DepartmentForm, "cmdExportAllStat"},
+                                                             {CalculatorForm, "cmdExport"}};
+    for (const auto& [which, button] : exports)
+        InWindow(which,
+                 [&](wxTopLevelWindow& window)
+                 {
+                     const SaveAnswers save(Folder.PathOf("export.csv"));
+                     MessageAnswers told;
+                     PressKey(Find<wxWindow>(&window, button), WXK_SPACE);
+                     for (const wxStopWatch watch; told.Shown().empty() && watch.Time() < 1000;)
+                         Settle();
+                     EXPECT_EQ(told.Shown().size(), 1U) << button;
+                     EXPECT_EQ(FocusName(window), button);
+                 });
+}
+
+} // namespace

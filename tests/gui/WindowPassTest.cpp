@@ -1,0 +1,264 @@
+// One pass over every window: what a screen reader says, and whether all that is shown can be read.
+
+#include "support/EveryWindow.h"
+#include "support/SpokenName.h"
+#include "support/TextScale.h"
+
+#include <wx/button.h>
+#include <wx/combobox.h>
+#include <wx/ctrlsub.h>
+#include <wx/listbox.h>
+#include <wx/radiobut.h>
+#include <wx/scrolwin.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <map>
+
+namespace
+{
+
+using Texts = std::vector<std::string>;
+
+class EveryWindow : public EveryWindowTest
+{
+};
+
+/// A field, a box with entries, or a list.
+bool NeedsName(wxWindow* control)
+{
+    return dynamic_cast<wxTextEntry*>(control) != nullptr ||
+           dynamic_cast<wxItemContainer*>(control) != nullptr || dynamic_cast<ListView*>(control) != nullptr;
+}
+
+bool HasCaption(wxWindow* control)
+{
+    return dynamic_cast<wxStaticText*>(control) != nullptr || dynamic_cast<wxButton*>(control) != nullptr ||
+           dynamic_cast<wxRadioButton*>(control) != nullptr;
+}
+
+/// A caption without the mark of its access key.
+std::string Caption(const wxWindow* control)
+{
+    return wxControl::RemoveMnemonics(control->GetLabel()).utf8_string();
+}
+
+// Screen readers
+
+TEST_F(EveryWindow, EveryFieldAndListHasANameForScreenReadersThatNoOtherHas)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            std::map<std::string, Texts> spoken;
+            for (wxWindow* control : ControlsOf(window))
+                if (NeedsName(control))
+                    spoken[SpokenName(control)].push_back(control->GetName().utf8_string());
+            for (const auto& [name, controls] : spoken)
+            {
+                EXPECT_NE(name, "") << testing::PrintToString(controls);
+                EXPECT_EQ(controls.size(), 1U) << name << ": " << testing::PrintToString(controls);
+            }
+        });
+}
+
+TEST_F(EveryWindow, ScreenReadersSayTheLabelThatStandsBesideTheControl)
+{
+    struct Expected
+    {
+        ProgramWindow Window;
+        const char* Control;
+        const char* Name;
+    };
+    const Expected expected[] = {
+        {MainForm, "cboRazina", "Razina:"},
+        {MainForm, "cboProgram", "Program:"},
+        {MainForm, "txtSearch", "Traži:"},
+        {MainForm, "lvwKolegiji", "Kolegiji"},
+        {EditorForm, "txtNaziv", "Kolegij:"},
+        {EditorForm, "txtECTS", "ECTS"},
+        {EditorForm, "cboObvezniIzborni", "Obvezni/Izborni"},
+        {EditorForm, "lstNastavnik(3)", "3. nostielj"},
+        {LecturerForm, "lstNastavnici", "Nostielji"},
+        {LecturerForm, "cboRazina", "Razina"},
+        {LecturerForm, "cboProgram", "Program"},
+        {DepartmentForm, "cboRazina", "Razina"},
+        {DepartmentForm, "cboZavodi", "Zavod"},
+        {DepartmentForm, "lstSemestri", "Semestar"},
+        {CalculatorForm, "txtNositelj", "Nositelj(i):"},
+        {CalculatorForm, "txtSamostalniSati(1)", "Seminari, Samostalni sati"},
+        {CalculatorForm, "txtLitUkupno", "Literatura, Ukupno"},
+        {CalculatorForm, "txtPismeniProcjena", "Vlastita procjena"},
+        {CalculatorForm, "txtOstaleMetode(9)", "Ostalo"},
+        {CalculatorForm, "cbo1ECTS", "1 ECTS"},
+    };
+    for (const Expected& one : expected)
+        InWindow(one.Window, [&](wxTopLevelWindow& window)
+                 { EXPECT_EQ(SpokenName(Find<wxWindow>(&window, one.Control)), one.Name) << one.Control; });
+}
+
+TEST_F(EveryWindow, ButtonsAndOptionsAreSpokenByTheirCaptions)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            for (wxWindow* control : ControlsOf(window))
+                if (HasCaption(control))
+                {
+                    EXPECT_EQ(SpokenName(control), Caption(control));
+                }
+        });
+}
+
+// Sizes
+
+/// Where a control stands in the window that holds it.
+wxRect PlaceOf(wxWindow* control)
+{
+    return {control->GetPosition(), control->GetSize()};
+}
+
+/// What a control needs to show all of its caption, line or chosen entry.
+wxSize NeedOf(wxWindow* control)
+{
+    control->InvalidateBestSize();
+    wxSize need = control->GetBestSize();
+    if (dynamic_cast<wxTextCtrl*>(control) != nullptr)
+        need = {0, control->GetCharHeight()};                   // its text scrolls sideways
+    if (const auto* combo = dynamic_cast<wxComboBox*>(control)) // its longest entry, and the arrow
+        need = {combo->GetSizeFromTextSize(combo->GetTextExtent("obvezni").x).x, combo->GetCharHeight() + 4};
+    if (dynamic_cast<wxListBox*>(control) != nullptr || dynamic_cast<ListView*>(control) != nullptr)
+        need = {0, 3 * control->GetCharHeight()}; // it scrolls
+    return need;
+}
+
+/// Every control stands in its window, over no other, large enough for what it shows.
+void ExpectReadable(wxTopLevelWindow& window)
+{
+    wxWindow* parent = ControlParent(window);
+    const wxRect whole(wxPoint(0, 0), parent->GetVirtualSize());
+    if (dynamic_cast<wxScrolledWindow*>(parent) == nullptr)
+    {
+        EXPECT_EQ(whole.GetSize(), parent->GetClientSize());
+    }
+    const std::vector<wxWindow*> controls = ControlsOf(window);
+    for (std::size_t i = 0; i < controls.size(); ++i)
+    {
+        const std::string name = controls[i]->GetName().utf8_string() + " '" + Caption(controls[i]) + "'";
+        const wxRect place = PlaceOf(controls[i]);
+        EXPECT_TRUE(whole.Contains(place)) << name << " stands outside";
+        const wxSize need = NeedOf(controls[i]);
+        EXPECT_GE(place.width, need.x) << name;
+        EXPECT_GE(place.height, need.y) << name;
+        for (std::size_t k = 0; k < i; ++k)
+            EXPECT_FALSE(place.Intersects(PlaceOf(controls[k])))
+                << name << " stands over " << controls[k]->GetName();
+        if (const auto* list = dynamic_cast<ListView*>(controls[i]))
+        {
+            for (int column = 0; column < list->ColumnCount(); ++column)
+                EXPECT_GE(list->ColumnWidth(column), list->GetTextExtent(list->ColumnCaption(column)).x)
+                    << name << ", column " << column;
+        }
+    }
+}
+
+class EveryWindowAtTextSize : public EveryWindowTest, public testing::WithParamInterface<int>
+{
+};
+
+TEST_P(EveryWindowAtTextSize, CutsNothing)
+{
+    const TextScale scale(GetParam());
+    InEveryWindow([](wxTopLevelWindow& window) { ExpectReadable(window); });
+}
+
+TEST_P(EveryWindowAtTextSize, FitsOnAScreenThatSuitsTheText)
+{
+    const TextScale scale(GetParam());
+    wxSize screen = wxGetDisplaySize();
+    if (GetParam() >= 200)
+        screen.IncTo(wxSize(1920, 1200)); // no user has such text on less
+    InEveryWindow(
+        [&](wxTopLevelWindow& window)
+        {
+            EXPECT_LE(window.GetSize().x, screen.x);
+            EXPECT_LE(window.GetSize().y, screen.y);
+        });
+}
+
+TEST_P(EveryWindowAtTextSize, CutsNothingWhenTheUserChangesTheWindowsSize)
+{
+    const TextScale scale(GetParam());
+    for (const ProgramWindow& which : ProgramWindows)
+    {
+        SCOPED_TRACE(which.Name);
+        InWindow(which,
+                 [](wxTopLevelWindow& window)
+                 {
+                     if (!window.HasFlag(wxRESIZE_BORDER))
+                         return;
+                     window.SetSize(window.GetSize() + wxSize(200, 120));
+                     Settle();
+                     ExpectReadable(window);
+                     window.SetSize(window.GetMinSize());
+                     Settle();
+                     ExpectReadable(window);
+                 });
+    }
+}
+
+// On Windows one size at a time: the session's.
+#ifdef _WIN32
+INSTANTIATE_TEST_SUITE_P(OfTheSession, EveryWindowAtTextSize, testing::Values(100),
+                         testing::PrintToStringParamName());
+#else
+INSTANTIATE_TEST_SUITE_P(PerCent, EveryWindowAtTextSize, testing::Values(100, 150, 200),
+                         testing::PrintToStringParamName());
+#endif
+
+TEST_F(EveryWindow, ShowsAllItsControlsOnASmallScreenWithoutScrolling)
+{
+    if (wxGetDisplayPPI().x > 120)
+        GTEST_SKIP() << "a screen of this resolution has more pixels";
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            EXPECT_LE(window.GetSize().x, 1280);
+            EXPECT_LE(window.GetSize().y, 800);
+            const wxWindow* parent = ControlParent(window);
+            EXPECT_EQ(parent->GetVirtualSize(), parent->GetClientSize());
+        });
+}
+
+TEST_F(EveryWindow, GivesALargerWindowsRoomToItsLists)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            if (!window.HasFlag(wxRESIZE_BORDER))
+                return;
+            const auto extents = [&]
+            {
+                std::map<std::string, wxSize> sizes;
+                for (wxWindow* control : ControlsOf(window))
+                    if (dynamic_cast<wxListBox*>(control) != nullptr ||
+                        dynamic_cast<ListView*>(control) != nullptr)
+                        sizes[control->GetName().utf8_string()] = control->GetSize();
+                return sizes;
+            };
+            const auto before = extents();
+            window.SetSize(window.GetSize() + wxSize(100, 100));
+            Settle();
+            int wider = 0;
+            for (const auto& [name, size] : extents())
+            {
+                EXPECT_GT(size.y, before.at(name).y) << name;
+                EXPECT_GE(size.x, before.at(name).x) << name;
+                wider += size.x > before.at(name).x ? 1 : 0;
+            }
+            EXPECT_TRUE(before.empty() || wider > 0);
+        });
+}
+
+} // namespace

@@ -1,0 +1,182 @@
+#pragma once
+
+#include "support/LoadChecks.h"
+#include "support/Windows.h"
+#include "ui/main/frmMain.h"
+
+#include <wx/dialog.h>
+#include <wx/msgdlg.h>
+#include <wx/panel.h>
+#include <wx/statbox.h>
+#include <wx/uiaction.h>
+
+#include <exception>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+// What tests do that go through every window of the program.
+
+using WindowScript = std::function<void(wxTopLevelWindow& window)>;
+
+/// Runs a script in the first dialog that is shown modally while it lives, message boxes apart, from inside
+/// the dialog's event loop; a dialog that the script leaves open is cancelled.
+class ModalSession : public wxModalDialogHook
+{
+public:
+    explicit ModalSession(WindowScript script) : Script(std::move(script)) { Register(); }
+    ~ModalSession() override { Unregister(); }
+
+    /// Throws what the script threw, and when no dialog opened.
+    void Check() const
+    {
+        if (Failure)
+            std::rethrow_exception(Failure);
+        if (!Opened)
+            throw std::runtime_error("no dialog opened");
+    }
+
+protected:
+    int Enter(wxDialog* dialog) override
+    {
+        if (!Opened && dynamic_cast<wxMessageDialog*>(dialog) == nullptr)
+        {
+            Opened = true;
+            dialog->CallAfter([this, dialog] { Run(*dialog); });
+        }
+        return wxID_NONE; // the dialog itself is to be shown
+    }
+
+private:
+    void Run(wxDialog& dialog)
+    {
+        dialog.Raise(); // where there is no window manager, nobody else makes a new window the active one
+        Settle();
+        try
+        {
+            Script(dialog);
+        }
+        catch (...)
+        {
+            Failure = std::current_exception();
+        }
+        if (dialog.IsModal())
+            dialog.EndModal(wxID_CANCEL);
+    }
+
+    WindowScript Script;
+    bool Opened = false;
+    std::exception_ptr Failure;
+};
+
+/// A window of the program, and the button of the main window that opens it; none for the main window.
+struct ProgramWindow
+{
+    const char* Name;
+    const char* Button;
+    bool Modal;
+};
+
+inline void PrintTo(const ProgramWindow& window, std::ostream* stream)
+{
+    *stream << window.Name;
+}
+
+inline constexpr ProgramWindow MainForm = {"frmMain", nullptr, false};
+inline constexpr ProgramWindow EditorForm = {"frmKolegij", "cmdEdit", true};
+inline constexpr ProgramWindow LecturerForm = {"frmStatNositelji", "cmdStatNositelji", false};
+inline constexpr ProgramWindow DepartmentForm = {"frmStatZavodi", "cmdStatZavodi", false};
+inline constexpr ProgramWindow CalculatorForm = {"frmECTSCalc", "cmdECTSCalc", false};
+inline constexpr ProgramWindow AboutForm = {"frmAbout", "cmdAbout", true};
+
+inline constexpr ProgramWindow ProgramWindows[] = {MainForm,       EditorForm,     LecturerForm,
+                                                   DepartmentForm, CalculatorForm, AboutForm};
+
+/// The main window on the demo catalogue, and every other window opened from it as the user opens it.
+class EveryWindowTest : public testing::Test
+{
+protected:
+    void TearDown() override { CloseAllWindows(); }
+
+    void OpenMain()
+    {
+        if (Main != nullptr)
+            return;
+        CopyDemo(Folder);
+        Main = new frmMain;
+        Main->Form_Load();
+        Settle();
+        // A window manager would give the keyboard back after a dialog; without one it goes by the mouse.
+        const wxRect place = Main->GetScreenRect();
+        wxUIActionSimulator().MouseMove(place.GetPosition() + place.GetSize() / 2);
+        Settle();
+    }
+
+    /// Opens a window, runs a script in it and closes it; the editor opens with a course.
+    void InWindow(const ProgramWindow& which, const WindowScript& script)
+    {
+        OpenMain();
+        if (which.Button == nullptr)
+        {
+            script(*Main);
+            return;
+        }
+        Find<ListView>(Main, "lvwKolegiji")->SelectRow(0);
+        if (which.Modal)
+        {
+            const ModalSession session(script);
+            Press(Main, which.Button);
+            session.Check();
+            return;
+        }
+        Press(Main, which.Button);
+        auto* window = dynamic_cast<wxTopLevelWindow*>(wxWindow::FindWindowByName(which.Name));
+        if (window == nullptr)
+            throw std::runtime_error(std::string("no window ") + which.Name);
+        script(*window);
+        if (wxWindow::FindWindowByName(which.Name) == window)
+            window->Close();
+        Settle();
+    }
+
+    void InEveryWindow(const WindowScript& script)
+    {
+        for (const ProgramWindow& window : ProgramWindows)
+        {
+            SCOPED_TRACE(window.Name);
+            InWindow(window, script);
+        }
+    }
+
+    TestFolder Folder;
+    frmMain* Main = nullptr;
+};
+
+/// The window in which the controls of a top-level window stand.
+inline wxWindow* ControlParent(wxTopLevelWindow& window)
+{
+    for (wxWindow* child : window.GetChildren())
+        if (dynamic_cast<wxPanel*>(child) != nullptr && dynamic_cast<ListView*>(child) == nullptr)
+            return child;
+    return &window;
+}
+
+/// The controls of a window in their own order, frames left out; a list is one control.
+inline std::vector<wxWindow*> ControlsOf(wxTopLevelWindow& window)
+{
+    std::vector<wxWindow*> controls;
+    for (wxWindow* child : ControlParent(window)->GetChildren())
+        if (dynamic_cast<wxStaticBox*>(child) == nullptr && !child->IsTopLevel())
+            controls.push_back(child);
+    return controls;
+}
+
+/// The names of controls as the code has them.
+inline std::vector<std::string> NamesOf(const std::vector<wxWindow*>& controls)
+{
+    std::vector<std::string> names;
+    for (const wxWindow* control : controls)
+        names.push_back(control->GetName().utf8_string());
+    return names;
+}

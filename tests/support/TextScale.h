@@ -1,0 +1,36 @@
+#pragma once
+
+#include "support/Windows.h"
+
+#ifndef _WIN32
+#include <wx/dynlib.h>
+#endif
+
+/// While it lives, this program's text is that many per cent of the usual size, as a user sets it for the
+/// whole desktop. On Windows that is a setting of the session, read once at its start: there it stays as it
+/// is.
+class TextScale
+{
+public:
+    explicit TextScale(int percent) { Set(percent); }
+    ~TextScale() { Set(100); }
+    TextScale(const TextScale&) = delete;
+    TextScale& operator=(const TextScale&) = delete;
+
+private:
+#ifdef _WIN32
+    static void Set(int) {}
+#else
+    static void Set(int percent)
+    {
+        constexpr int usualDotsToTheInch = 96;
+        constexpr int unitsOfADot = 1024;
+        const auto find = [](const char* name)
+        { return wxDynamicLibrary::RawGetSymbol(wxDynamicLibrary::GetProgramHandle(), name); };
+        void* settings = reinterpret_cast<void* (*)()>(find("gtk_settings_get_default"))();
+        reinterpret_cast<void (*)(void*, const char*, ...)>(find("g_object_set"))(
+            settings, "gtk-xft-dpi", usualDotsToTheInch * unitsOfADot * percent / 100, nullptr);
+        Settle();
+    }
+#endif
+};
