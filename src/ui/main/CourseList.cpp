@@ -88,7 +88,7 @@ std::string GetSmjeroviForKolegijString(std::int32_t kolegijID)
 std::string GetNastavniciForKolegijString(std::int32_t kolegijID)
 {
     std::string joined;
-    std::string_view separator = "";
+    std::string_view separator;
     for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
         joined.append(std::exchange(separator, ", ")).append(placed.Nastavnik.Field(Nastavnik::PrezimeIme));
     return joined;
