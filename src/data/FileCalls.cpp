@@ -2,12 +2,20 @@
 
 #include "data/System.h"
 
+#include <cerrno>
+
 namespace
 {
 
 bool Write(std::FILE* file, std::string_view bytes)
 {
     return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0;
+}
+
+bool FlushToDisk(std::FILE* file)
+{
+    // A device such as a pipe has nothing to flush to and says so; that is no failure.
+    return System::FlushToDisk(file) || errno == EINVAL;
 }
 
 bool Close(std::FILE* file)
@@ -24,6 +32,6 @@ std::error_code Remove(const std::filesystem::path& path)
 
 } // namespace
 
-const FileCalls SystemFileCalls = {System::Open, Write, System::FlushToDisk, Close, System::Replace, Remove};
+const FileCalls SystemFileCalls = {System::Open, Write, FlushToDisk, Close, System::Replace, Remove};
 
 FileCalls CurrentFileCalls = SystemFileCalls;

@@ -15,7 +15,7 @@ struct FileCalls
     /// Hands bytes to the system; false and `errno` on failure, when some of them may have been written.
     bool (*Write)(std::FILE* file, std::string_view bytes);
 
-    /// Hands a file's content to the disk itself; false and `errno` on failure.
+    /// Hands a file's content to the disk itself, where the file has one; false and `errno` on failure.
     bool (*FlushToDisk)(std::FILE* file);
 
     /// Closes a file, on failure too; false and `errno` then.

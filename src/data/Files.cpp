@@ -169,6 +169,6 @@ void ReplaceFile(std::string_view path, std::string_view content, Former former)
 
 void TextFile::AddLine(std::string_view text)
 {
-    Content += ToWindows1250(text);
+    AppendWindows1250(Content, text);
     Content += "\r\n";
 }

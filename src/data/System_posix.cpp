@@ -27,8 +27,7 @@ std::FILE* Open(const std::filesystem::path& path, const char* mode)
 
 bool FlushToDisk(std::FILE* file)
 {
-    // A device such as a pipe has nothing to flush to and says so; that is no failure.
-    return ::fsync(::fileno(file)) == 0 || errno == EINVAL;
+    return ::fsync(::fileno(file)) == 0;
 }
 
 bool MayWrite(const std::filesystem::path& path)

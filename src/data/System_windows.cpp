@@ -1,6 +1,5 @@
 #include "data/System.h"
 
-#include <cerrno>
 #include <io.h>
 #include <windows.h>
 
@@ -52,8 +51,7 @@ std::FILE* Open(const std::filesystem::path& path, const char* mode)
 
 bool FlushToDisk(std::FILE* file)
 {
-    // A device such as a pipe has nothing to flush to and says so; that is no failure.
-    return _commit(_fileno(file)) == 0 || errno == EINVAL;
+    return _commit(_fileno(file)) == 0;
 }
 
 bool MayWrite(const std::filesystem::path& path)

@@ -45,7 +45,7 @@ wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters)
 {
     auto* choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                                 wxDefaultValidator, ToWx(name));
-    const int width = choice->GetSizeFromTextSize(parent->GetTextExtent(wxString('n', characters)).x).x;
+    const int width = WidthForText(*choice, characters);
     // Without a chosen entry some systems forget to make it high enough for large text.
     choice->Append("n");
     choice->SetSelection(0);
@@ -62,11 +62,16 @@ wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters)
     return box;
 }
 
+int WidthForText(const wxControl& control, int characters)
+{
+    return control.GetSizeFromTextSize(control.GetTextExtent(wxString('n', characters)).x).x;
+}
+
 void UseTextSize(wxTextCtrl& box, int characters)
 {
     const wxSize padding = box.FromDIP(wxSize(0, 4)); // the least that the themes leave around a line
-    const int width = box.GetSizeFromTextSize(box.GetTextExtent(wxString('n', characters)).x).x;
-    box.SetMinSize({width, std::max(box.GetBestSize().y, box.GetCharHeight() + padding.y)});
+    box.SetMinSize(
+        {WidthForText(box, characters), std::max(box.GetBestSize().y, box.GetCharHeight() + padding.y)});
 }
 
 wxListBox* NewListBox(wxWindow* parent, std::string_view name, long style)

@@ -8,6 +8,7 @@
 
 class wxButton;
 class wxChoice;
+class wxControl;
 class wxFont;
 class wxListBox;
 class wxSizer;
@@ -34,6 +35,9 @@ wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters);
 
 /// A one-line text box, wide enough for `characters` of text.
 wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters);
+
+/// The width that a control needs to show `characters` of text.
+int WidthForText(const wxControl& control, int characters);
 
 /// Makes a one-line text box wide enough for `characters`, and high enough for large text: some systems' own
 /// height is too little for it.

@@ -88,8 +88,7 @@ wxSizer* frmKolegij::Fields()
     // A text box with a list: the catalogue may hold a type that is not in the list, and it stays as it is.
     cboObvezniIzborni = new wxComboBox(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                                        nullptr, wxCB_DROPDOWN, wxDefaultValidator, "cboObvezniIzborni");
-    const int typeWidth = cboObvezniIzborni->GetSizeFromTextSize(GetTextExtent(wxString('n', 10)).x).x;
-    cboObvezniIzborni->SetMinSize({typeWidth, cboRazina->GetMinSize().y});
+    cboObvezniIzborni->SetMinSize({WidthForText(*cboObvezniIzborni, 10), cboRazina->GetMinSize().y});
     row->Add(cboObvezniIzborni, boxFlags);
     return grid;
 }
