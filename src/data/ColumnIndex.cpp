@@ -1,7 +1,5 @@
 #include "data/ColumnIndex.h"
 
-#include "data/Table.h"
-
 #include <algorithm>
 #include <numeric>
 
@@ -11,39 +9,14 @@ namespace
 /// Numbers whose range is at most this many times their count are dense.
 constexpr std::int64_t MostPlacesPerRow = 4;
 
-/// Reads a field as a scan would; false where a scan would end in an error.
-bool ReadKey(const Row& row, std::size_t column, Conversion conversion, std::int32_t& key)
-{
-    if (column >= row.FieldCount())
-        return false;
-    key = 0;
-    return ReadLong(row.Field(column), key) == NumberReading::Whole || conversion == Conversion::Safe;
-}
-
-/// The column's numbers, up to the first row where there is none.
-std::vector<std::int32_t> ReadKeys(std::span<const Row> rows, std::size_t column, Conversion conversion)
-{
-    std::vector<std::int32_t> keys;
-    keys.reserve(rows.size());
-    for (const Row& row : rows)
-    {
-        std::int32_t key = 0;
-        if (!ReadKey(row, column, conversion, key))
-            break;
-        keys.push_back(key);
-    }
-    return keys;
-}
-
 } // namespace
 
-ColumnIndex::ColumnIndex(std::span<const Row> rows, std::size_t column, Conversion conversion)
-    : Numbers(ReadKeys(rows, column, conversion))
+ColumnIndex::ColumnIndex(std::span<const std::int32_t> numbers)
 {
-    if (Numbers.empty())
+    if (numbers.empty())
         return;
-    GivePlaces();
-    GroupPositions();
+    GivePlaces(numbers);
+    GroupPositions(numbers);
 }
 
 std::span<const std::uint32_t> ColumnIndex::Positions(std::int32_t number) const
@@ -72,28 +45,28 @@ std::uint32_t ColumnIndex::PlaceOf(std::int32_t number) const
     return entry == Places.end() ? None : entry->second;
 }
 
-void ColumnIndex::GivePlaces()
+void ColumnIndex::GivePlaces(std::span<const std::int32_t> numbers)
 {
-    const auto [smallest, largest] = std::ranges::minmax(Numbers);
+    const auto [smallest, largest] = std::ranges::minmax(numbers);
     Smallest = smallest;
     std::int64_t count = std::int64_t{largest} - smallest + 1;
-    if (count > MostPlacesPerRow * static_cast<std::int64_t>(Numbers.size()))
+    if (count > MostPlacesPerRow * static_cast<std::int64_t>(numbers.size()))
     {
-        for (const std::int32_t number : Numbers)
+        for (const std::int32_t number : numbers)
             Places.try_emplace(number, static_cast<std::uint32_t>(Places.size()));
         count = static_cast<std::int64_t>(Places.size());
     }
     Begins.resize(static_cast<std::size_t>(count) + 1);
 }
 
-void ColumnIndex::GroupPositions()
+void ColumnIndex::GroupPositions(std::span<const std::int32_t> numbers)
 {
-    for (const std::int32_t number : Numbers)
+    for (const std::int32_t number : numbers)
         ++Begins[PlaceOf(number)];
     std::partial_sum(Begins.begin(), Begins.end(), Begins.begin()); // where each group ends
 
     // From the last row to the first, each group is filled from its end and so ends up in table order.
-    Grouped.resize(Numbers.size());
-    for (std::size_t i = Numbers.size(); i-- > 0;)
-        Grouped[--Begins[PlaceOf(Numbers[i])]] = static_cast<std::uint32_t>(i);
+    Grouped.resize(numbers.size());
+    for (std::size_t i = numbers.size(); i-- > 0;)
+        Grouped[--Begins[PlaceOf(numbers[i])]] = static_cast<std::uint32_t>(i);
 }

@@ -1,24 +1,19 @@
 #pragma once
 
-#include "data/Numbers.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <unordered_map>
 #include <vector>
 
-class Row;
-
-/// Where the rows of a table stand that hold a number in one column, so that a search need not pass them all.
-/// It gives what a scan from the first row would give, errors included: it covers the rows up to the first
-/// one whose field cannot be read as a whole number, since a scan ends there.
+/// Where each number of a column stands, so that a search need not pass all rows.
 class ColumnIndex
 {
 public:
     static constexpr std::uint32_t None = UINT32_MAX;
 
-    ColumnIndex(std::span<const Row> rows, std::size_t column, Conversion conversion);
+    /// `numbers` are the column's, by position.
+    explicit ColumnIndex(std::span<const std::int32_t> numbers);
 
     /// The positions of the rows with the number, in table order.
     std::span<const std::uint32_t> Positions(std::int32_t number) const;
@@ -26,18 +21,10 @@ public:
     /// The position of the first of them, or None.
     std::uint32_t First(std::int32_t number) const;
 
-    /// The number of a row that the index covers.
-    std::int32_t NumberAt(std::size_t position) const { return Numbers[position]; }
-
-    /// How many rows the index covers.
-    std::size_t Covered() const { return Numbers.size(); }
-
 private:
     std::uint32_t PlaceOf(std::int32_t number) const;
-    void GivePlaces();
-    void GroupPositions();
-
-    std::vector<std::int32_t> Numbers; // by position
+    void GivePlaces(std::span<const std::int32_t> numbers);
+    void GroupPositions(std::span<const std::int32_t> numbers);
 
     // Each number has a place. Identifiers are mostly given one after the other: then it follows from the
     // number, which is several times as fast as a map; numbers that lie far apart need the map.

@@ -42,13 +42,14 @@ void OrderByRedoslijed(std::vector<Placed>& items)
 std::vector<PlacedID> LinkedNastavnici(std::int32_t kolegijId, std::size_t most)
 {
     std::vector<PlacedID> linked;
-    KolegijNastavnici.ForEachMatch(KolegijNastavnik::KolegijID, kolegijId,
-                                   [&](const Row& link)
-                                   {
-                                       if (linked.size() < most)
-                                           linked.push_back({link.Number(KolegijNastavnik::NastavnikID),
-                                                             link.Number(KolegijNastavnik::Redoslijed)});
-                                   });
+    KolegijNastavnici.ForEachMatch(
+        KolegijNastavnik::KolegijID, kolegijId,
+        [&](const Row& link)
+        {
+            if (linked.size() < most)
+                linked.push_back({KolegijNastavnici.NumberOf(link, KolegijNastavnik::NastavnikID),
+                                  KolegijNastavnici.NumberOf(link, KolegijNastavnik::Redoslijed)});
+        });
     OrderByRedoslijed(linked);
     return linked;
 }
@@ -81,8 +82,8 @@ std::string GetSmjeroviKraticeString(std::int32_t kolegijId)
     KolegijSmjerovi.ForEachMatch(KolegijSmjer::KolegijID, kolegijId,
                                  [&](const Row& link)
                                  {
-                                     const std::string kratica =
-                                         GetSmjerKratica(link.Number(KolegijSmjer::SmjerID));
+                                     const std::string kratica = GetSmjerKratica(
+                                         KolegijSmjerovi.NumberOf(link, KolegijSmjer::SmjerID));
                                      if (const std::string_view shown = TrimBlanks(kratica); !shown.empty())
                                          AppendJoined(joined, ", ", shown);
                                  });
@@ -116,10 +117,10 @@ std::vector<PlacedNastavnik> GetNastavniciForKolegij(std::int32_t kolegijId)
         KolegijNastavnik::KolegijID, kolegijId,
         [&](const Row& link)
         {
-            const Row* nastavnik =
-                Nastavnici.FindFirst(Nastavnik::ID, link.Number(KolegijNastavnik::NastavnikID));
+            const Row* nastavnik = Nastavnici.FindFirst(
+                Nastavnik::ID, KolegijNastavnici.NumberOf(link, KolegijNastavnik::NastavnikID));
             if (nastavnik != nullptr)
-                found.push_back({*nastavnik, link.Number(KolegijNastavnik::Redoslijed)});
+                found.push_back({*nastavnik, KolegijNastavnici.NumberOf(link, KolegijNastavnik::Redoslijed)});
         });
     OrderByRedoslijed(found);
     return found;

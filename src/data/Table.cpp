@@ -12,6 +12,30 @@ namespace
 /// The line of a row that was entered in the program.
 constexpr std::uint32_t EnteredLine = 0;
 
+/// Reads a field as a scan would; false where a scan would end in an error.
+bool ReadKey(const Row& row, std::size_t column, Conversion conversion, std::int32_t& key)
+{
+    if (column >= row.FieldCount())
+        return false;
+    key = 0;
+    return ReadLong(row.Field(column), key) == NumberReading::Whole || conversion == Conversion::Safe;
+}
+
+/// The column's numbers, up to the first row where there is none.
+std::vector<std::int32_t> ReadKeys(std::span<const Row> rows, std::size_t column, Conversion conversion)
+{
+    std::vector<std::int32_t> keys;
+    keys.reserve(rows.size());
+    for (const Row& row : rows)
+    {
+        std::int32_t key = 0;
+        if (!ReadKey(row, column, conversion, key))
+            break;
+        keys.push_back(key);
+    }
+    return keys;
+}
+
 std::uint64_t NextRevision()
 {
     static std::uint64_t last = 0;
@@ -50,7 +74,7 @@ std::int32_t Row::Number(std::size_t column, Conversion conversion) const
 Table::Table(const TableLayout& layout)
     : TableColumns(&layout),
       Memory(std::make_unique<std::pmr::monotonic_buffer_resource>()),
-      Indexes(layout.Columns.size()),
+      ReadColumns(layout.Columns.size()),
       ContentRevision(NextRevision())
 {
 }
@@ -91,19 +115,19 @@ const Row* Table::FindFirst(std::size_t column, std::int32_t number, Conversion 
 std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t number,
                                                Conversion conversion) const
 {
-    const ColumnIndex& index = IndexOf(column, conversion);
-    const std::uint32_t position = index.First(number);
+    const ReadColumn& searched = Indexed(column, conversion);
+    const std::uint32_t position = searched.Index->First(number);
     if (position != ColumnIndex::None)
         return position;
-    RequireCovered(index, column);
+    RequireWhole(searched, column);
     return std::nullopt;
 }
 
 std::int32_t Table::NumberOf(const Row& row, std::size_t column, Conversion conversion) const
 {
-    const ColumnIndex& index = IndexOf(column, conversion);
+    const std::vector<std::int32_t>& numbers = Read(column, conversion).Numbers;
     const std::size_t position = PositionOf(row);
-    return position < index.Covered() ? index.NumberAt(position) : row.Number(column, conversion);
+    return position < numbers.size() ? numbers[position] : row.Number(column, conversion);
 }
 
 Row Table::NewRow(std::span<const std::string_view> fields, std::uint32_t line)
@@ -131,30 +155,38 @@ Row Table::NewRow(std::span<const std::string_view> fields, std::uint32_t line)
     return row;
 }
 
-const ColumnIndex& Table::IndexOf(std::size_t column, Conversion conversion) const
+Table::ReadColumn& Table::Read(std::size_t column, Conversion conversion) const
 {
-    std::optional<ColumnIndex>& index = Indexes[column][static_cast<std::size_t>(conversion)];
-    if (!index)
+    std::optional<ReadColumn>& read = ReadColumns[column][static_cast<std::size_t>(conversion)];
+    if (!read)
     {
-        index.emplace(Rows, column, conversion);
-        HasIndexes = true;
+        read.emplace(ReadKeys(Rows, column, conversion), std::nullopt);
+        HasReadColumns = true;
     }
-    return *index;
+    return *read;
 }
 
-/// A scan that went on to the end met the first row that the index does not cover.
-void Table::RequireCovered(const ColumnIndex& index, std::size_t column) const
+const Table::ReadColumn& Table::Indexed(std::size_t column, Conversion conversion) const
 {
-    if (index.Covered() < Rows.size())
-        Rows[index.Covered()].Number(column); // throws: that row is not covered because it cannot be read
+    ReadColumn& read = Read(column, conversion);
+    if (!read.Index)
+        read.Index.emplace(read.Numbers);
+    return read;
+}
+
+/// A scan that went on to the end met the first row that cannot be read.
+void Table::RequireWhole(const ReadColumn& searched, std::size_t column) const
+{
+    if (searched.Numbers.size() < Rows.size())
+        Rows[searched.Numbers.size()].Number(column); // throws
 }
 
 void Table::ContentChanged()
 {
     ContentRevision = NextRevision();
-    if (!HasIndexes) // as for each row but the first while a table is loaded
+    if (!HasReadColumns) // as for each row but the first while a table is loaded
         return;
-    HasIndexes = false;
-    for (auto& ofColumn : Indexes)
+    HasReadColumns = false;
+    for (auto& ofColumn : ReadColumns)
         ofColumn = {};
 }

@@ -97,9 +97,10 @@ public:
     std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number,
                                             Conversion conversion = Conversion::Strict) const;
 
-    /// A row's field as a whole number, from the index of its column: for going through many rows out of
-    /// order, which would wait for the memory of each. @throws as Row::Number
-    std::int32_t NumberOf(const Row& row, std::size_t column, Conversion conversion) const;
+    /// A row's field as a whole number, from the numbers that are kept of its column: for going through many
+    /// rows, each of which would otherwise have to be fetched from memory and read. @throws as Row::Number
+    std::int32_t NumberOf(const Row& row, std::size_t column,
+                          Conversion conversion = Conversion::Strict) const;
 
     /// Calls `test` with each row that holds the number in the column, in table order, until one answers
     /// true; returns whether one did. @throws as FindFirst, once the rows before the faulty one are tested
@@ -107,11 +108,11 @@ public:
     bool AnyMatch(std::size_t column, std::int32_t number, const Test& test,
                   Conversion conversion = Conversion::Strict) const
     {
-        const ColumnIndex& index = IndexOf(column, conversion);
-        for (const std::uint32_t position : index.Positions(number))
+        const ReadColumn& searched = Indexed(column, conversion);
+        for (const std::uint32_t position : searched.Index->Positions(number))
             if (test(Rows[position]))
                 return true;
-        RequireCovered(index, column);
+        RequireWhole(searched, column);
         return false;
     }
 
@@ -129,16 +130,25 @@ public:
     }
 
 private:
+    /// The numbers of a column by position, up to the first row whose field cannot be read as one, since a
+    /// scan ends there in an error; and where they stand, once something was searched.
+    struct ReadColumn
+    {
+        std::vector<std::int32_t> Numbers;
+        std::optional<ColumnIndex> Index;
+    };
+
     Row NewRow(std::span<const std::string_view> fields, std::uint32_t line);
-    const ColumnIndex& IndexOf(std::size_t column, Conversion conversion) const;
-    void RequireCovered(const ColumnIndex& index, std::size_t column) const;
+    ReadColumn& Read(std::size_t column, Conversion conversion) const;
+    const ReadColumn& Indexed(std::size_t column, Conversion conversion) const;
+    void RequireWhole(const ReadColumn& searched, std::size_t column) const;
     void ContentChanged();
 
     const TableLayout* TableColumns;
     std::unique_ptr<std::pmr::monotonic_buffer_resource> Memory; // the fields of all rows
     std::vector<Row> Rows;
-    mutable std::vector<std::array<std::optional<ColumnIndex>, 2>> Indexes; // by column and conversion,
-                                                                            // each built when first needed
-    mutable bool HasIndexes = false;
+    mutable std::vector<std::array<std::optional<ReadColumn>, 2>> ReadColumns; // by column and conversion,
+                                                                               // each read when first needed
+    mutable bool HasReadColumns = false;
     std::uint64_t ContentRevision;
 };

@@ -41,3 +41,9 @@ std::optional<CourseLoad> CourseLoadOf(const Row& kolegij, const CountingRules& 
                        .ECTS = kolegij.Number(Kolegij::ECTS, rules.Hours),
                        .Kolegija = 1}};
 }
+
+void AddTo(LoadSums& sums, const std::optional<CourseLoad>& load)
+{
+    if (load)
+        sums.Add(load->Semestar, load->Type, load->Adds);
+}

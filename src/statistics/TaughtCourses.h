@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/Errors.h"
 #include "data/Numbers.h"
 #include "data/Table.h"
 #include "data/modData.h"
@@ -8,6 +9,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 // What the statistics of lecturers and of departments share: who teaches what, the rows of their course
@@ -43,27 +45,40 @@ struct CourseLoad
 /// @throws TypeMismatch, Overflow where a conversion is strict; SubscriptOutOfRange
 std::optional<CourseLoad> CourseLoadOf(const Row& kolegij, const CountingRules& rules);
 
-/// Keeps what courses add to the sums while an export is made: each comes once for every lecturer of it, and
-/// reading its numbers anew each time would be half of the export's work.
+/// Adds what a course adds to the sums, if anything. @throws Overflow
+void AddTo(LoadSums& sums, const std::optional<CourseLoad>& load);
+
+/// A rule for what a course adds to the sums, worked out beforehand for all of the program's courses: an
+/// export meets each course once for every lecturer of it, and out of order.
+template<typename Rule>
 class CourseLoads
 {
 public:
-    CourseLoads() : Known(modData::Kolegiji.RowCount()) {}
-
-    /// Adds what `workOut` gives for a row of the program's courses, if anything; it is asked but once.
-    /// @throws Overflow, and as `workOut`
-    template<typename WorkOut>
-    void AddTo(LoadSums& sums, const Row& kolegij, const WorkOut& workOut)
+    /// Goes through the courses in table order, up to the first that the rule throws for.
+    explicit CourseLoads(Rule rule) : LoadOf(std::move(rule))
     {
-        std::optional<std::optional<CourseLoad>>& known = Known.at(modData::Kolegiji.PositionOf(kolegij));
-        if (!known)
-            known = workOut(kolegij);
-        if (const std::optional<CourseLoad>& load = *known)
-            sums.Add(load->Semestar, load->Type, load->Adds);
+        Known.reserve(modData::Kolegiji.RowCount());
+        try
+        {
+            for (const Row& kolegij : modData::Kolegiji)
+                Known.push_back(LoadOf(kolegij));
+        }
+        catch (const RuntimeError&)
+        {
+            // It is no error before the export comes to that course, which it may never do.
+        }
+    }
+
+    /// What a row of the program's courses adds. @throws as the rule
+    std::optional<CourseLoad> operator()(const Row& kolegij) const
+    {
+        const std::size_t position = modData::Kolegiji.PositionOf(kolegij);
+        return position < Known.size() ? Known[position] : LoadOf(kolegij);
     }
 
 private:
-    std::vector<std::optional<std::optional<CourseLoad>>> Known; // by the course's position
+    Rule LoadOf;
+    std::vector<std::optional<CourseLoad>> Known; // by the course's position
 };
 
 /// Calls `visit` with each course that a lecturer is linked to, once per link, in the order of the links,

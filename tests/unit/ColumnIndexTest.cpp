@@ -30,6 +30,20 @@ std::string Outcome(const Search& search)
     return found;
 }
 
+/// A number, or the error in its place, as text.
+template<typename Reading>
+std::string NumberOrError(const Reading& reading)
+{
+    try
+    {
+        return std::to_string(reading());
+    }
+    catch (const RuntimeError& error)
+    {
+        return error.Description();
+    }
+}
+
 /// Reads every row, and stops behind the first match where only that is wanted.
 auto Scan(const Table& table, std::int32_t number, Conversion conversion, bool stopAtMatch)
 {
@@ -84,11 +98,27 @@ TEST(ColumnIndex, FindsWhatReadingRowByRowFinds)
     }
 }
 
+TEST(ColumnIndex, KeepsTheNumberThatReadingARowGives)
+{
+    std::mt19937 random(2);
+    for (int round = 0; round < 3000; ++round)
+    {
+        const Table table = RandomTable(random);
+        for (const Conversion conversion : {Conversion::Strict, Conversion::Safe})
+            for (const Row& row : table)
+            {
+                const auto kept = [&] { return table.NumberOf(row, Column, conversion); };
+                const auto read = [&] { return row.Number(Column, conversion); };
+                ASSERT_EQ(NumberOrError(kept), NumberOrError(read));
+            }
+    }
+}
+
 TEST(ColumnIndex, AnEmptyTableHoldsNothing)
 {
-    const ColumnIndex index({}, Column, Conversion::Strict);
+    const ColumnIndex index({});
     EXPECT_EQ(index.First(0), ColumnIndex::None);
-    EXPECT_EQ(index.Covered(), 0U);
+    EXPECT_TRUE(index.Positions(0).empty());
 }
 
 } // namespace

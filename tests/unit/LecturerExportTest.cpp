@@ -175,6 +175,12 @@ TEST_F(OneLecturersExport, HoursAndCreditsThatAreNoNumbersCountAsZero)
     EXPECT_THROW(LecturerLoadRows(1, All), TypeMismatch) << "unlike the table on the screen";
 }
 
+TEST_F(OneLecturersExport, AFaultyCourseThatNobodyTeachesIsNotMet)
+{
+    Use({"1;A;1;0;0;1;obvezni;1;1", "5;Ničiji;1;0;0;1;obvezni;prvi;1", "2;B;1;0;0;1;obvezni;1;1"});
+    EXPECT_EQ(Counted(), (Texts{"N;1;Obvezni;2;0;0;2;2", "N;TOTAL;Sve;2;0;0;2;2"}));
+}
+
 // Errors: nothing is written, and an older file stays
 
 class FailingLecturerExport : public OneLecturersExport
@@ -225,6 +231,24 @@ TEST_F(FailingLecturerExport, ARowThatIsTooShort)
     Use({"1;A;1;0;0;1;obvezni;1;1"});
     modData::KolegijNastavnici.Append(Texts{"1"});
     ExpectError<SubscriptOutOfRange>();
+}
+
+TEST_F(FailingLecturerExport, OfTwoFaultyCoursesTheOneLinkedFirstIsTold)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Nastavnici = {"1;N;;1", "2;M;;1"};
+    catalogue.Kolegiji = {"1;A;1;0;0;1;obvezni;prvi;1", "2;B;1;0;0;1;obvezni;drugi;1"};
+    catalogue.KolegijNastavnici = {"1;2;;", "2;1;;"};
+    catalogue.Use();
+    try
+    {
+        ExportAllLecturers(Folder.PathOf("older.csv"), All);
+        FAIL() << "no error";
+    }
+    catch (const TypeMismatch& error)
+    {
+        EXPECT_NE(error.Description().find("drugi"), std::string::npos) << error.Description();
+    }
 }
 
 TEST_F(FailingLecturerExport, OfTwoFaultsTheMissingNameIsToldOnEverySystem)

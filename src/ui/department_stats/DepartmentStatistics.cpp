@@ -31,17 +31,25 @@ template<typename Visit>
 void ForEachCourse(std::int32_t zavodID, const Visit& visit)
 {
     const auto visitTaught = [&](const Row& nastavnik)
-    { ForEachTaughtCourse(nastavnik.Number(Nastavnik::ID, Conversion::Safe), Conversion::Safe, visit); };
+    {
+        ForEachTaughtCourse(modData::Nastavnici.NumberOf(nastavnik, Nastavnik::ID, Conversion::Safe),
+                            Conversion::Safe, visit);
+    };
     modData::Nastavnici.ForEachMatch(Nastavnik::ZavodID, zavodID, visitTaught, Conversion::Safe);
 }
 
-LoadSums SumsOf(std::int32_t zavodID, const DepartmentFilter& filter, CourseLoads& loads)
+/// What a course adds to the sums, nothing when it does not pass.
+auto LoadRule(const DepartmentFilter& filter)
 {
-    const auto passingLoad = [&](const Row& kolegij)
+    return [&filter](const Row& kolegij)
     { return Passes(kolegij, filter) ? CourseLoadOf(kolegij, SafeRules) : std::nullopt; };
+}
 
+template<typename Rule>
+LoadSums SumsOf(std::int32_t zavodID, const Rule& loadOf)
+{
     LoadSums sums;
-    ForEachCourse(zavodID, [&](const Row& kolegij) { loads.AddTo(sums, kolegij, passingLoad); });
+    ForEachCourse(zavodID, [&](const Row& kolegij) { AddTo(sums, loadOf(kolegij)); });
     return sums;
 }
 
@@ -63,19 +71,18 @@ std::vector<ListRow> DepartmentCourseRows(std::int32_t zavodID, const Department
 
 std::vector<ListRow> DepartmentLoadRows(std::int32_t zavodID, const DepartmentFilter& filter)
 {
-    CourseLoads loads;
-    return LoadRows(SumsOf(zavodID, filter, loads), PlainStyle);
+    return LoadRows(SumsOf(zavodID, LoadRule(filter)), PlainStyle);
 }
 
 void ExportAllDepartments(std::string_view path, const DepartmentFilter& filter)
 {
     TextFile file;
     AddLoadHeader(file, "Zavod");
-    CourseLoads loads;
+    const CourseLoads loads(LoadRule(filter));
     for (const Row& zavod : modData::Zavodi)
     {
         const std::string_view name = zavod.Field(Zavod::Naziv);
-        const LoadSums sums = SumsOf(zavod.Number(Zavod::ID, Conversion::Safe), filter, loads);
+        const LoadSums sums = SumsOf(zavod.Number(Zavod::ID, Conversion::Safe), loads);
         AddLoadBlock(file, name, LoadLines(sums, PlainStyle));
     }
     file.SaveAs(path);

@@ -23,15 +23,19 @@ bool Passes(const Row& kolegij, const LecturerFilter& filter)
            (filter.Program == Svi || filter.Program == kratica);
 }
 
-LoadSums SumsOf(std::int32_t nastavnikID, const LecturerFilter& filter, const CountingRules& rules,
-                CourseLoads& loads)
+/// What a course adds to the sums, nothing when it does not pass.
+auto LoadRule(const LecturerFilter& filter, const CountingRules& rules)
 {
-    const auto passingLoad = [&](const Row& kolegij)
+    return [&filter, &rules](const Row& kolegij)
     { return Passes(kolegij, filter) ? CourseLoadOf(kolegij, rules) : std::nullopt; };
+}
 
+template<typename Rule>
+LoadSums SumsOf(std::int32_t nastavnikID, const Rule& loadOf)
+{
     LoadSums sums;
     ForEachTaughtCourse(nastavnikID, Conversion::Strict,
-                        [&](const Row& kolegij) { loads.AddTo(sums, kolegij, passingLoad); });
+                        [&](const Row& kolegij) { AddTo(sums, loadOf(kolegij)); });
     return sums;
 }
 
@@ -52,19 +56,18 @@ std::vector<ListRow> LecturerCourseRows(std::int32_t nastavnikID, const Lecturer
 
 std::vector<ListRow> LecturerLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter)
 {
-    CourseLoads loads;
-    return LoadRows(SumsOf(nastavnikID, filter, ShownRules, loads), FlaggingStyle);
+    return LoadRows(SumsOf(nastavnikID, LoadRule(filter, ShownRules)), FlaggingStyle);
 }
 
 void ExportAllLecturers(std::string_view path, const LecturerFilter& filter)
 {
     TextFile file;
     AddLoadHeader(file, "Nastavnik");
-    CourseLoads loads;
+    const CourseLoads loads(LoadRule(filter, ExportRules));
     for (const Row& nastavnik : modData::Nastavnici)
     {
         const std::string_view name = nastavnik.Field(Nastavnik::PrezimeIme);
-        const LoadSums sums = SumsOf(nastavnik.Number(Nastavnik::ID), filter, ExportRules, loads);
+        const LoadSums sums = SumsOf(nastavnik.Number(Nastavnik::ID), loads);
         AddLoadBlock(file, name, LoadLines(sums, FlaggingStyle));
     }
     file.SaveAs(path);

@@ -66,22 +66,24 @@ std::string SearchKey(std::string_view typed)
 
 bool KolegijHasSmjer(std::int32_t kolegijID, std::int32_t smjerID)
 {
-    return modData::KolegijSmjerovi.AnyMatch(KolegijSmjer::KolegijID, kolegijID,
-                                             [&](const Row& link)
-                                             { return link.Number(KolegijSmjer::SmjerID) == smjerID; });
+    return modData::KolegijSmjerovi.AnyMatch(
+        KolegijSmjer::KolegijID, kolegijID,
+        [&](const Row& link)
+        { return modData::KolegijSmjerovi.NumberOf(link, KolegijSmjer::SmjerID) == smjerID; });
 }
 
 std::string GetSmjeroviForKolegijString(std::int32_t kolegijID)
 {
     std::string joined;
-    modData::KolegijSmjerovi.ForEachMatch(KolegijSmjer::KolegijID, kolegijID,
-                                          [&](const Row& link)
-                                          {
-                                              const Row* smjer = modData::Smjerovi.FindFirst(
-                                                  Smjer::ID, link.Number(KolegijSmjer::SmjerID));
-                                              if (smjer != nullptr)
-                                                  AppendJoined(joined, ", ", smjer->Field(Smjer::Kratica));
-                                          });
+    modData::KolegijSmjerovi.ForEachMatch(
+        KolegijSmjer::KolegijID, kolegijID,
+        [&](const Row& link)
+        {
+            const Row* smjer = modData::Smjerovi.FindFirst(
+                Smjer::ID, modData::KolegijSmjerovi.NumberOf(link, KolegijSmjer::SmjerID));
+            if (smjer != nullptr)
+                AppendJoined(joined, ", ", smjer->Field(Smjer::Kratica));
+        });
     return joined;
 }
 
