@@ -4,7 +4,6 @@
 #include "data/Text.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace
 {
@@ -54,7 +53,7 @@ std::string TableLayout::Header() const
 
 void Row::ThrowTooShort(std::size_t column) const
 {
-    throw SubscriptOutOfRange({Layout->FileName, Line, Layout->Columns[column]});
+    throw SubscriptOutOfRange({Layout->FileName, LineNumber, Layout->Columns[column]});
 }
 
 std::int32_t Row::Number(std::size_t column, Conversion conversion) const
@@ -65,9 +64,9 @@ std::int32_t Row::Number(std::size_t column, Conversion conversion) const
     std::int32_t value = 0;
     const NumberReading reading = ReadLong(text, value);
     if (reading == NumberReading::NotNumeric)
-        throw TypeMismatch(text, {Layout->FileName, Line, Layout->Columns[column]});
+        throw TypeMismatch(text, {Layout->FileName, LineNumber, Layout->Columns[column]});
     if (reading == NumberReading::TooLarge)
-        throw Overflow(text, {Layout->FileName, Line, Layout->Columns[column]});
+        throw Overflow(text, {Layout->FileName, LineNumber, Layout->Columns[column]});
     return value;
 }
 
@@ -79,20 +78,25 @@ Table::Table(const TableLayout& layout)
 {
 }
 
-void Table::Append(std::span<const std::string_view> fields, std::uint32_t line)
+void Table::AppendLine(std::string_view line, std::uint32_t lineNumber)
 {
-    Rows.push_back(NewRow(fields, line));
+    FieldEnds.clear();
+    for (std::size_t end = line.find(';'); end != std::string_view::npos; end = line.find(';', end + 1))
+        FieldEnds.push_back(static_cast<std::uint32_t>(end));
+    FieldEnds.push_back(static_cast<std::uint32_t>(line.size()));
+    Rows.push_back(NewRow(line, FieldEnds, lineNumber));
     ContentChanged();
 }
 
 void Table::Append(const std::vector<std::string>& fields)
 {
-    Append(std::vector<std::string_view>(fields.begin(), fields.end()), EnteredLine);
+    Rows.push_back(EnteredRow(fields));
+    ContentChanged();
 }
 
 void Table::Replace(std::size_t position, const std::vector<std::string>& fields)
 {
-    Rows[position] = NewRow(std::vector<std::string_view>(fields.begin(), fields.end()), EnteredLine);
+    Rows[position] = EnteredRow(fields);
     ContentChanged();
 }
 
@@ -130,29 +134,35 @@ std::int32_t Table::NumberOf(const Row& row, std::size_t column, Conversion conv
     return position < numbers.size() ? numbers[position] : row.Number(column, conversion);
 }
 
-Row Table::NewRow(std::span<const std::string_view> fields, std::uint32_t line)
+Row Table::NewRow(std::string_view line, std::span<const std::uint32_t> ends, std::uint32_t lineNumber)
 {
-    std::size_t length = 0;
-    for (const std::string_view field : fields)
-        length += field.size();
-
-    void* block = Memory->allocate(fields.size() * sizeof(std::uint32_t) + length, alignof(std::uint32_t));
-    auto* ends = static_cast<std::uint32_t*>(block);
-    char* text = reinterpret_cast<char*>(ends + fields.size());
-    std::uint32_t end = 0;
-    for (std::size_t i = 0; i < fields.size(); ++i)
-    {
-        std::ranges::copy(fields[i], text + end);
-        end += static_cast<std::uint32_t>(fields[i].size());
-        ends[i] = end;
-    }
+    void* block = Memory->allocate(ends.size_bytes() + line.size(), alignof(std::uint32_t));
+    auto* keptEnds = static_cast<std::uint32_t*>(block);
+    auto* keptLine = reinterpret_cast<char*>(keptEnds + ends.size());
+    std::ranges::copy(ends, keptEnds);
+    std::ranges::copy(line, keptLine);
 
     Row row;
     row.Layout = TableColumns;
-    row.Ends = ends;
-    row.Count = static_cast<std::uint32_t>(fields.size());
-    row.Line = line;
+    row.Ends = keptEnds;
+    row.Count = static_cast<std::uint32_t>(ends.size());
+    row.LineNumber = lineNumber;
     return row;
+}
+
+/// A field that was entered may hold a ";" of its own.
+Row Table::EnteredRow(const std::vector<std::string>& fields)
+{
+    std::string line;
+    FieldEnds.clear();
+    for (const std::string& field : fields)
+    {
+        if (!FieldEnds.empty())
+            line += ';';
+        line += field;
+        FieldEnds.push_back(static_cast<std::uint32_t>(line.size()));
+    }
+    return NewRow(line, FieldEnds, EnteredLine);
 }
 
 Table::ReadColumn& Table::Read(std::size_t column, Conversion conversion) const

@@ -36,9 +36,9 @@ public:
     {
         if (column >= Count)
             ThrowTooShort(column);
-        const char* text = reinterpret_cast<const char*>(Ends + Count);
-        const std::uint32_t begin = column == 0 ? 0 : Ends[column - 1];
-        return {text + begin, Ends[column] - begin};
+        const char* line = reinterpret_cast<const char*>(Ends + Count);
+        const std::uint32_t begin = column == 0 ? 0 : Ends[column - 1] + 1;
+        return {line + begin, Ends[column] - begin};
     }
 
     /// A field as a whole number. @throws SubscriptOutOfRange when the row is too short, and where the
@@ -51,9 +51,9 @@ private:
     [[noreturn]] void ThrowTooShort(std::size_t column) const;
 
     const TableLayout* Layout = nullptr;
-    const std::uint32_t* Ends = nullptr; // where each field ends in the text, which follows them
+    const std::uint32_t* Ends = nullptr; // where each field ends in the line, which follows them
     std::uint32_t Count = 0;
-    std::uint32_t Line = 0; // in the file; 0 when no file holds the row yet
+    std::uint32_t LineNumber = 0; // in the file; 0 when no file holds the row yet
 };
 
 /// An ordered collection of rows. Searches give what a scan from the first row gives, errors included.
@@ -74,8 +74,8 @@ public:
     auto begin() const { return Rows.begin(); }
     auto end() const { return Rows.end(); }
 
-    /// Adds a row of the file behind the last one; `line` is its line there.
-    void Append(std::span<const std::string_view> fields, std::uint32_t line);
+    /// Adds a row behind the last one: the fields of a line of the file, which ";" separates.
+    void AppendLine(std::string_view line, std::uint32_t lineNumber);
 
     /// Adds a row that no file holds yet behind the last one.
     void Append(const std::vector<std::string>& fields);
@@ -138,14 +138,16 @@ private:
         std::optional<ColumnIndex> Index;
     };
 
-    Row NewRow(std::span<const std::string_view> fields, std::uint32_t line);
+    Row NewRow(std::string_view line, std::span<const std::uint32_t> ends, std::uint32_t lineNumber);
+    Row EnteredRow(const std::vector<std::string>& fields);
     ReadColumn& Read(std::size_t column, Conversion conversion) const;
     const ReadColumn& Indexed(std::size_t column, Conversion conversion) const;
     void RequireWhole(const ReadColumn& searched, std::size_t column) const;
     void ContentChanged();
 
     const TableLayout* TableColumns;
-    std::unique_ptr<std::pmr::monotonic_buffer_resource> Memory; // the fields of all rows
+    std::unique_ptr<std::pmr::monotonic_buffer_resource> Memory; // the lines of all rows
+    std::vector<std::uint32_t> FieldEnds;                        // of the line that is being added
     std::vector<Row> Rows;
     mutable std::vector<std::array<std::optional<ReadColumn>, 2>> ReadColumns; // by column and conversion,
                                                                                // each read when first needed

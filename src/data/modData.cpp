@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <vector>
 
 namespace
 {
@@ -61,17 +60,6 @@ std::string_view TakeLine(std::string_view& content)
     else if (!content.empty())
         content.remove_prefix(1);
     return line;
-}
-
-void SplitFields(std::string_view line, std::vector<std::string_view>& fields)
-{
-    fields.clear();
-    for (std::size_t end = line.find(';'); end != std::string_view::npos; end = line.find(';'))
-    {
-        fields.push_back(line.substr(0, end));
-        line.remove_prefix(end + 1);
-    }
-    fields.push_back(line);
 }
 
 std::string LineOf(const Row& row)
@@ -129,14 +117,11 @@ Table LoadTable(std::string_view path, const TableLayout& layout)
     Table table(layout);
     std::string_view rest = content;
     TakeLine(rest); // the header, whatever it says
-    std::vector<std::string_view> fields;
     for (std::uint32_t lineNumber = 2; !rest.empty(); ++lineNumber)
     {
         const std::string_view line = TakeLine(rest);
-        if (TrimBlanks(line).empty())
-            continue;
-        SplitFields(line, fields);
-        table.Append(fields, lineNumber);
+        if (!TrimBlanks(line).empty())
+            table.AppendLine(line, lineNumber);
     }
     return table;
 }

@@ -9,19 +9,6 @@
 namespace
 {
 
-std::vector<std::string_view> Fields(std::string_view line)
-{
-    std::vector<std::string_view> fields;
-    std::size_t begin = 0;
-    for (std::size_t end = line.find(';'); end != std::string_view::npos; end = line.find(';', begin))
-    {
-        fields.push_back(line.substr(begin, end - begin));
-        begin = end + 1;
-    }
-    fields.push_back(line.substr(begin));
-    return fields;
-}
-
 std::vector<std::pair<Table*, const Catalogue::Lines*>> Parts(const Catalogue& catalogue)
 {
     return {
@@ -44,7 +31,7 @@ void Catalogue::Use() const
         Table filled(table->Layout());
         std::uint32_t lineNumber = 1;
         for (const std::string_view line : *lines)
-            filled.Append(Fields(line), ++lineNumber);
+            filled.AppendLine(line, ++lineNumber);
         *table = std::move(filled);
     }
 }
