@@ -157,6 +157,11 @@ constexpr Case AllCases[] = {
      },
      nullptr, Clock::Processor, Growth::Product},
 
+    // Indexes and search texts are made anew.
+    {"key stroke, edited", Ours, KeyStroke, EditFirstCourse},
+    {"list refresh, edited", Ours, [](Bench& bench) { bench.Courses = CourseRows(NoFilter); },
+     EditFirstCourse},
+
     {"sort by a column", Ours,
      [](Bench& bench) { bench.Positions = SortedPositions(bench.Courses, ByTitle); },
      [](Bench& bench)

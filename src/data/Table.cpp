@@ -170,7 +170,7 @@ Table::ReadColumn& Table::Read(std::size_t column, Conversion conversion) const
     std::optional<ReadColumn>& read = ReadColumns[column][static_cast<std::size_t>(conversion)];
     if (!read)
     {
-        read.emplace(ReadKeys(Rows, column, conversion), std::nullopt);
+        read = ReadColumn{ReadKeys(Rows, column, conversion), std::nullopt};
         HasReadColumns = true;
     }
     return *read;
