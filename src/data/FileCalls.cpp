@@ -9,7 +9,13 @@ namespace
 
 bool Write(std::FILE* file, std::string_view bytes)
 {
-    return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0;
+    errno = 0;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0)
+        return true;
+    // Of a write that the disk takes a part of, Windows' C library tells no reason, or a wrong one.
+    if (errno == 0 || errno == EINVAL)
+        errno = ENOSPC;
+    return false;
 }
 
 bool FlushToDisk(std::FILE* file)

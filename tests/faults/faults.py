@@ -94,6 +94,13 @@ class Program:
         self.base = Path(base)
         self.data = self.base / "Varlostudiji"
 
+    def told(self, path):
+        """A path below the program's base as the program writes it in a message."""
+        if not self.windows:
+            return str(path)
+        return "\\".join([f"C:\\users\\{getpass.getuser()}\\AppData\\Local",
+                          *Path(path).relative_to(self.base).parts])
+
     def close(self):
         if self.own_base:
             shutil.rmtree(self.own_base, ignore_errors=True)
