@@ -76,13 +76,14 @@ std::string SmjeroviString(const Catalogue& catalogue, std::int32_t kolegijID)
 ListRow CourseRow(const Catalogue& catalogue, const TextRow& kolegij)
 {
     const TextTable& kolegiji = catalogue.Kolegiji;
-    const std::int32_t id = Number(kolegiji, kolegij, Kolegij::ID);
+    const std::string studij =
+        TextOfID(catalogue.Studiji, Number(kolegiji, kolegij, Kolegij::StudijID), Studij::Kratica);
     std::vector<std::string> texts;
     for (const Kolegij::Column column : {Kolegij::ID, Kolegij::Naziv, Kolegij::P, Kolegij::S, Kolegij::V,
                                          Kolegij::ECTS, Kolegij::Tip, Kolegij::Semestar})
         texts.push_back(Field(kolegiji, kolegij, column));
-    texts.push_back(
-        TextOfID(catalogue.Studiji, Number(kolegiji, kolegij, Kolegij::StudijID), Studij::Kratica));
+    texts.push_back(studij);
+    const std::int32_t id = Number(kolegiji, kolegij, Kolegij::ID);
     texts.push_back(SmjeroviString(catalogue, id));
     texts.push_back(NastavniciString(catalogue, id));
 

@@ -117,9 +117,9 @@ std::string SavedFile(const TextTable& table)
 void RemoveRows(TextTable& table, std::int32_t id)
 {
     std::vector<TextRow> kept;
-    for (const TextRow& row : table.Rows)
-        if (Number(table, row, 0) != id)
-            kept.push_back(row);
+    for (std::size_t i = table.Rows.size(); i-- > 0;)
+        if (Number(table, table.Rows[i], 0) != id)
+            kept.insert(kept.begin(), table.Rows[i]);
     table.Rows = kept;
 }
 

@@ -12,16 +12,10 @@ bool Write(std::FILE* file, std::string_view bytes)
     errno = 0;
     if (std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0)
         return true;
-    // Of a write that the disk takes a part of, Windows' C library tells no reason, or a wrong one.
+    // Of a write that the disk takes a part of, some C libraries tell no reason, or a wrong one.
     if (errno == 0 || errno == EINVAL)
         errno = ENOSPC;
     return false;
-}
-
-bool FlushToDisk(std::FILE* file)
-{
-    // A device such as a pipe has nothing to flush to and says so; that is no failure.
-    return System::FlushToDisk(file) || errno == EINVAL;
 }
 
 bool Close(std::FILE* file)
@@ -38,6 +32,6 @@ std::error_code Remove(const std::filesystem::path& path)
 
 } // namespace
 
-const FileCalls SystemFileCalls = {System::Open, Write, FlushToDisk, Close, System::Replace, Remove};
+const FileCalls SystemFileCalls = {System::Open, Write, System::FlushToDisk, Close, System::Replace, Remove};
 
 FileCalls CurrentFileCalls = SystemFileCalls;

@@ -120,7 +120,7 @@ std::vector<PlacedNastavnik> GetNastavniciForKolegij(std::int32_t kolegijId)
             const Row* nastavnik = Nastavnici.FindFirst(
                 Nastavnik::ID, KolegijNastavnici.NumberOf(link, KolegijNastavnik::NastavnikID));
             if (nastavnik != nullptr)
-                found.push_back({*nastavnik, KolegijNastavnici.NumberOf(link, KolegijNastavnik::Redoslijed)});
+                found.push_back({nastavnik, KolegijNastavnici.NumberOf(link, KolegijNastavnik::Redoslijed)});
         });
     OrderByRedoslijed(found);
     return found;

@@ -22,7 +22,7 @@ std::string GetNastavnikIme(std::int32_t id);
 /// A lecturer of a course with the place (`Redoslijed`) that the link gives.
 struct PlacedNastavnik
 {
-    Row Nastavnik;
+    const Row* Nastavnik; // in the table
     std::int32_t Redoslijed;
 };
 

@@ -25,7 +25,7 @@ std::string ProgramFolder();
 /// Opens a file for reading ("rb") or writing ("wb", "ab"), binary; a null pointer and `errno` on failure.
 std::FILE* Open(const std::filesystem::path& path, const char* mode);
 
-/// Hands a file's content to the disk itself; false and `errno` on failure.
+/// Hands a file's content to the disk itself, where the file has one; false and `errno` on failure.
 bool FlushToDisk(std::FILE* file);
 
 /// False for a file or folder that is marked as not to be written, even to a user who could do it all the

@@ -27,7 +27,8 @@ std::FILE* Open(const std::filesystem::path& path, const char* mode)
 
 bool FlushToDisk(std::FILE* file)
 {
-    return ::fsync(::fileno(file)) == 0;
+    // A device such as a pipe has nothing to flush to and says so; that is no failure.
+    return ::fsync(::fileno(file)) == 0 || errno == EINVAL;
 }
 
 bool MayWrite(const std::filesystem::path& path)
@@ -53,7 +54,8 @@ std::error_code Replace(const std::filesystem::path& from, const std::filesystem
         return failure;
     // The new name is on disk only when its folder is; a folder that cannot be flushed has still been renamed
     // in.
-    const int folder = ::open(to.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const std::filesystem::path folderPath = to.has_parent_path() ? to.parent_path() : ".";
+    const int folder = ::open(folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder >= 0)
     {
         ::fsync(folder);

@@ -104,8 +104,9 @@ void Table::RemoveMatches(std::size_t column, std::int32_t number)
 {
     std::vector<Row> kept;
     kept.reserve(Rows.size());
-    std::ranges::copy_if(Rows, std::back_inserter(kept),
-                         [&](const Row& row) { return row.Number(column) != number; });
+    std::copy_if(Rows.rbegin(), Rows.rend(), std::back_inserter(kept),
+                 [&](const Row& row) { return row.Number(column) != number; });
+    std::ranges::reverse(kept);
     Rows.swap(kept);
     ContentChanged();
 }
@@ -184,17 +185,17 @@ const Table::ReadColumn& Table::Indexed(std::size_t column, Conversion conversio
     return read;
 }
 
-/// A scan that went on to the end met the first row that cannot be read.
+/// A search that has not found enough ends as a scan does: in the error of the first row that cannot be read.
 void Table::RequireWhole(const ReadColumn& searched, std::size_t column) const
 {
     if (searched.Numbers.size() < Rows.size())
-        Rows[searched.Numbers.size()].Number(column); // throws
+        Rows[searched.Numbers.size()].Number(column); // throws; where reading is safe, the row is too short
 }
 
 void Table::ContentChanged()
 {
     ContentRevision = NextRevision();
-    if (!HasReadColumns) // as for each row but the first while a table is loaded
+    if (!HasReadColumns) // as for every row while a table is loaded
         return;
     HasReadColumns = false;
     for (auto& ofColumn : ReadColumns)

@@ -70,6 +70,7 @@ public:
 
     std::size_t RowCount() const { return Rows.size(); }
     const Row& operator[](std::size_t position) const { return Rows[position]; }
+    /// The position of one of the table's own rows; a copy has none.
     std::size_t PositionOf(const Row& row) const { return static_cast<std::size_t>(&row - Rows.data()); }
     auto begin() const { return Rows.begin(); }
     auto end() const { return Rows.end(); }
@@ -83,9 +84,9 @@ public:
     /// Puts a new row, which no file holds yet, in the place of the one at a position.
     void Replace(std::size_t position, const std::vector<std::string>& fields);
 
-    /// Removes every row that holds the number in the column.
-    /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row that cannot be compared; then none is
-    /// removed
+    /// Removes every row that holds the number in the column, from the last row to the first.
+    /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for the first row on that way that cannot be
+    /// compared; then none is removed
     void RemoveMatches(std::size_t column, std::int32_t number);
 
     /// The first row that holds the number in the column; null when there is none.
@@ -97,8 +98,9 @@ public:
     std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number,
                                             Conversion conversion = Conversion::Strict) const;
 
-    /// A row's field as a whole number, from the numbers that are kept of its column: for going through many
-    /// rows, each of which would otherwise have to be fetched from memory and read. @throws as Row::Number
+    /// Row::Number for one of the table's own rows, from the numbers that are kept of the column: for going
+    /// through many rows, each of which would otherwise have to be fetched from memory and read. @throws as
+    /// Row::Number
     std::int32_t NumberOf(const Row& row, std::size_t column,
                           Conversion conversion = Conversion::Strict) const;
 

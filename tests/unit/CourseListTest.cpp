@@ -228,6 +228,34 @@ TEST(CourseList, ACourseWithTooFewFieldsIsAnError)
     EXPECT_NO_THROW(CourseRows({.Semestar = 2})) << "the semester rules it out before";
 }
 
+/// The error that the list without filters ends in.
+std::string ErrorOfAllRows(const Catalogue& catalogue)
+{
+    catalogue.Use();
+    try
+    {
+        CourseRows({});
+    }
+    catch (const RuntimeError& error)
+    {
+        return std::to_string(error.Number()) + " " + error.Description();
+    }
+    return {};
+}
+
+TEST(CourseList, OfACoursesFaultsTheStudysIsTold)
+{
+    Catalogue catalogue;
+    catalogue.Studiji = {"1;Lovstvo;LOR;Preddiplomski"};
+    catalogue.Kolegiji = {"99999999999;A;1;1;1;1;obvezni;1;abc"};
+    EXPECT_EQ(ErrorOfAllRows(catalogue).substr(0, 3), "13 ");
+    catalogue.Kolegiji = {"abc;A;1"};
+    EXPECT_EQ(ErrorOfAllRows(catalogue).substr(0, 2), "9 ");
+    catalogue.Studiji = {"x;Lovstvo;LOR;Preddiplomski"};
+    catalogue.Kolegiji = {"99999999999;A;1;1;1;1;obvezni;1;1"};
+    EXPECT_NE(ErrorOfAllRows(catalogue).find("db_studij.csv"), std::string::npos);
+}
+
 TEST(CourseDeletion, TakesTheCourseAndItsLinksAndNothingElse)
 {
     Catalogue catalogue = SmallCatalogue();

@@ -30,7 +30,8 @@ std::string NastavniciForKolegij()
 {
     std::string names;
     for (const PlacedNastavnik& placed : GetNastavniciForKolegij(1))
-        names.append(placed.Nastavnik.Field(Nastavnik::PrezimeIme)).append(std::to_string(placed.Redoslijed));
+        names.append(placed.Nastavnik->Field(Nastavnik::PrezimeIme))
+            .append(std::to_string(placed.Redoslijed));
     return names;
 }
 
@@ -156,8 +157,8 @@ TEST(Lookups, ALecturerComesWithTheWholeRowAndOfEqualIDsTheFirst)
     catalogue.Use();
     const auto found = GetNastavniciForKolegij(1);
     ASSERT_EQ(found.size(), 1U);
-    EXPECT_EQ(found[0].Nastavnik.FieldCount(), 5U);
-    EXPECT_EQ(found[0].Nastavnik.Field(Nastavnik::Titula), " dr. sc. ");
+    EXPECT_EQ(found[0].Nastavnik->FieldCount(), 5U);
+    EXPECT_EQ(found[0].Nastavnik->Field(Nastavnik::Titula), " dr. sc. ");
     EXPECT_EQ(found[0].Redoslijed, 2);
 }
 

@@ -272,6 +272,16 @@ TEST_F(Tables, RemovingStopsAtABadRowWithNothingRemoved)
 
 // The whole catalogue
 
+TEST_F(Tables, RemovingGoesFromTheLastRowToTheFirst)
+{
+    Table table = Load("\r\n5;1\r\nabc;2\r\n99999999999;3\r\n5;4\r\n");
+    EXPECT_THROW(table.RemoveMatches(KolegijSmjer::KolegijID, 5), Overflow);
+    EXPECT_EQ(table.RowCount(), 4U);
+    table = Load("\r\n5;1\r\n6;2\r\n5;3\r\n7;4\r\n");
+    table.RemoveMatches(KolegijSmjer::KolegijID, 5);
+    EXPECT_EQ(LinesOf(table), (Lines{"6;2", "7;4"}));
+}
+
 TEST_F(Tables, TheDemoCatalogueComesBackByteForByte)
 {
     const std::filesystem::path demo = std::filesystem::path(VARLO_SOURCE_DIR) / "demo";

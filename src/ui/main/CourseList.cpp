@@ -25,12 +25,14 @@ bool Passes(const Row& kolegij, const CourseFilter& filter, std::string_view sea
 
 void FillCourseRow(ListRow& row, const Row& kolegij)
 {
-    const std::int32_t id = kolegij.Number(Kolegij::ID);
+    // The study comes first: of several faults in a row its own is told.
+    const std::string studij = modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID));
     row.clear();
     row.Add(kolegij.Field(Kolegij::ID));
     for (const Kolegij::Column column : ShownFields)
         row.Add(kolegij.Field(column));
-    row.Add(modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID)));
+    row.Add(studij);
+    const std::int32_t id = kolegij.Number(Kolegij::ID);
     row.Add(GetSmjeroviForKolegijString(id));
     row.Add(GetNastavniciForKolegijString(id));
     row.SetColour(ElectiveColour(kolegij.Field(Kolegij::Tip)));
@@ -92,7 +94,7 @@ std::string GetNastavniciForKolegijString(std::int32_t kolegijID)
     std::string joined;
     std::string_view separator;
     for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
-        joined.append(std::exchange(separator, ", ")).append(placed.Nastavnik.Field(Nastavnik::PrezimeIme));
+        joined.append(std::exchange(separator, ", ")).append(placed.Nastavnik->Field(Nastavnik::PrezimeIme));
     return joined;
 }
 
