@@ -1,8 +1,10 @@
 #include "data/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace
 {
@@ -70,7 +72,14 @@ std::string UpperCase(std::string_view text)
     std::string upper;
     upper.reserve(text.size());
     while (!text.empty())
-        AppendCodePoint(upper, UpperCase(TakeCodePoint(text)));
+    {
+        const std::size_t begin = upper.size();
+        upper += TakeAscii(text);
+        for (char& c : std::span(upper).subspan(begin))
+            c = static_cast<char>(UpperTable[static_cast<std::uint8_t>(c)]);
+        if (!text.empty())
+            AppendCodePoint(upper, UpperCase(TakeCodePoint(text)));
+    }
     return upper;
 }
 
@@ -81,6 +90,14 @@ bool IsWord(std::string_view text, std::string_view upperCaseWord)
         if (UpperCase(TakeCodePoint(text)) != TakeCodePoint(upperCaseWord))
             return false;
     return text.empty() && upperCaseWord.empty();
+}
+
+std::string_view TakeAscii(std::string_view& text)
+{
+    const auto end = std::ranges::find_if(text, [](char c) { return (c & 0x80) != 0; });
+    const std::string_view ascii(text.begin(), end);
+    text.remove_prefix(ascii.size());
+    return ascii;
 }
 
 char32_t TakeCodePoint(std::string_view& text)

@@ -2,7 +2,6 @@
 
 #include "data/Text.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -47,16 +46,6 @@ char ByteOf(char32_t character)
         return static_cast<char>(character);
     const std::uint8_t byte = character < ByteTableSize ? ByteTable[character] : 0;
     return byte == 0 ? '?' : static_cast<char>(byte);
-}
-
-/// Takes off the ASCII characters that a text begins with: most of a text is ASCII, which goes over as it is,
-/// and in one piece that takes half of the time.
-std::string_view TakeAscii(std::string_view& text)
-{
-    const auto end = std::ranges::find_if(text, [](char c) { return (c & 0x80) != 0; });
-    const std::string_view ascii(text.begin(), end);
-    text.remove_prefix(ascii.size());
-    return ascii;
 }
 
 } // namespace

@@ -13,7 +13,9 @@ namespace
 /// The title, the credits, the type and the lecturers, a blank before each.
 std::string SearchTextOf(const Row& kolegij)
 {
+    constexpr std::size_t usualLength = 128;
     std::string text;
+    text.reserve(usualLength);
     for (const Kolegij::Column column : {Kolegij::Naziv, Kolegij::ECTS, Kolegij::Tip})
         text.append(" ").append(kolegij.Field(column));
     text.append(" ").append(GetNastavniciForKolegijString(kolegij.Number(Kolegij::ID)));
