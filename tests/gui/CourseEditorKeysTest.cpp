@@ -1,0 +1,289 @@
+// The course editor by keys and mouse.
+
+#include "data/modData.h"
+#include "support/CourseEditor.h"
+
+#include <wx/stopwatch.h>
+#include <wx/uiaction.h>
+#include <wx/utils.h>
+
+namespace
+{
+
+/// Presses a key in a control and gives the dialog the time to close; some systems show its button pressed
+/// for a moment first.
+void PressClosingKey(frmKolegij* editor, const char* control, int key)
+{
+    PressKey(Find<wxWindow>(editor, control), key);
+    const wxStopWatch watch;
+    while (editor->IsShown() && watch.Time() < 1000)
+        Settle();
+}
+
+/// A point of the screen that lies on an entry of a list.
+wxPoint PointOn(wxListBox* list, int entry)
+{
+    const wxSize size = list->GetClientSize();
+    for (int y = 0; y < size.y; ++y)
+        if (list->HitTest(size.x / 3, y) == entry && list->HitTest(size.x / 3, y + 4) == entry)
+            return list->ClientToScreen(wxPoint(size.x / 3, y + 4));
+    throw std::runtime_error("entry out of view");
+}
+
+/// Clicks an entry with the mouse, Ctrl or Shift held if given.
+void Click(wxListBox* list, int entry, wxKeyCode held = WXK_NONE)
+{
+    wxUIActionSimulator simulator;
+    simulator.MouseMove(PointOn(list, entry));
+    Settle();
+    if (held != WXK_NONE)
+        simulator.KeyDown(held);
+    simulator.MouseClick();
+    Settle();
+    if (held != WXK_NONE)
+        simulator.KeyUp(held);
+    Settle();
+}
+
+TEST_F(CourseEditor, EnterSavesFromAnyFieldOrList)
+{
+    Open();
+    std::size_t rows = modData::Kolegiji.RowCount();
+    for (const char* control : {"txtNaziv", "txtECTS", "lstSemestar", "lstSmjerovi", "lstNastavnik(2)"})
+    {
+        const EditorEnd end = Add(
+            [&](frmKolegij* editor)
+            {
+                FillValid(editor);
+                PressClosingKey(editor, control, WXK_RETURN);
+            });
+        EXPECT_EQ(end, EditorEnd::Closed) << control;
+        EXPECT_EQ(modData::Kolegiji.RowCount(), ++rows) << control;
+    }
+}
+
+TEST_F(CourseEditor, EscapeCancelsFromAnyFieldOrList)
+{
+    Open();
+    for (const char* control :
+         {"txtNaziv", "cboRazina", "cboObvezniIzborni", "lstSemestar", "lstSmjerovi", "lstNastavnik(3)"})
+    {
+        const EditorEnd end = Add(
+            [&](frmKolegij* editor)
+            {
+                FillValid(editor);
+                PressClosingKey(editor, control, WXK_ESCAPE);
+            });
+        EXPECT_EQ(end, EditorEnd::Closed) << control;
+    }
+    EXPECT_EQ(modData::Kolegiji.RowCount(), 5U);
+}
+
+TEST_F(CourseEditor, EnterInAWrongFieldWarnsAndKeepsTheDialogOpen)
+{
+    Open();
+    MessageAnswers answers;
+    const EditorEnd end = Add(
+        [&](frmKolegij* editor)
+        {
+            FillValid(editor);
+            SetText(editor, "txtV", "x");
+            PressKey(Find<wxWindow>(editor, "txtNaziv"), WXK_RETURN);
+            const wxStopWatch watch;
+            while (answers.Shown().empty() && watch.Time() < 1000)
+                Settle();
+            EXPECT_EQ(answers.TakeOnly().Text, "V mora biti broj.");
+            EXPECT_EQ(FocusName(editor), "txtV");
+        });
+    EXPECT_EQ(end, EditorEnd::LeftOpen);
+}
+
+/// The controls in which a key is pressed, first to last.
+class KeyLog
+{
+public:
+    KeyLog(frmKolegij* editor, int key) : Editor(editor)
+    {
+        // What has the focus is not always what the toolkit knows to have it; what gets a key is.
+        editor->Bind(wxEVT_CHAR_HOOK,
+                     [this, key](wxKeyEvent& event)
+                     {
+                         if (event.GetKeyCode() == key)
+                             Note(dynamic_cast<wxWindow*>(event.GetEventObject()));
+                         event.Skip();
+                     });
+    }
+
+    const Texts& Controls() const { return Names; }
+
+private:
+    void Note(const wxWindow* window)
+    {
+        while (window != nullptr && window->GetParent() != Editor)
+            window = window->GetParent();
+        if (window == nullptr)
+            return; // the arrow of a list that drops down, on some systems
+        const std::string name = window->GetName().utf8_string();
+        if (Names.empty() || Names.back() != name)
+            Names.push_back(name);
+    }
+
+    frmKolegij* Editor;
+    Texts Names;
+};
+
+TEST_F(CourseEditor, TabFollowsTheLayout)
+{
+    Open();
+    Add(
+        [](frmKolegij* editor)
+        {
+            const Texts layout = {"txtNaziv",
+                                  "cboRazina",
+                                  "cboProgram",
+                                  "txtP",
+                                  "txtS",
+                                  "txtV",
+                                  "txtECTS",
+                                  "cboObvezniIzborni",
+                                  "lstSemestar",
+                                  "lstSmjerovi",
+                                  "lstNastavnik(1)",
+                                  "lstNastavnik(2)",
+                                  "lstNastavnik(3)",
+                                  "cmdSave",
+                                  "cmdCancel",
+                                  "txtNaziv"};
+            const KeyLog log(editor, WXK_TAB);
+            Focus(Find<wxWindow>(editor, "txtNaziv"));
+            for (std::size_t i = 0; i < 2 * layout.size() && log.Controls().size() < layout.size(); ++i)
+            {
+                wxUIActionSimulator().Char(WXK_TAB);
+                Settle();
+            }
+            EXPECT_EQ(log.Controls(), layout);
+
+            for (std::size_t i = 1; i + 1 < layout.size(); ++i)
+            {
+                const wxRect former = Find<wxWindow>(editor, layout[i - 1])->GetScreenRect();
+                const wxRect next = Find<wxWindow>(editor, layout[i])->GetScreenRect();
+                EXPECT_TRUE(next.GetLeft() > former.GetRight() || next.GetTop() > former.GetBottom())
+                    << layout[i] << " stands neither right of " << layout[i - 1] << " nor below it";
+            }
+        });
+}
+
+TEST_F(CourseEditor, WalkingThroughTheListsSelectsNothing)
+{
+    Open();
+    Add(
+        [](frmKolegij* editor)
+        {
+            Focus(Find<wxWindow>(editor, "txtECTS"));
+            for (int stops = 0; stops < 9; ++stops) // past the last list, wherever drop-down lists stop twice
+            {
+                wxUIActionSimulator().Char(WXK_TAB);
+                Settle();
+            }
+            for (const char* name :
+                 {"lstSemestar", "lstSmjerovi", "lstNastavnik(1)", "lstNastavnik(2)", "lstNastavnik(3)"})
+                EXPECT_EQ(Selected(editor, name), Texts{}) << name;
+        });
+}
+
+TEST_F(CourseEditor, TheTypeCanBeTyped)
+{
+    Open();
+    const EditorEnd end = Add(
+        [](frmKolegij* editor)
+        {
+            FillValid(editor);
+            SetText(editor, "cboObvezniIzborni", "");
+            Type(Find<wxWindow>(editor, "cboObvezniIzborni"), "OBVEZNI");
+            Save(editor);
+        });
+    EXPECT_EQ(end, EditorEnd::Closed);
+    EXPECT_EQ(LinesOf(modData::Kolegiji).back(), "6;Novi kolegij;2;1;0;6;OBVEZNI;3;1");
+}
+
+Catalogue WithManyDirections()
+{
+    Catalogue catalogue = SmallCatalogue();
+    for (const char* line : {"11;A;A;1;Preddiplomski", "12;B;B;1;Preddiplomski", "13;C;C;1;Preddiplomski"})
+        catalogue.Smjerovi.push_back(line);
+    return catalogue;
+}
+
+TEST_F(CourseEditor, SeveralDirectionsAreSelectedWithTheMouse)
+{
+    Open(WithManyDirections());
+    Add(
+        [](frmKolegij* editor)
+        {
+            wxListBox* list = List(editor, "lstSmjerovi");
+            Click(list, 0);
+            EXPECT_EQ(Selected(editor, "lstSmjerovi"), Texts{"OPC"});
+            Click(list, 2, WXK_CONTROL);
+            EXPECT_EQ(Selected(editor, "lstSmjerovi"), (Texts{"OPC", "A"}));
+            Click(list, 0, WXK_CONTROL);
+            EXPECT_EQ(Selected(editor, "lstSmjerovi"), Texts{"A"});
+            Click(list, 1);
+            EXPECT_EQ(Selected(editor, "lstSmjerovi"), Texts{"POS"});
+            Click(list, 3, WXK_SHIFT);
+            EXPECT_EQ(Selected(editor, "lstSmjerovi"), (Texts{"POS", "A", "B"}));
+        });
+}
+
+TEST_F(CourseEditor, SeveralDirectionsAreSelectedWithTheKeyboardAndSavedInListOrder)
+{
+    Open(WithManyDirections());
+    const EditorEnd end = Add(
+        [](frmKolegij* editor)
+        {
+            FillValid(editor);
+            wxListBox* list = List(editor, "lstSmjerovi");
+            list->DeselectAll();
+            Click(list, 1);
+            PressKey(list, WXK_DOWN, wxMOD_SHIFT);
+            PressKey(list, WXK_DOWN, wxMOD_SHIFT);
+            EXPECT_EQ(Selected(editor, "lstSmjerovi"), (Texts{"POS", "A", "B"}));
+            Save(editor);
+        });
+    EXPECT_EQ(end, EditorEnd::Closed);
+    EXPECT_EQ(LinesOf(modData::KolegijSmjerovi),
+              (Texts{"1;1", "1;2", "2;2", "3;3", "4;4", "6;2", "6;11", "6;12"}));
+}
+
+TEST_F(CourseEditor, DeleteTakesAHolderOut)
+{
+    Open();
+    const EditorEnd end = Edit("1",
+                               [](frmKolegij* editor)
+                               {
+                                   PressKey(List(editor, "lstNastavnik(1)"), WXK_DELETE);
+                                   EXPECT_EQ(Selected(editor, "lstNastavnik(1)"), Texts{});
+                                   EXPECT_EQ(Selected(editor, "lstNastavnik(2)"), Texts{"Đurić Ćiro"});
+                                   Save(editor);
+                               });
+    EXPECT_EQ(end, EditorEnd::Closed);
+    const Texts nastavnici = LinesOf(modData::KolegijNastavnici);
+    EXPECT_EQ(std::ranges::count(nastavnici, "1;3;Nositelj;2"), 1);
+    EXPECT_EQ(nastavnici.size(), 5U);
+}
+
+TEST_F(CourseEditor, AClickPlacesAHolderAndASecondOneWithCtrlTakesThemOut)
+{
+    Open();
+    Add(
+        [](frmKolegij* editor)
+        {
+            wxListBox* list = List(editor, "lstNastavnik(3)");
+            Click(list, 1);
+            EXPECT_EQ(Selected(editor, "lstNastavnik(3)"), Texts{"Šarić Žarko"});
+            wxMilliSleep(700); // not a double click
+            Click(list, 1, WXK_CONTROL);
+            EXPECT_EQ(Selected(editor, "lstNastavnik(3)"), Texts{});
+        });
+}
+
+} // namespace
