@@ -123,7 +123,13 @@ fs::path ToPath(std::string_view path)
 
 fs::path TemporaryNameFor(fs::path file)
 {
-    return file += "." + std::to_string(System::ProcessNumber()) + ".tmp";
+    // Of a long name it is no longer than the file's own, since both have to be names that the system takes.
+    constexpr std::size_t longName = 100;
+    const fs::path ending = "." + std::to_string(System::ProcessNumber()) + ".tmp";
+    fs::path::string_type name = file.filename().native();
+    if (name.size() > longName)
+        name.resize(name.size() - ending.native().size());
+    return file.replace_filename(name) += ending;
 }
 
 std::string ReadFile(std::string_view path, std::size_t limit)

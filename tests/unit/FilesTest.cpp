@@ -126,6 +126,20 @@ TEST_F(Files, NamesMayHoldAnyLetter)
     EXPECT_TRUE(fs::exists(Folder.Path() / u8"Željka Šćepanović €.csv"));
 }
 
+TEST_F(Files, ANameMayBeAsLongAsTheSystemTakes)
+{
+#ifdef _WIN32
+    const std::size_t most = 259 - (Folder.Path() / "").native().size(); // of a whole path, in UTF-16
+    const std::string name = std::string(most - 4, 'x') + ".csv";
+#else
+    const std::string name = "š" + std::string(249, 'x') + ".csv";
+#endif
+    ReplaceFile(Folder.PathOf(name), "old");
+    ReplaceFile(Folder.PathOf(name), "new");
+    EXPECT_EQ(ReadBytes(Folder.Path() / ToPath(name)), "new");
+    EXPECT_EQ(EntriesOf(Folder.Path()).size(), 2U);
+}
+
 TEST_F(Files, AFolderInTheTemporaryFilesPlaceIsAnErrorAndStays)
 {
     WriteBytes(File, "old");
