@@ -488,8 +488,7 @@ TEST_F(EctsCalc, ExportsAnEmptyForm)
     EXPECT_FALSE(options.OverwritePrompt);
     EXPECT_FALSE(options.PathMustExist);
 
-    std::string expected =
-        ReadBytes(std::filesystem::path(VARLO_SOURCE_DIR) / "tests" / "expected" / "ects_empty.csv");
+    std::string expected = ExpectedFile("ects_empty.csv");
     if (SystemDecimalSeparator() != ",")
         std::ranges::replace(expected, ',', SystemDecimalSeparator().front());
     EXPECT_EQ(ReadBytes(Folder.Path() / "report.csv"), expected);

@@ -34,9 +34,7 @@ protected:
 
     void OpenDemo()
     {
-        const std::filesystem::path source = VARLO_SOURCE_DIR;
-        for (const auto& file : std::filesystem::directory_iterator(source / "demo"))
-            std::filesystem::copy_file(file.path(), Folder.Data() / file.path().filename());
+        CopyDemo(Folder);
         OpenFiles();
     }
 
@@ -73,11 +71,6 @@ protected:
         const MessageShown message = answers.TakeOnly();
         EXPECT_TRUE(message.Has(wxICON_INFORMATION | wxOK)) << message.Text;
         return ReadBytes(Folder.Path() / name);
-    }
-
-    static std::string Expected(const char* name)
-    {
-        return ReadBytes(std::filesystem::path(VARLO_SOURCE_DIR) / "tests" / "expected" / name);
     }
 
     TestFolder Folder;
@@ -615,12 +608,12 @@ TEST_F(FailingExport, ATypeMismatchInTheCatalogue)
 TEST_F(StatistikaPanel, TheDemoCatalogueGivesTheExpectedFiles)
 {
     OpenDemo();
-    EXPECT_EQ(Export("cmdExport", "s.csv"), Expected("statistika_Preddiplomski_LOR_Svi_Svi.csv"));
+    EXPECT_EQ(Export("cmdExport", "s.csv"), ExpectedFile("statistika_Preddiplomski_LOR_Svi_Svi.csv"));
     Choose(Box("cboRazina"), "Diplomski");
     Choose(Box("cboSmjer"), "OP");
     Choose(Box("cboSemestar"), "2");
-    EXPECT_EQ(Export("cmdExport", "s.csv"), Expected("statistika_Diplomski_LOR_OP_2.csv"));
-    EXPECT_EQ(Export("cmdExportVarlo", "k.csv"), Expected("kolegiji_export.csv"));
+    EXPECT_EQ(Export("cmdExport", "s.csv"), ExpectedFile("statistika_Diplomski_LOR_OP_2.csv"));
+    EXPECT_EQ(Export("cmdExportVarlo", "k.csv"), ExpectedFile("kolegiji_export.csv"));
 }
 
 } // namespace

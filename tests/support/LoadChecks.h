@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-// What the tests of teaching load share: rows and files as lines, and the demo catalogue.
+// What the tests of teaching load share: rows and files as lines.
 
 /// The rows of a list as lines, the cells joined by ";".
 inline std::vector<std::string> LinesOfRows(const std::vector<ListRow>& rows)
@@ -46,20 +46,6 @@ inline std::vector<std::string> FileLines(std::string_view content)
         content = end == std::string_view::npos ? std::string_view() : content.substr(end + 2);
     }
     return lines;
-}
-
-/// Puts the demo catalogue into a test's data folder.
-inline void CopyDemo(const TestFolder& folder)
-{
-    const std::filesystem::path source = VARLO_SOURCE_DIR;
-    for (const auto& file : std::filesystem::directory_iterator(source / "demo"))
-        std::filesystem::copy_file(file.path(), folder.Data() / file.path().filename());
-}
-
-/// A file that a script of its own made for the demo catalogue.
-inline std::string ExpectedFile(const char* name)
-{
-    return ReadBytes(std::filesystem::path(VARLO_SOURCE_DIR) / "tests" / "expected" / name);
 }
 
 /// While it lives, a file is marked as not to be written.

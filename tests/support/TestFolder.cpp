@@ -73,6 +73,21 @@ void WriteBytes(const fs::path& file, std::string_view bytes)
         throw std::runtime_error("cannot write " + file.string());
 }
 
+fs::path DemoFolder()
+{
+    return fs::path(VARLO_SOURCE_DIR) / "demo";
+}
+
+void CopyDemo(const TestFolder& folder)
+{
+    fs::copy(DemoFolder(), folder.Data(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+}
+
+std::string ExpectedFile(std::string_view name)
+{
+    return ReadBytes(fs::path(VARLO_SOURCE_DIR) / "tests" / "expected" / name);
+}
+
 std::vector<std::string> EntriesOf(const fs::path& folder)
 {
     std::vector<std::string> names;

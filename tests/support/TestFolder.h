@@ -37,6 +37,15 @@ void SetEnvironment(const char* name, const std::string& value);
 std::string ReadBytes(const std::filesystem::path& file);
 void WriteBytes(const std::filesystem::path& file, std::string_view bytes);
 
+/// The folder of the demo catalogue.
+std::filesystem::path DemoFolder();
+
+/// Copies the demo catalogue into a test's data folder.
+void CopyDemo(const TestFolder& folder);
+
+/// The bytes of a file in tests/expected, which scripts of their own have made.
+std::string ExpectedFile(std::string_view name);
+
 /// The names of the entries of a folder, sorted.
 std::vector<std::string> EntriesOf(const std::filesystem::path& folder);
 

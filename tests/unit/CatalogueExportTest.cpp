@@ -126,13 +126,10 @@ TEST(CatalogueExport, AnErrorLeavesTheOlderFileAsItWas)
 TEST(CatalogueExport, TheDemoCatalogueGivesTheExpectedFile)
 {
     const TestFolder folder;
-    const std::filesystem::path source = VARLO_SOURCE_DIR;
-    for (const auto& file : std::filesystem::directory_iterator(source / "demo"))
-        std::filesystem::copy_file(file.path(), folder.Data() / file.path().filename());
+    CopyDemo(folder);
     modData::LoadAllTables();
     ExportKolegijiToCSV(folder.PathOf("k.csv"));
-    EXPECT_EQ(ReadBytes(folder.Path() / "k.csv"),
-              ReadBytes(source / "tests" / "expected" / "kolegiji_export.csv"));
+    EXPECT_EQ(ReadBytes(folder.Path() / "k.csv"), ExpectedFile("kolegiji_export.csv"));
 }
 
 } // namespace

@@ -8,11 +8,6 @@
 namespace
 {
 
-std::string ExpectedReport(const char* name)
-{
-    return ReadBytes(std::filesystem::path(VARLO_SOURCE_DIR) / "tests" / "expected" / name);
-}
-
 /// A form with every kind of text in it, the figures computed.
 WorkloadFields FullForm()
 {
@@ -78,7 +73,7 @@ TEST(EctsReport, OfAnEmptyFormIsTheExpectedFile)
     WorkloadFields fields;
     WorkloadModel(fields, ",").Recalculate();
     WriteEctsReport(folder.PathOf("report.csv"), fields);
-    EXPECT_EQ(ReadBytes(folder.Path() / "report.csv"), ExpectedReport("ects_empty.csv"));
+    EXPECT_EQ(ReadBytes(folder.Path() / "report.csv"), ExpectedFile("ects_empty.csv"));
 }
 
 TEST(EctsReport, OfAFullFormIsTheExpectedFile)
@@ -86,7 +81,7 @@ TEST(EctsReport, OfAFullFormIsTheExpectedFile)
     const TestFolder folder;
     WriteBytes(folder.Path() / "report.csv", "an older report");
     WriteEctsReport(folder.PathOf("report.csv"), FullForm());
-    EXPECT_EQ(ReadBytes(folder.Path() / "report.csv"), ExpectedReport("ects_full.csv"));
+    EXPECT_EQ(ReadBytes(folder.Path() / "report.csv"), ExpectedFile("ects_full.csv"));
     EXPECT_EQ(EntriesOf(folder.Path()).size(), 2U) << "the report and the data folder, nothing besides";
 }
 

@@ -284,10 +284,8 @@ TEST_F(Tables, RemovingGoesFromTheLastRowToTheFirst)
 
 TEST_F(Tables, TheDemoCatalogueComesBackByteForByte)
 {
-    const std::filesystem::path demo = std::filesystem::path(VARLO_SOURCE_DIR) / "demo";
-    std::filesystem::copy(demo, Folder.Data(),
-                          std::filesystem::copy_options::recursive |
-                              std::filesystem::copy_options::overwrite_existing);
+    const std::filesystem::path demo = DemoFolder();
+    CopyDemo(Folder);
     modData::LoadAllTables();
     modData::SaveAllTables();
     for (const std::string& name : EntriesOf(demo))
