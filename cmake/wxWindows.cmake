@@ -20,12 +20,23 @@ target_link_libraries(wx_windows INTERFACE
     comctl32 comdlg32 gdi32 gdiplus msimg32 ole32 oleaut32 rpcrt4 shell32 shlwapi uuid uxtheme version winmm
     winspool oleacc)
 
+# What the resources need to know. A part of the numeric version holds 16 bits, too few for the date, hence the
+# year and the day apart.
+math(EXPR year "${PROJECT_VERSION_PATCH} / 10000")
+math(EXPR day "${PROJECT_VERSION_PATCH} % 10000")
+set(file_version ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.${year}.${day})
+string(REPLACE "." ", " file_version_numbers ${file_version})
+foreach(resource varlostudiji.rc varlostudiji.manifest)
+    configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/${resource}.in ${CMAKE_BINARY_DIR}/${resource} @ONLY)
+endforeach()
+
 # Gives a program the icon, the version information and the manifest. A program that opens windows needs the
 # manifest to get today's controls, tests included.
 function(add_windows_resources target)
-    set(folder ${CMAKE_SOURCE_DIR}/packaging/windows)
-    target_sources(${target} PRIVATE ${folder}/varlostudiji.rc)
-    set_source_files_properties(${folder}/varlostudiji.rc TARGET_DIRECTORY ${target} PROPERTIES
-        INCLUDE_DIRECTORIES ${folder}
-        OBJECT_DEPENDS "${folder}/varlostudiji.ico;${folder}/varlostudiji.manifest")
+    set(resources ${CMAKE_BINARY_DIR}/varlostudiji.rc)
+    set(icons ${CMAKE_SOURCE_DIR}/packaging/windows)
+    target_sources(${target} PRIVATE ${resources})
+    set_source_files_properties(${resources} TARGET_DIRECTORY ${target} PROPERTIES
+        INCLUDE_DIRECTORIES ${icons}
+        OBJECT_DEPENDS "${icons}/varlostudiji.ico;${CMAKE_BINARY_DIR}/varlostudiji.manifest")
 endfunction()

@@ -1,5 +1,7 @@
 # What the commands of this folder share. To be sourced by a script that has gone to the repository's root.
 
+version=$(<VERSION) # "1.0." and the day of the release
+
 build_packages=(g++ cmake ninja-build libwxgtk3.2-dev)
 test_packages=(libgtest-dev python3)
 display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)

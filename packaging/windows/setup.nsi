@@ -1,7 +1,6 @@
 ; The installer for Windows: for one user, without administrator rights. make-setup, beside this file, calls
-; the compiler and defines VERSION (1.0.20260309), FILE_VERSION (1.0.2026.309), PROGRAM (folder of the packed
-; program), DEMO and EMPTY (folders with seven tables each), ICON, SIDE (picture beside the first and the last
-; page) and OUTPUT.
+; the compiler and defines VERSION, PROGRAM (folder of the packed program), DEMO and EMPTY (folders with seven
+; tables each), ICON, SIDE (picture beside the first and the last page) and OUTPUT.
 ;
 ; On the command line:
 ;   /S            installs without a window and puts nothing into the data folder
@@ -85,6 +84,8 @@ ${TEXT} DataFailed "Katalog nije moguće zapisati u mapu $DataFolder."
 ${TEXT} ProgramOpen "Varlostudiji je otvoren. Zatvorite ga i pokušajte ponovno."
 
 ; What Explorer shows of the installer.
+!getdllversion "${PROGRAM}\varlostudiji.exe" PROGRAM_
+!define FILE_VERSION "${PROGRAM_1}.${PROGRAM_2}.${PROGRAM_3}.${PROGRAM_4}"
 VIProductVersion "${FILE_VERSION}"
 VIFileVersion "${FILE_VERSION}"
 !define INFO "VIAddVersionKey /LANG=${LANG_CROATIAN}"

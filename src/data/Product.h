@@ -4,4 +4,4 @@
 
 /// What the program calls itself, everywhere.
 inline constexpr std::string_view ProductName = "Varlostudiji";
-inline constexpr std::string_view ProductVersion = "1.0.20260309";
+inline constexpr std::string_view ProductVersion = VARLO_VERSION; ///< "1.0." and the release's date.
