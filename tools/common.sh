@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034 # the scripts use the lists
 # What the commands of this folder share. To be sourced by a script that has gone to the repository's root.
 
 version=$(<VERSION) # "1.0." and the day of the release

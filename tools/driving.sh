@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # How the programs of this repository are driven like a user does it: real keys, the real mouse, and a look at the
 # screen. To be sourced by a script that runs on a display of its own, without a window manager; $window is the
 # window that is worked in.

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034,SC2154 # tools/walk sets what differs between the systems
 # The steps of tools/walk, which are the same on every system, and how they are counted. To be sourced by it; it sets
 # $main_title, $version and the places of the controls, and says how the program is started and how it ends.
 
@@ -123,6 +124,7 @@ first_course_is() {
 
 # save_into_exports TITLE PICTURE: takes the proposed name in a Save dialog, but in the folder of the exports.
 save_into_exports() {
+    # shellcheck disable=SC2001 # bash has no & for what was found
     shows "the Save dialog '$1'" "^$(sed 's/[()]/\\&/g' <<<"$1")\$"
     key Home
     type_text "$exports_typed"
@@ -415,7 +417,7 @@ through_the_program() {
 
 # splash_shown: the splash lasts a second, too short to wait for stillness.
 splash_shown() {
-    splash=$(wait_for '^Varlostudiji$' $window_wait) || return 1
+    splash=$(wait_for '^Varlostudiji$' "$window_wait") || return 1
     pictures=$((pictures + 1))
     timeout 10 import -window root "$pictures_folder/$(printf %02d $pictures)-splash.png"
 }
