@@ -7,13 +7,16 @@
 
 #include <wx/app.h>
 #include <wx/datetime.h>
-#include <wx/dynlib.h>
 #include <wx/log.h>
 #include <wx/stattext.h>
 #include <wx/stopwatch.h>
 #include <wx/uiaction.h>
 
 #include <algorithm>
+
+#ifndef _WIN32
+#include "ui/controls/NativeFunction_gtk.h"
+#endif
 
 namespace
 {
@@ -234,12 +237,9 @@ TEST_F(AboutBox, IsSilentWhenTheSystemCannotOpenALink)
 /// form.
 int PointerOf(wxWindow* window)
 {
-    const auto call = [](const char* name)
-    { return wxDynamicLibrary::RawGetSymbol(wxDynamicLibrary::GetProgramHandle(), name); };
-    void* surface = reinterpret_cast<void* (*)(void*)>(call("gtk_widget_get_window"))(window->m_widget);
-    void* cursor = reinterpret_cast<void* (*)(void*)>(call("gdk_window_get_cursor"))(surface);
-    return cursor == nullptr ? 0
-                             : reinterpret_cast<int (*)(void*)>(call("gdk_cursor_get_cursor_type"))(cursor);
+    void* surface = NativeFunction<void* (*)(void*)>("gtk_widget_get_window")(window->m_widget);
+    void* cursor = NativeFunction<void* (*)(void*)>("gdk_window_get_cursor")(surface);
+    return cursor == nullptr ? 0 : NativeFunction<int (*)(void*)>("gdk_cursor_get_cursor_type")(cursor);
 }
 
 // Windows shows its plain arrow either way.

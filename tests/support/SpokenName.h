@@ -12,7 +12,7 @@
 #ifdef _WIN32
 #include <oleacc.h>
 #else
-#include <wx/dynlib.h>
+#include "ui/controls/NativeFunction_gtk.h"
 #endif
 
 // What a screen reader says for a control, asked of the system the way that a screen reader asks.
@@ -66,14 +66,6 @@ inline std::string SpokenName(wxWindow* control)
 }
 
 #else
-
-/// A function of the toolkit's own toolkit, whose headers need not be installed.
-template<typename Function>
-Function NativeFunction(const char* name)
-{
-    return reinterpret_cast<Function>(
-        wxDynamicLibrary::RawGetSymbol(wxDynamicLibrary::GetProgramHandle(), name));
-}
 
 /// Whether a label is a frame's caption, which announces the group and names no control.
 inline bool IsFrameCaption(void* label)

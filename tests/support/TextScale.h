@@ -3,7 +3,7 @@
 #include "support/Windows.h"
 
 #ifndef _WIN32
-#include <wx/dynlib.h>
+#include "ui/controls/NativeFunction_gtk.h"
 #endif
 
 /// While it lives, this program's text is that many per cent of the usual size, as a user sets it for the
@@ -25,10 +25,8 @@ private:
     {
         constexpr int usualDotsToTheInch = 96;
         constexpr int unitsOfADot = 1024;
-        const auto find = [](const char* name)
-        { return wxDynamicLibrary::RawGetSymbol(wxDynamicLibrary::GetProgramHandle(), name); };
-        void* settings = reinterpret_cast<void* (*)()>(find("gtk_settings_get_default"))();
-        reinterpret_cast<void (*)(void*, const char*, ...)>(find("g_object_set"))(
+        void* settings = NativeFunction<void* (*)()>("gtk_settings_get_default")();
+        NativeFunction<void (*)(void*, const char*, ...)>("g_object_set")(
             settings, "gtk-xft-dpi", usualDotsToTheInch * unitsOfADot * percent / 100, nullptr);
         Settle();
     }

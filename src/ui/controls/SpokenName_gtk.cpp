@@ -2,21 +2,13 @@
 
 #include "ui/controls/SpokenName.h"
 
+#include "ui/controls/NativeFunction_gtk.h"
 #include "ui/controls/Strings.h"
 
-#include <wx/dynlib.h>
 #include <wx/stattext.h>
 
 namespace
 {
-
-/// A function of GTK or ATK, found in the running program, so that building needs neither's headers.
-template<typename Function>
-Function NativeFunction(const char* name)
-{
-    return reinterpret_cast<Function>(
-        wxDynamicLibrary::RawGetSymbol(wxDynamicLibrary::GetProgramHandle(), name));
-}
 
 class Remark : public wxStaticText
 {
