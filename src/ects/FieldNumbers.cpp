@@ -18,15 +18,16 @@ void ReplaceAll(std::string& text, std::string_view what, std::string_view with)
         text.replace(at, what.size(), with);
 }
 
-/// How many decimals of a value are the user's: 15 digits in all, but never more than 9 decimals. What
-/// stands behind them is the shadow that binary arithmetic casts: 1.15 is 1.149999999999999911 in binary,
-/// and 100.1 - 100.05 leaves 0.0499999999999972. Rounded to these decimals first, a half is a half again.
-int TrueDecimals(double magnitude, int shown)
+// The digits of a value that are free of binary rounding noise: 1.15 is 1.149999999999999911 in binary, and
+// 100.1 - 100.05 leaves 0.0499999999999972. Rounded to these digits first, a half is a half again. Each
+// addition may cost half a unit of the sixteenth digit, so that the sum of all methods has one digit less.
+constexpr int TrueDigits = 15;
+constexpr int TrueDigitsOfSum = 14;
+constexpr int MaxDecimals = 12;
+
+int WholeDigits(double magnitude)
 {
-    constexpr int digits = 15;
-    constexpr int most = 9;
-    const int wholeDigits = magnitude < 1 ? 1 : static_cast<int>(std::floor(std::log10(magnitude))) + 1;
-    return std::clamp(digits - wholeDigits, shown + 1, most);
+    return magnitude < 1 ? 1 : static_cast<int>(std::floor(std::log10(magnitude))) + 1;
 }
 
 /// The value as decimal text with a point.
@@ -83,7 +84,9 @@ std::string FormatFixed(double value, std::string_view pattern, std::string_view
         value = 0;
     const std::size_t shown = pattern.size() - pattern.find('.') - 1;
     const double magnitude = std::fabs(value);
-    std::string text = ToDecimals(magnitude, TrueDecimals(magnitude, static_cast<int>(shown)));
+    const int trueDecimals =
+        std::clamp(TrueDigits - WholeDigits(magnitude), static_cast<int>(shown) + 1, MaxDecimals);
+    std::string text = ToDecimals(magnitude, trueDecimals);
 
     const std::size_t kept = text.find('.') + 1 + shown;
     const bool up = text[kept] >= '5';
@@ -94,4 +97,18 @@ std::string FormatFixed(double value, std::string_view pattern, std::string_view
         text.insert(text.begin(), '-');
     ReplaceAll(text, ".", separator);
     return text;
+}
+
+void HoursSum::Add(double figure)
+{
+    Total += figure;
+    Largest = std::max({Largest, std::fabs(figure), std::fabs(Total)});
+}
+
+double HoursSum::Value() const
+{
+    if (!std::isfinite(Total))
+        return Total;
+    const int decimals = std::max(TrueDigitsOfSum - WholeDigits(Largest), 0);
+    return std::copysign(ReadNumber(ToDecimals(std::fabs(Total), decimals), "."), Total);
 }

@@ -16,3 +16,16 @@ double ReadNumber(std::string_view text, std::string_view separator);
 /// The text of a value with as many decimals as the pattern has, halves rounded away from zero, and the
 /// separator before them. A value that is not finite shows as zero, as it would read.
 std::string FormatFixed(double value, std::string_view pattern, std::string_view separator);
+
+/// Adds up to ten or so figures. The sum is rounded to the digits that its largest figure leaves certain:
+/// 1000.3 - 1000.25 is 0.05, and not a little less.
+class HoursSum
+{
+public:
+    void Add(double figure);
+    double Value() const;
+
+private:
+    double Total = 0;
+    double Largest = 0; ///< The largest magnitude of a figure, or of the sum on the way.
+};

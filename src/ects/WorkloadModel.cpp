@@ -35,10 +35,10 @@ std::string WorkloadModel::FormatFixed(double value, std::string_view pattern) c
 
 double WorkloadModel::SumOf(const auto& fields) const
 {
-    double sum = 0;
+    HoursSum sum;
     for (const std::string& field : fields)
-        sum += ReadNumber(field);
-    return sum;
+        sum.Add(ReadNumber(field));
+    return sum.Value();
 }
 
 bool WorkloadModel::AnyAboveZero(const auto& fields) const
@@ -66,10 +66,10 @@ double WorkloadModel::NormHours(std::size_t literatureRow) const
 
 double WorkloadModel::LiteratureNormHours() const
 {
-    double hours = 0;
+    HoursSum hours;
     for (std::size_t row = 0; row < LiteratureRows.size(); ++row)
-        hours += NormHours(row);
-    return hours;
+        hours.Add(NormHours(row));
+    return hours.Value();
 }
 
 double WorkloadModel::LiteratureEstimateHours() const
@@ -125,9 +125,13 @@ void WorkloadModel::WriteTotals()
 {
     // The sums are those of the figures as shown, rounded.
     const double contact = ReadNumber(Fields.KontaktniUkupno);
-    const double nonContact = ReadNumber(Fields.LitUkupno) + ReadNumber(Fields.SamostalniUkupno) +
-                              WrittenHours() + ReadNumber(Fields.OstaleMetodeUkupno);
-    const double total = contact + nonContact;
+    HoursSum hours;
+    for (const double part : {ReadNumber(Fields.LitUkupno), ReadNumber(Fields.SamostalniUkupno),
+                              WrittenHours(), ReadNumber(Fields.OstaleMetodeUkupno)})
+        hours.Add(part);
+    const double nonContact = hours.Value();
+    hours.Add(contact);
+    const double total = hours.Value();
     const double points = total / HoursPerEcts();
 
     Fields.UkupnoOpter[ContactTotal] = FormatFixed(contact, OneDecimal);

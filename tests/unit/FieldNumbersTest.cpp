@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <iterator>
 #include <limits>
 #include <random>
 
@@ -82,7 +86,11 @@ TEST(FormatFixed, RoundsHalvesAwayFromZeroAsOnPaper)
     EXPECT_EQ(Shown(1.15), "1,2");
     EXPECT_EQ(Shown(0.05), "0,1");
     EXPECT_EQ(Shown(0.04), "0,0");
-    EXPECT_EQ(Shown(0.049999999), "0,0");
+    EXPECT_EQ(Shown(0.0499999999), "0,0");
+    EXPECT_EQ(Shown(0.049999999999), "0,0") << "twelve decimals count";
+    EXPECT_EQ(Shown(999.949999999999), "999,9");
+    EXPECT_EQ(Shown(99999.9499999999), "99999,9") << "fifteen digits count";
+    EXPECT_EQ(Shown2(0.00499999999), "0,00");
     EXPECT_EQ(Shown(0.95), "1,0");
     EXPECT_EQ(Shown(9.95), "10,0");
     EXPECT_EQ(Shown(99.949), "99,9");
@@ -136,6 +144,96 @@ TEST(FormatFixed, RoundsEveryHalfOfATenthUp)
                   std::to_string(up / 10) + "." + std::to_string(up % 10))
             << text;
     }
+}
+
+/// A number, given by its digits and how many of them are decimals, as it is rounded on paper.
+std::string OnPaper(std::int64_t digits, int decimals, int shown)
+{
+    for (; decimals < shown; ++decimals)
+        digits *= 10;
+    std::int64_t unit = 1;
+    for (; decimals > shown; --decimals)
+        unit *= 10;
+    const std::int64_t rounded = (2 * std::abs(digits) + unit) / (2 * unit);
+    std::string text = std::to_string(rounded);
+    const auto least = static_cast<std::size_t>(shown) + 1;
+    if (text.size() < least)
+        text.insert(0, least - text.size(), '0');
+    text.insert(text.size() - least + 1, ",");
+    return (digits < 0 && rounded != 0 ? "-" : "") + text;
+}
+
+class RandomDigits
+{
+public:
+    int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(Engine); }
+
+    /// A digit of the kind that many halves, and numbers just below and above one, are made of.
+    int Next()
+    {
+        constexpr int usual[] = {0, 0, 4, 5, 9, 9};
+        return Below(4) == 0 ? Below(10) : usual[Below(static_cast<int>(std::size(usual)))];
+    }
+
+private:
+    std::mt19937 Engine{20260309};
+};
+
+TEST(FormatFixed, RoundsEveryNumberOfFifteenDigitsAsOnPaper)
+{
+    constexpr int mostDigits = 15;
+    constexpr int mostDecimals = 12;
+    RandomDigits random;
+    for (int round = 0; round < 100000; ++round)
+    {
+        const int wholeDigits = 1 + random.Below(10);
+        const int decimals = random.Below(1 + std::min(mostDigits - wholeDigits, mostDecimals));
+        std::int64_t digits = 0;
+        std::string text = random.Below(4) == 0 ? "-" : "";
+        const bool negative = !text.empty();
+        for (int i = 0; i < wholeDigits + decimals; ++i)
+        {
+            const int digit = random.Next();
+            digits = digits * 10 + digit;
+            text.append(i == wholeDigits ? "," : "").append(std::to_string(digit));
+        }
+        const double value = ReadNumber(text, ",");
+        ASSERT_EQ(Shown(value), OnPaper(negative ? -digits : digits, decimals, 1)) << text;
+        ASSERT_EQ(Shown2(value), OnPaper(negative ? -digits : digits, decimals, 2)) << text;
+    }
+}
+
+TEST(HoursSum, IsRoundedAsOnPaper)
+{
+    constexpr int decimals = 4;
+    RandomDigits random;
+    for (int round = 0; round < 100000; ++round)
+    {
+        std::int64_t exact = 0;
+        HoursSum sum;
+        const int limit = random.Below(2) == 0 ? 1000 : 1000000;
+        for (int entries = 1 + random.Below(9); entries > 0; --entries)
+        {
+            std::int64_t digits = random.Below(limit);
+            for (int i = 0; i < decimals; ++i)
+                digits = digits * 10 + random.Next();
+            if (random.Below(4) == 0)
+                digits = -digits;
+            exact += digits;
+            sum.Add(ReadNumber(std::to_string(digits) + "e-4", ","));
+        }
+        ASSERT_EQ(Shown(sum.Value()), OnPaper(exact, decimals, 1));
+        ASSERT_EQ(Shown2(sum.Value()), OnPaper(exact, decimals, 2));
+    }
+}
+
+TEST(HoursSum, OfWhatIsTooLargeIsNotFinite)
+{
+    HoursSum sum;
+    for (int i = 0; i < 2; ++i)
+        sum.Add(std::numeric_limits<double>::max());
+    EXPECT_FALSE(std::isfinite(sum.Value()));
+    EXPECT_EQ(HoursSum().Value(), 0);
 }
 
 TEST(FieldNumbers, WhatWasWrittenReadsBackAsTheSameFigure)

@@ -195,6 +195,13 @@ TEST(WorkloadModel, TakesTheTotalsFromTheFiguresAsShown)
     EXPECT_EQ(fields.SamostalniUkupno, "0,0");
     EXPECT_EQ(fields.UkupnoOpter[WholeTotal], "0,0");
 
+    fields.KontaktniSati[0] = fields.OstaleMetode[0] = "0.04";
+    fields.LitStranice[1] = "0.4";
+    fields = Recalculated(fields);
+    EXPECT_EQ(fields.UkupnoOpter[WholeTotal], "0,0") << "four totals of 0,0, although they come to 0,16";
+    EXPECT_EQ(fields.UkupnoOpter[EctsPoints], "0,00");
+
+    fields.KontaktniSati[0] = fields.LitStranice[1] = "";
     fields.SamostalniSati[0] = "0.05";
     fields.OstaleMetode[0] = "0.05";
     fields = Recalculated(fields);
