@@ -206,6 +206,56 @@ TEST_F(CourseEditor, TheLaterLinkToAPlaceWins)
          [](frmKolegij* editor) { EXPECT_EQ(Selected(editor, "lstNastavnik(1)"), Texts{"Šarić Žarko"}); });
 }
 
+TEST_F(CourseEditor, ALinkToALecturerWithoutAnEntryLeavesThePlaceAsItWasShownAndSaved)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Nastavnici.push_back("4;  ;;1");
+    catalogue.KolegijNastavnici = {"1;1;Nositelj;1", "1;99;Nositelj;1", "1;3;Nositelj;2", "1;4;Nositelj;2"};
+    OpenInvalid(catalogue);
+    const MessageAnswers noHolder;
+    const EditorEnd end = Edit("1",
+                               [](frmKolegij* editor)
+                               {
+                                   EXPECT_EQ(Selected(editor, "lstNastavnik(1)"), Texts{"Anić Ana"});
+                                   EXPECT_EQ(Selected(editor, "lstNastavnik(2)"), Texts{"Đurić Ćiro"});
+                                   Save(editor);
+                               });
+    EXPECT_EQ(end, EditorEnd::Closed);
+    EXPECT_EQ(LinesOf(modData::KolegijNastavnici), (Texts{"1;1;Nositelj;1", "1;3;Nositelj;2"}));
+}
+
+TEST_F(CourseEditor, SelectsEveryDirectionOfTheStudyThatHasTheID)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Smjerovi.push_back("2;Drugi posebni;DPO;1;Preddiplomski");
+    catalogue.KolegijSmjerovi = {"1;2"};
+    OpenInvalid(catalogue);
+    const EditorEnd end = Edit("1",
+                               [](frmKolegij* editor)
+                               {
+                                   EXPECT_EQ(Selected(editor, "lstSmjerovi"), (Texts{"POS", "DPO"}));
+                                   Save(editor);
+                               });
+    EXPECT_EQ(end, EditorEnd::Closed);
+    EXPECT_EQ(LinesOf(modData::KolegijSmjerovi), (Texts{"1;2", "1;2"}));
+}
+
+TEST_F(CourseEditor, SelectsALevelByItsExactText)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Studiji[2] = "3;Lovstvo;LOR;diplomski";
+    OpenInvalid(catalogue);
+    Choose(Find<wxChoice>(Window, "cboRazina"), "Diplomski"); // no studies: the list shows every course
+    Edit("4",
+         [](frmKolegij* editor)
+         {
+             EXPECT_EQ(Chosen(editor, "cboRazina"), "Preddiplomski");
+             EXPECT_EQ(EntriesOfBox(Box(editor, "cboProgram")), Texts{"LOR"}) << "of the study's own level";
+             EXPECT_EQ(EntriesOfBox(List(editor, "lstSemestar")), (Texts{"1", "2", "3", "4", "5", "6"}));
+             EXPECT_EQ(EntriesOfBox(List(editor, "lstSmjerovi")), Texts{"DIP"});
+         });
+}
+
 TEST_F(CourseEditor, KeepsATypeThatIsNotInItsListAndAStudyThatNoBoxShows)
 {
     Catalogue catalogue = SmallCatalogue();

@@ -367,6 +367,18 @@ TEST(CourseEntryOf, TheLaterLinkToAPlaceWinsAndOtherPlacesHaveNoList)
               (std::array<std::optional<std::int32_t>, NositeljPlaces>{2, 3, std::nullopt}));
 }
 
+TEST(CourseEntryOf, ALinkToALecturerWithoutAnEntryChangesNothing)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Nastavnici = {"1;Anić Ana;;1", "2;  ;;2"};
+    for (const char* later : {"1;99;Nositelj;1", "1;2;Nositelj;1"})
+    {
+        catalogue.KolegijNastavnici = {"1;1;Nositelj;1", later};
+        catalogue.Use();
+        EXPECT_EQ(EntryOf(1)->NastavnikIDs[0], 1) << later;
+    }
+}
+
 TEST(CourseEntryOf, OfADuplicatedIDTheFirstRowIsShown)
 {
     Catalogue catalogue = SmallCatalogue();

@@ -3,7 +3,9 @@
 #include "data/Numbers.h"
 #include "data/Text.h"
 #include "data/modData.h"
+#include "lists/TableChoices.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace
@@ -70,6 +72,25 @@ void AppendLinks(std::int32_t id, const CourseEntry& entry)
                 {kolegijID, std::to_string(*nastavnikID), "Nositelj", std::to_string(i + 1)});
 }
 
+/// The course's holders by place. A link to a lecturer whom the lists do not offer changes nothing.
+std::array<std::optional<std::int32_t>, NositeljPlaces> NositeljiOf(std::int32_t kolegijID)
+{
+    const std::vector<Choice> offered = NamedNastavnikChoices();
+    std::array<std::optional<std::int32_t>, NositeljPlaces> ids;
+    modData::KolegijNastavnici.ForEachMatch(
+        KolegijNastavnik::KolegijID, kolegijID,
+        [&](const Row& link)
+        {
+            const std::int32_t place = link.Number(KolegijNastavnik::Redoslijed);
+            if (place < 1 || place > static_cast<std::int32_t>(NositeljPlaces))
+                return;
+            const std::int32_t id = link.Number(KolegijNastavnik::NastavnikID);
+            if (std::ranges::find(offered, id, &Choice::Data) != offered.end())
+                ids[static_cast<std::size_t>(place - 1)] = id;
+        });
+    return ids;
+}
+
 } // namespace
 
 std::optional<EntryFault> CheckEntry(const CourseEntry& entry)
@@ -123,14 +144,6 @@ std::optional<CourseEntry> EntryOf(std::int32_t kolegijID)
     modData::KolegijSmjerovi.ForEachMatch(KolegijSmjer::KolegijID, kolegijID,
                                           [&](const Row& link)
                                           { entry.SmjerIDs.push_back(link.Number(KolegijSmjer::SmjerID)); });
-    modData::KolegijNastavnici.ForEachMatch(
-        KolegijNastavnik::KolegijID, kolegijID,
-        [&](const Row& link)
-        {
-            const std::int32_t place = link.Number(KolegijNastavnik::Redoslijed);
-            if (place >= 1 && place <= static_cast<std::int32_t>(NositeljPlaces))
-                entry.NastavnikIDs[static_cast<std::size_t>(place - 1)] =
-                    link.Number(KolegijNastavnik::NastavnikID);
-        });
+    entry.NastavnikIDs = NositeljiOf(kolegijID);
     return entry;
 }

@@ -61,6 +61,6 @@ void AddKolegij(const CourseEntry& entry);
 void ReplaceKolegij(std::int32_t id, const CourseEntry& entry);
 
 /// A course from the tables as the editor shows it; nothing when there is none with the ID. Of several links
-/// to one place the last counts; a place outside 1 to 3 has no list.
+/// to one place the last counts whose lecturer the editor offers; a place outside 1 to 3 has no list.
 /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row of the course that cannot be read
 std::optional<CourseEntry> EntryOf(std::int32_t kolegijID);

@@ -17,6 +17,8 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -27,6 +29,15 @@ const wxSize SmallestSize = {620, 460};
 
 // The misspelling is the label's own.
 constexpr std::string_view NositeljLabels[NositeljPlaces] = {"1. nostielj", "2. nostielj", "3. nostielj"};
+
+/// Selects every entry with one of the numbers.
+void SelectAll(wxListBox& list, const std::vector<std::int32_t>& numbers)
+{
+    const int count = static_cast<int>(list.GetCount());
+    for (int position = 0; position < count; ++position)
+        if (std::ranges::find(numbers, DataAt(list, position)) != numbers.end())
+            list.SetSelection(position);
+}
 
 } // namespace
 
@@ -134,7 +145,7 @@ void frmKolegij::BindEvents()
     cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboRazina_Click(); });
     cboProgram->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboProgram_Click(); });
     cmdSave->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdSave_Click(); });
-    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_CANCEL); });
+    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdCancel_Click(); });
     LetSelectionBeEmpty(*lstSemestar);
     for (wxListBox* list : lstNastavnik)
         LetSelectionBeEmpty(*list);
@@ -171,8 +182,9 @@ void frmKolegij::Form_Load()
 void frmKolegij::FillRazinaCombo()
 {
     FillChoices(*cboRazina, RazinaChoices());
-    if (!cboRazina->SetStringSelection(ToWx(CurrentRazina)))
-        SelectFirst(*cboRazina);
+    constexpr bool exactly = true;
+    const int level = cboRazina->FindString(ToWx(CurrentRazina), exactly);
+    cboRazina->SetSelection(level == wxNOT_FOUND ? 0 : level);
 }
 
 void frmKolegij::FillProgramCombo()
@@ -200,8 +212,7 @@ void frmKolegij::ShowKolegij(const CourseEntry& entry)
     cboObvezniIzborni->SetValue(ToWx(entry.Tip));
     if (!SelectData(*lstSemestar, ToLong(entry.Semestar)))
         SelectFirst(*lstSemestar);
-    for (const std::int32_t smjerID : entry.SmjerIDs)
-        SelectData(*lstSmjerovi, smjerID);
+    SelectAll(*lstSmjerovi, entry.SmjerIDs);
     for (std::size_t i = 0; i < NositeljPlaces; ++i)
         if (entry.NastavnikIDs[i])
             SelectData(*lstNastavnik[i], *entry.NastavnikIDs[i]);
@@ -239,6 +250,11 @@ void frmKolegij::cmdSave_Click()
     else
         AddKolegij(entry);
     EndModal(wxID_OK);
+}
+
+void frmKolegij::cmdCancel_Click()
+{
+    EndModal(wxID_CANCEL);
 }
 
 CourseEntry frmKolegij::CurrentEntry() const

@@ -56,6 +56,7 @@ private:
     void cboRazina_Click();
     void cboProgram_Click();
     void cmdSave_Click();
+    void cmdCancel_Click();
 
     CourseEntry CurrentEntry() const;
     wxWindow* ControlOf(EntryField field) const;
