@@ -18,7 +18,6 @@
 #include <wx/textctrl.h>
 
 #include <optional>
-#include <span>
 
 namespace
 {
@@ -35,26 +34,22 @@ void frmECTSCalc::BindEvents()
 {
     for (std::size_t row = 0; row < txtKontaktniSati.size(); ++row)
         OnLostFocus(txtKontaktniSati[row], [this, row] { txtKontaktniSati_LostFocus(row); });
-    const auto recalculateAfter = [this](std::span<wxTextCtrl* const> boxes)
-    {
-        for (wxTextCtrl* box : boxes)
-            OnLostFocus(box, [this] { Recalculate(); });
-    };
-    recalculateAfter(txtSamostalniSati);
-    recalculateAfter(txtLitStranice);
-    recalculateAfter(txtLitProcjena);
-    recalculateAfter(std::array{txtOpsegStranice, txtOpsegRijeci, txtPismeniProcjena});
-    recalculateAfter(txtOstaleMetode);
-
-    for (wxRadioButton* option : {optLitIzracun, optLitProcjena})
-        option->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { optLiteratura_Click(); });
-    for (wxRadioButton* option : {optPismeniIzracun, optPismeniProcjena})
-        option->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { optPismeni_Click(); });
-    cbo1ECTS->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { Recalculate(); });
-    cmdIzracunaj->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Recalculate(); });
+    OnLostFocus(txtSamostalniSati, [this] { txtSamostalniSati_LostFocus(); });
+    OnLostFocus(txtLitStranice, [this] { txtLitStranice_LostFocus(); });
+    OnLostFocus(txtLitProcjena, [this] { txtLitProcjena_LostFocus(); });
+    OnLostFocus(txtOpsegStranice, [this] { txtOpsegStranice_LostFocus(); });
+    OnLostFocus(txtOpsegRijeci, [this] { txtOpsegRijeci_LostFocus(); });
+    OnLostFocus(txtPismeniProcjena, [this] { txtPismeniProcjena_LostFocus(); });
+    OnLostFocus(txtOstaleMetode, [this] { txtOstaleMetode_LostFocus(); });
+    optLitIzracun->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { optLitIzracun_Click(); });
+    optLitProcjena->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { optLitProcjena_Click(); });
+    optPismeniIzracun->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { optPismeniIzracun_Click(); });
+    optPismeniProcjena->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { optPismeniProcjena_Click(); });
+    cbo1ECTS->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cbo1ECTS_Click(); });
+    cmdIzracunaj->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdIzracunaj_Click(); });
     cmdOcisti->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdOcisti_Click(); });
     cmdExport->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExport_Click(); });
-    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Close(); });
+    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdClose_Click(); });
 }
 
 void frmECTSCalc::OnLostFocus(wxTextCtrl* box, const std::function<void()>& handler)
@@ -63,9 +58,16 @@ void frmECTSCalc::OnLostFocus(wxTextCtrl* box, const std::function<void()>& hand
               [this, handler](wxFocusEvent& event)
               {
                   event.Skip();
-                  if (!IsBeingDeleted()) // a window that goes away takes the focus from its fields
+                  // A window that closes takes the focus from its fields.
+                  if (!IsBeingDeleted())
                       handler();
               });
+}
+
+void frmECTSCalc::OnLostFocus(std::span<wxTextCtrl* const> boxes, const std::function<void()>& handler)
+{
+    for (wxTextCtrl* box : boxes)
+        OnLostFocus(box, handler);
 }
 
 void frmECTSCalc::Form_Load()
@@ -145,15 +147,72 @@ void frmECTSCalc::txtKontaktniSati_LostFocus(std::size_t row)
     Recalculate();
 }
 
-void frmECTSCalc::optLiteratura_Click()
+void frmECTSCalc::txtSamostalniSati_LostFocus()
+{
+    Recalculate();
+}
+
+void frmECTSCalc::txtLitStranice_LostFocus()
+{
+    Recalculate();
+}
+
+void frmECTSCalc::txtLitProcjena_LostFocus()
+{
+    Recalculate();
+}
+
+void frmECTSCalc::txtOpsegStranice_LostFocus()
+{
+    Recalculate();
+}
+
+void frmECTSCalc::txtOpsegRijeci_LostFocus()
+{
+    Recalculate();
+}
+
+void frmECTSCalc::txtPismeniProcjena_LostFocus()
+{
+    Recalculate();
+}
+
+void frmECTSCalc::txtOstaleMetode_LostFocus()
+{
+    Recalculate();
+}
+
+void frmECTSCalc::optLitIzracun_Click()
 {
     ApplyLiteratureMode();
     Recalculate();
 }
 
-void frmECTSCalc::optPismeni_Click()
+void frmECTSCalc::optLitProcjena_Click()
+{
+    ApplyLiteratureMode();
+    Recalculate();
+}
+
+void frmECTSCalc::optPismeniIzracun_Click()
 {
     ApplyWrittenMode();
+    Recalculate();
+}
+
+void frmECTSCalc::optPismeniProcjena_Click()
+{
+    ApplyWrittenMode();
+    Recalculate();
+}
+
+void frmECTSCalc::cbo1ECTS_Click()
+{
+    Recalculate();
+}
+
+void frmECTSCalc::cmdIzracunaj_Click()
+{
     Recalculate();
 }
 
@@ -189,4 +248,9 @@ void frmECTSCalc::cmdExport_Click()
     {
         ShowWarning(this, std::string("Greška kod izvoza: ") + error.what(), "Export");
     }
+}
+
+void frmECTSCalc::cmdClose_Click()
+{
+    Close();
 }

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,6 +46,7 @@ private:
     void FitToScreen(wxSizer& content);
     void BindEvents();
     void OnLostFocus(wxTextCtrl* box, const std::function<void()>& handler);
+    void OnLostFocus(std::span<wxTextCtrl* const> boxes, const std::function<void()>& handler);
 
     void Form_Load();
     void ApplyLiteratureMode();
@@ -57,10 +59,22 @@ private:
 
     // Events
     void txtKontaktniSati_LostFocus(std::size_t row);
-    void optLiteratura_Click();
-    void optPismeni_Click();
+    void txtSamostalniSati_LostFocus();
+    void txtLitStranice_LostFocus();
+    void txtLitProcjena_LostFocus();
+    void txtOpsegStranice_LostFocus();
+    void txtOpsegRijeci_LostFocus();
+    void txtPismeniProcjena_LostFocus();
+    void txtOstaleMetode_LostFocus();
+    void optLitIzracun_Click();
+    void optLitProcjena_Click();
+    void optPismeniIzracun_Click();
+    void optPismeniProcjena_Click();
+    void cbo1ECTS_Click();
+    void cmdIzracunaj_Click();
     void cmdOcisti_Click();
     void cmdExport_Click();
+    void cmdClose_Click();
 
     /// A text box and the text that it shows.
     struct Field
