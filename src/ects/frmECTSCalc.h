@@ -37,7 +37,7 @@ private:
     wxSizer* OtherMethodsFrame();
     wxSizer* TotalsFrame();
     wxSizer* CommandRow();
-    wxTextCtrl* NewField(const std::string& name, std::string& text, long style = 0);
+    wxTextCtrl* NewField(const std::string& name, std::string& text);
     /// A read-only box; Tab passes over it, so that entries follow one another, unless it is a tab stop.
     wxTextCtrl* NewOutput(const std::string& name, std::string& text, bool tabStop = false);
     wxTextCtrl* AddField(wxTextCtrl* box, std::string& text);

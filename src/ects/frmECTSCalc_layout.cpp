@@ -140,21 +140,20 @@ frmECTSCalc::frmECTSCalc(wxWindow* parent)
     Form_Load();
 }
 
-wxTextCtrl* frmECTSCalc::NewField(const std::string& name, std::string& text, long style)
+wxTextCtrl* frmECTSCalc::NewField(const std::string& name, std::string& text)
 {
-    auto* box = new wxTextCtrl(Panel, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, style,
-                               wxDefaultValidator, ToWx(name));
-    return AddField(box, text);
+    return AddField(NewTextBox(Panel, name, NumberCharacters), text);
 }
 
 wxTextCtrl* frmECTSCalc::NewOutput(const std::string& name, std::string& text, bool tabStop)
 {
-    return AddField(new OutputBox(Panel, name, tabStop), text);
+    auto* box = new OutputBox(Panel, name, tabStop);
+    UseTextSize(*box, NumberCharacters);
+    return AddField(box, text);
 }
 
 wxTextCtrl* frmECTSCalc::AddField(wxTextCtrl* box, std::string& text)
 {
-    UseTextSize(*box, NumberCharacters);
     Boxes.push_back({box, &text});
     return box;
 }
@@ -170,7 +169,9 @@ wxSizer* frmECTSCalc::CourseFrame()
     AddLabel(*grid, Panel, "Nositelj(i):");
     AddBox(*grid, txtNositelj = NewField("txtNositelj", Fields.Nositelj));
     AddLabel(*grid, Panel, EctsLabel::Komentar);
-    AddBox(*grid, txtKomentar = NewField("txtKomentar", Fields.Komentar, wxTE_MULTILINE));
+    txtKomentar = new wxTextCtrl(Panel, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE,
+                                 wxDefaultValidator, "txtKomentar");
+    AddBox(*grid, AddField(txtKomentar, Fields.Komentar));
     txtKomentar->SetMinSize({-1, CommentLines * GetCharHeight() + FromDIP(10)});
     AddWide(*frame, grid, 1);
     return frame;

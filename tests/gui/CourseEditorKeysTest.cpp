@@ -173,6 +173,29 @@ TEST_F(CourseEditor, TabFollowsTheLayout)
         });
 }
 
+TEST_F(CourseEditor, TabStopsOnceAtTheTypeBox)
+{
+    Open();
+    Add(
+        [](frmKolegij* editor)
+        {
+            SetText(editor, "cboObvezniIzborni", "izborni");
+            PressKey(Find<wxWindow>(editor, "txtECTS"), WXK_TAB);
+            EXPECT_EQ(FocusName(editor), "cboObvezniIzborni");
+            wxUIActionSimulator simulator;
+            simulator.Char(WXK_TAB);
+            Settle();
+            EXPECT_EQ(FocusName(editor), "lstSemestar");
+            simulator.Char(WXK_DOWN);
+            Settle();
+            EXPECT_EQ(Selected(editor, "lstSemestar").size(), 1U);
+            simulator.Char(WXK_TAB, wxMOD_SHIFT);
+            Settle();
+            EXPECT_EQ(FocusName(editor), "cboObvezniIzborni");
+            EXPECT_EQ(Text(editor, "cboObvezniIzborni"), "izborni");
+        });
+}
+
 TEST_F(CourseEditor, WalkingThroughTheListsSelectsNothing)
 {
     Open();

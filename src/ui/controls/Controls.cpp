@@ -1,10 +1,12 @@
 #include "ui/controls/Controls.h"
 
+#include "ui/controls/NativeFields.h"
 #include "ui/controls/ProgramIcons.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
 #include <wx/choice.h>
+#include <wx/combobox.h>
 #include <wx/font.h>
 #include <wx/gdicmn.h>
 #include <wx/listbox.h>
@@ -58,7 +60,18 @@ wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters)
 {
     auto* box = new wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                                wxDefaultValidator, ToWx(name));
+    PasteFirstLineOnly(*box);
     UseTextSize(*box, characters);
+    return box;
+}
+
+wxComboBox* NewComboBox(wxWindow* parent, std::string_view name, int characters)
+{
+    auto* box = new wxComboBox(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0, nullptr,
+                               wxCB_DROPDOWN, wxDefaultValidator, ToWx(name));
+    PasteFirstLineOnly(*box);
+    KeepTabOffArrow(*box);
+    box->SetMinSize({WidthForText(*box, characters), box->GetBestSize().y});
     return box;
 }
 

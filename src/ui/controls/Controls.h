@@ -8,6 +8,7 @@
 
 class wxButton;
 class wxChoice;
+class wxComboBox;
 class wxControl;
 class wxFont;
 class wxListBox;
@@ -33,8 +34,11 @@ wxStaticText* NewLabel(wxWindow* parent, std::string_view name, std::string_view
 /// A drop-down list, wide enough for `characters` of text.
 wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters);
 
-/// A one-line text box, wide enough for `characters` of text.
+/// A one-line text box, wide enough for `characters` of text. A pasted text ends at its first line break.
 wxTextCtrl* NewTextBox(wxWindow* parent, std::string_view name, int characters);
+
+/// A one-line text box as above, with a drop-down list.
+wxComboBox* NewComboBox(wxWindow* parent, std::string_view name, int characters);
 
 /// The width that a control needs to show `characters` of text.
 int WidthForText(const wxControl& control, int characters);

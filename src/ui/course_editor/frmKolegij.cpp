@@ -97,10 +97,7 @@ wxSizer* frmKolegij::Fields()
 
     row = addRow("Obvezni/Izborni");
     // A text box with a list: the catalogue may hold a type that is not in the list, and it stays as it is.
-    cboObvezniIzborni = new wxComboBox(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
-                                       nullptr, wxCB_DROPDOWN, wxDefaultValidator, "cboObvezniIzborni");
-    cboObvezniIzborni->SetMinSize({WidthForText(*cboObvezniIzborni, 10), cboRazina->GetMinSize().y});
-    row->Add(cboObvezniIzborni, boxFlags);
+    row->Add(cboObvezniIzborni = NewComboBox(this, "cboObvezniIzborni", 10), boxFlags);
     return grid;
 }
 

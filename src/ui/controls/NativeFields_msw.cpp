@@ -1,0 +1,50 @@
+// Fields on Windows.
+
+#include "ui/controls/NativeFields.h"
+
+#include <wx/clipbrd.h>
+#include <wx/event.h>
+#include <wx/msw/wrapwin.h>
+#include <wx/textentry.h>
+#include <wx/window.h>
+
+namespace
+{
+
+/// The text on the clipboard, its line breaks as "\n"; empty when there is none.
+wxString ClipboardText()
+{
+    const wxClipboardLocker lock;
+    wxTextDataObject text;
+    return !!lock && wxTheClipboard->GetData(text) ? text.GetText() : wxString();
+}
+
+/// Writes a text over the selection of a box, as a paste does: it can be undone.
+void WriteOverSelection(wxWindow& box, const wxString& text)
+{
+    const HWND inCombo = FindWindowExW(box.GetHWND(), nullptr, L"Edit", nullptr);
+    SendMessageW(inCombo != nullptr ? inCombo : box.GetHWND(), EM_REPLACESEL, TRUE,
+                 reinterpret_cast<LPARAM>(static_cast<const wchar_t*>(text.wc_str())));
+}
+
+} // namespace
+
+void PasteFirstLineOnly(wxTextEntry& box)
+{
+    // The system's own box ends at CR LF, but takes other line breaks in.
+    auto& window = dynamic_cast<wxWindow&>(box);
+    window.Bind(wxEVT_TEXT_PASTE,
+                [&window](wxClipboardTextEvent& event)
+                {
+                    const wxString text = ClipboardText();
+                    if (text.Contains('\n'))
+                        WriteOverSelection(window, text.BeforeFirst('\n'));
+                    else
+                        event.Skip();
+                });
+}
+
+void KeepTabOffArrow(wxComboBox&)
+{
+    // The arrow is no control of its own.
+}

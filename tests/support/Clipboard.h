@@ -1,0 +1,27 @@
+#pragma once
+
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+/// Puts a text (UTF-8) on the system's clipboard with its line breaks as they are; the toolkit's own way
+/// makes them those of the system.
+inline void PutOnClipboard(const std::string& text, bool primary = false)
+{
+#ifdef _WIN32
+    const std::wstring native = wxString::FromUTF8(text).ToStdWstring();
+#else
+    const std::string& native = text;
+#endif
+    auto data = std::make_unique<wxCustomDataObject>(wxDataFormat(wxDF_UNICODETEXT));
+    data->SetData((native.size() + 1) * sizeof(native.front()), native.c_str());
+    wxTheClipboard->UsePrimarySelection(primary);
+    const wxClipboardLocker lock;
+    const bool put = !!lock && wxTheClipboard->SetData(data.release());
+    wxTheClipboard->UsePrimarySelection(false);
+    if (!put)
+        throw std::runtime_error("no clipboard");
+}
