@@ -7,6 +7,7 @@
 #include "ui/controls/Choices.h"
 #include "ui/controls/DecimalSeparator.h"
 #include "ui/controls/Messages.h"
+#include "ui/controls/NativeFields.h"
 #include "ui/controls/SaveDialog.h"
 #include "ui/controls/Strings.h"
 
@@ -59,7 +60,7 @@ void frmECTSCalc::OnLostFocus(wxTextCtrl* box, const std::function<void()>& hand
               {
                   event.Skip();
                   // A window that closes takes the focus from its fields.
-                  if (!IsBeingDeleted())
+                  if (!IsBeingDeleted() && LeavesField(event))
                       handler();
               });
 }

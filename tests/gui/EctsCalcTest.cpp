@@ -17,6 +17,7 @@
 #include <wx/uiaction.h>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace
@@ -64,6 +65,33 @@ std::string Figure(std::string text)
     return comma == std::string::npos ? text : text.replace(comma, 1, SystemDecimalSeparator());
 }
 
+/// Presses a key in whatever has the focus.
+void PressHere(int keyCode, int modifiers = 0)
+{
+    wxUIActionSimulator().Char(keyCode, modifiers);
+    Settle();
+}
+
+/// Presses Alt with a letter. Some systems show the button pressed for a quarter of a second first.
+void PressAccessKey(char letter)
+{
+    PressHere(letter, wxMOD_ALT);
+    for (wxStopWatch waiting; waiting.Time() < 500;)
+        Settle();
+}
+
+void TypeHere(const char* text)
+{
+    wxUIActionSimulator().Text(text);
+    Settle();
+}
+
+std::string FocusedName()
+{
+    const wxWindow* focused = wxWindow::FindFocus();
+    return focused == nullptr ? "" : focused->GetName().utf8_string();
+}
+
 class EctsCalc : public testing::Test
 {
 protected:
@@ -85,12 +113,26 @@ protected:
     wxColour WarningColour() { return Find<wxStaticText>(Window, "lblUpozorenje")->GetForegroundColour(); }
     bool Enabled(const wxString& name) { return Field(name)->IsEnabled(); }
 
-    /// Types into a field after what is there, and stays in it.
-    void TypeInto(const wxString& name, const char* text)
+    /// Types into a box after what is there, and stays in it.
+    void TypeInto(wxTextCtrl* box, const char* text)
     {
-        Field(name)->SetInsertionPointEnd();
-        Type(Field(name), text);
+        box->SetInsertionPointEnd();
+        Type(box, text);
     }
+    void TypeInto(const wxString& name, const char* text) { TypeInto(Field(name), text); }
+
+    /// Turns to a box with the mouse, in whichever window it is. Where there is no window manager, a click
+    /// alone turns to no other window.
+    void TurnTo(wxTextCtrl* box)
+    {
+        wxGetTopLevelParent(box)->Raise();
+        Settle();
+        Click(box);
+        for (const wxStopWatch watch; !box->HasFocus() && watch.Time() < 1000;)
+            Settle();
+        ASSERT_TRUE(box->HasFocus()) << box->GetName();
+    }
+    void TurnTo(const wxString& name) { TurnTo(Field(name)); }
 
     /// Types into a field and leaves it with the Tab key.
     void Enter(const wxString& name, const char* text)
@@ -325,6 +367,60 @@ TEST_F(EctsCalc, LeavesSelfStudyHoursThatWereEntered)
     Enter("txtKontaktniSati(0)", "30");
     EXPECT_EQ(Shown("txtSamostalniSati(0)"), "0");
     EXPECT_EQ(Warning(), NoSelfStudy);
+}
+
+TEST_F(EctsCalc, TurningToAnotherWindowIsNotLeavingAField)
+{
+    const wxPoint corner(wxGetDisplaySize().x - 320, 0); // off the contact hours
+    auto* other = new wxFrame(nullptr, wxID_ANY, "other", corner, wxSize(320, 120));
+    auto* elsewhere = new wxTextCtrl(other, wxID_ANY);
+    other->Show();
+    Settle();
+
+    TurnTo("txtKontaktniSati(0)");
+    TypeInto("txtKontaktniSati(0)", "3");
+    TurnTo(elsewhere);
+    TypeInto(elsewhere, "x");
+    EXPECT_EQ(Shown("txtSamostalniSati(0)"), "");
+    EXPECT_EQ(Shown("txtKontaktniUkupno(3)"), Figure("0,0"));
+    TurnTo("txtKontaktniSati(0)");
+    Enter("txtKontaktniSati(0)", "0");
+    EXPECT_EQ(Shown("txtKontaktniSati(0)"), "30");
+    EXPECT_EQ(Shown("txtSamostalniSati(0)"), Figure("15,0"));
+
+    // Back to another field than the one that had the focus: that is leaving it.
+    TurnTo("txtKontaktniSati(1)");
+    TypeInto("txtKontaktniSati(1)", "10");
+    TurnTo(elsewhere);
+    EXPECT_EQ(Shown("txtSamostalniSati(1)"), "");
+    TurnTo("txtOstaleMetode(9)");
+    EXPECT_EQ(Shown("txtSamostalniSati(1)"), Figure("10,0"));
+}
+
+TEST_F(EctsCalc, AClickOrAnAccessKeyLeavesAField)
+{
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        {"the access key of a button", [] { PressAccessKey('I'); }},
+        {"a click on a button", [this] { Click(Find<wxWindow>(Window, "cmdIzracunaj")); }},
+        {"a click on an option", [this] { Click(Find<wxWindow>(Window, "optPismeniProcjena")); }},
+        {"a click on a field", [this] { TurnTo("txtKomentar"); }},
+        {"a click on a list",
+         [this]
+         {
+             Click(Find<wxWindow>(Window, "cbo1ECTS"));
+             PressHere(WXK_ESCAPE);
+         }},
+    };
+    for (const auto& [way, leave] : ways)
+    {
+        Press(Window, "cmdOcisti");
+        TurnTo("txtKontaktniSati(0)");
+        TypeInto("txtKontaktniSati(0)", "30");
+        EXPECT_EQ(Shown("txtSamostalniSati(0)"), "") << way;
+        leave();
+        EXPECT_EQ(Shown("txtSamostalniSati(0)"), Figure("15,0")) << way;
+        EXPECT_EQ(Shown("txtUkupnoOpter(2)"), Figure("45,0")) << way;
+    }
 }
 
 TEST_F(EctsCalc, ReadsPointAndCommaAlikeAndOtherTextAsZero)
@@ -566,33 +662,6 @@ TEST_F(EctsCalc, AFailedExportIsToldAndLeavesAnOlderReport)
 }
 
 // The keyboard alone
-
-/// Presses a key in whatever has the focus.
-void PressHere(int keyCode, int modifiers = 0)
-{
-    wxUIActionSimulator().Char(keyCode, modifiers);
-    Settle();
-}
-
-/// Presses Alt with a letter. Some systems show the button pressed for a quarter of a second first.
-void PressAccessKey(char letter)
-{
-    PressHere(letter, wxMOD_ALT);
-    for (wxStopWatch waiting; waiting.Time() < 500;)
-        Settle();
-}
-
-void TypeHere(const char* text)
-{
-    wxUIActionSimulator().Text(text);
-    Settle();
-}
-
-std::string FocusedName()
-{
-    const wxWindow* focused = wxWindow::FindFocus();
-    return focused == nullptr ? "" : focused->GetName().utf8_string();
-}
 
 /// Presses Tab until a control has the focus; the controls it came through are reported if it never does.
 void TabTo(const std::string& name)

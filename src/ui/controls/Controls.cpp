@@ -34,8 +34,10 @@ void UseProgramLook(wxTopLevelWindow& window)
 
 wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption)
 {
-    return new wxButton(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize, 0,
-                        wxDefaultValidator, ToWx(name));
+    auto* button = new wxButton(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize, 0,
+                                wxDefaultValidator, ToWx(name));
+    FocusByAccessKey(*button);
+    return button;
 }
 
 wxStaticText* NewLabel(wxWindow* parent, std::string_view name, std::string_view caption)

@@ -1,10 +1,12 @@
-// Fields on GTK.
+// Fields and buttons on GTK.
 
 #include "ui/controls/NativeFields.h"
 
 #include "ui/controls/NativeFunction_gtk.h"
 
+#include <wx/button.h>
 #include <wx/combobox.h>
+#include <wx/event.h>
 #include <wx/textctrl.h>
 
 #include <cstddef>
@@ -38,6 +40,12 @@ void RefuseFocusOfArrow(void* widget, void*)
         NativeFunction<ForEachChild>("gtk_container_forall")(widget, RefuseFocusOfArrow, nullptr);
 }
 
+int GrabFocus(void* widget, int, void*)
+{
+    NativeFunction<void (*)(void*)>("gtk_widget_grab_focus")(widget);
+    return 0; // the key goes on to press the button
+}
+
 } // namespace
 
 void PasteFirstLineOnly(wxTextEntry& box)
@@ -49,4 +57,19 @@ void PasteFirstLineOnly(wxTextEntry& box)
 void KeepTabOffArrow(wxComboBox& box)
 {
     RefuseFocusOfArrow(box.GetHandle(), nullptr);
+}
+
+bool LeavesField(const wxFocusEvent& lostFocus)
+{
+    // A window that the user turns away from remembers which of its widgets has the focus in it.
+    const auto* field = dynamic_cast<wxWindow*>(lostFocus.GetEventObject());
+    return NativeFunction<int (*)(void*)>("gtk_widget_is_focus")(field->GetHandle()) == 0;
+}
+
+void FocusByAccessKey(wxButton& button)
+{
+    using Connect = unsigned long (*)(void* object, const char* signal, int (*)(void*, int, void*),
+                                      void* data, void (*destroy)(void*, void*), int flags);
+    NativeFunction<Connect>("g_signal_connect_data")(button.GetHandle(), "mnemonic-activate", GrabFocus,
+                                                     nullptr, nullptr, 0);
 }

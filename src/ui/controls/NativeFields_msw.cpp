@@ -1,4 +1,4 @@
-// Fields on Windows.
+// Fields and buttons on Windows.
 
 #include "ui/controls/NativeFields.h"
 
@@ -47,4 +47,16 @@ void PasteFirstLineOnly(wxTextEntry& box)
 void KeepTabOffArrow(wxComboBox&)
 {
     // The arrow is no control of its own.
+}
+
+bool LeavesField(const wxFocusEvent& lostFocus)
+{
+    const wxWindow* next = lostFocus.GetWindow();
+    return next != nullptr && wxGetTopLevelParent(const_cast<wxWindow*>(next)) ==
+                                  wxGetTopLevelParent(dynamic_cast<wxWindow*>(lostFocus.GetEventObject()));
+}
+
+void FocusByAccessKey(wxButton&)
+{
+    // The system does so.
 }
