@@ -27,9 +27,11 @@ constexpr std::string_view EmailAddress = "podrska@varlostudiji.example";
 constexpr int TitlePoints = 14;
 const wxColour LinkColour(0, 0, 255);
 
-std::function<bool(const std::string&)> LinkOpener;
+std::function<void(const std::string&)> LinkOpener;
+std::function<int()> YearSource;
 
-/// Hands an address to the system. A system without a browser or mail program is no error worth a message.
+/// Asks the system to open an address. A system without a browser or mail program is no error worth a
+/// message.
 void OpenLink(const std::string& address)
 {
     const wxLogNull silence;
@@ -37,6 +39,17 @@ void OpenLink(const std::string& address)
         LinkOpener(address);
     else
         wxLaunchDefaultBrowser(ToWx(address));
+}
+
+int CurrentYear()
+{
+    return YearSource ? YearSource() : wxDateTime::Now().GetYear();
+}
+
+/// Shows a text as it is: an "&" in a folder or an address is a letter and no access key.
+void SetText(wxStaticText& label, const std::string& text)
+{
+    label.SetLabel(wxControl::EscapeMnemonics(ToWx(text)));
 }
 
 } // namespace
@@ -47,63 +60,106 @@ frmAbout::frmAbout(wxWindow* parent)
            wxDEFAULT_DIALOG_STYLE, "frmAbout");
     UseProgramLook(*this);
 
-    const std::string version(ProductVersion);
-    const std::string email(EmailAddress);
     auto* column = new wxBoxSizer(wxVERTICAL);
-    lblTitle = AddLabel(*column, "lblTitle", std::string(ProductName));
-    wxFont titleFont = GetFont().Bold();
-    titleFont.SetPointSize(TitlePoints);
-    lblTitle->SetFont(titleFont);
-    lblVersion = AddLabel(*column, "lblVersion", "Verzija " + version);
-    lblAuthor = AddLabel(*column, "lblAuthor", "Autor: " + std::string(Author));
-    lblDescription = AddLabel(*column, "lblDescription", AboutDescription(wxDateTime::Now().GetYear()));
-    lblPathData = AddLabel(*column, "lblPathData", "Baza: " + modData::GetDataFolder());
-    lblWeb = AddLink(*column, "lblWeb", std::string(WebAddress), std::string(WebAddress));
-    lblEmail = AddLink(*column, "lblEmail", email, "mailto:" + email);
-
+    lblTitle = AddLabel(*column, "lblTitle");
+    lblVersion = AddLabel(*column, "lblVersion");
+    lblAuthor = AddLabel(*column, "lblAuthor");
+    lblDescription = AddLabel(*column, "lblDescription");
+    lblPathData = AddLabel(*column, "lblPathData");
+    lblWeb = AddLink(*column, "lblWeb", std::string(WebAddress));
+    lblEmail = AddLink(*column, "lblEmail", std::string(EmailAddress));
     cmdOk = NewButton(this, "cmdOk", "OK");
     cmdOk->SetDefault();
-    cmdOk->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_OK); });
     SetEscapeId(cmdOk->GetId());
     column->Add(cmdOk, wxSizerFlags().Right().Border(wxTOP, 2 * Gap(this)));
 
+    Form_Load(); // before the layout: the texts decide the size
     auto* margin = new wxBoxSizer(wxVERTICAL);
     margin->Add(column, wxSizerFlags(1).Expand().Border(wxALL, 3 * Gap(this)));
     SetSizerAndFit(margin);
     CentreOnParent();
     cmdOk->SetFocus();
-    Bind(wxEVT_MOTION, [](wxMouseEvent&) { wxSetCursor(wxNullCursor); });
+    BindEvents();
 }
 
 wxStaticText* frmAbout::AddLabel(wxSizer& sizer, const char* name, const std::string& text)
 {
-    // A folder or an address may hold an "&", which is a letter here and no access key.
-    wxStaticText* label = NewRemark(this, name, ToUtf8(wxControl::EscapeMnemonics(ToWx(text))));
+    wxStaticText* label = NewRemark(this, name, "");
+    SetText(*label, text);
     sizer.Add(label, wxSizerFlags().Border(wxBOTTOM, Gap(this)));
     return label;
 }
 
-wxStaticText* frmAbout::AddLink(wxSizer& sizer, const char* name, const std::string& text,
-                                const std::string& address)
+wxStaticText* frmAbout::AddLink(wxSizer& sizer, const char* name, const std::string& text)
 {
     wxStaticText* label = AddLabel(sizer, name, text);
     label->SetForegroundColour(LinkColour);
     label->SetFont(label->GetFont().Underlined());
-    label->Bind(wxEVT_LEFT_DOWN, [address](wxMouseEvent&) { OpenLink(address); });
-    // The plain arrow on purpose, no hand.
-    label->Bind(wxEVT_MOTION, [](wxMouseEvent&) { wxSetCursor(wxCursor(wxCURSOR_ARROW)); });
     return label;
 }
 
-std::string AboutDescription(int year)
+void frmAbout::BindEvents()
 {
-    return "Aplikacija za upravljanje kolegijima, nositeljima i statistikama.\r\n"
-           "Razina: Preddiplomski i Diplomski studij.\r\n"
-           "© " +
-           std::to_string(year) + " " + std::string(ProductName);
+    Bind(wxEVT_MOTION, [this](wxMouseEvent&) { Form_MouseMove(); });
+    lblWeb->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { lblWeb_Click(); });
+    lblWeb->Bind(wxEVT_MOTION, [this](wxMouseEvent&) { lblWeb_MouseMove(); });
+    lblEmail->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { lblEmail_Click(); });
+    lblEmail->Bind(wxEVT_MOTION, [this](wxMouseEvent&) { lblEmail_MouseMove(); });
+    cmdOk->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdOk_Click(); });
 }
 
-void SetLinkOpener(std::function<bool(const std::string& address)> opener)
+void frmAbout::Form_Load()
+{
+    const std::string product(ProductName);
+    SetText(*lblTitle, product);
+    wxFont titleFont = GetFont().Bold();
+    titleFont.SetPointSize(TitlePoints);
+    lblTitle->SetFont(titleFont);
+    SetText(*lblVersion, "Verzija " + std::string(ProductVersion));
+    SetText(*lblAuthor, "Autor: " + std::string(Author));
+    SetText(*lblPathData, "Baza: " + modData::GetDataFolder());
+    SetText(*lblDescription, "Aplikacija za upravljanje kolegijima, nositeljima i statistikama.\r\n"
+                             "Razina: Preddiplomski i Diplomski studij.\r\n"
+                             "© " +
+                                 std::to_string(CurrentYear()) + " " + product);
+}
+
+void frmAbout::Form_MouseMove()
+{
+    wxSetCursor(wxNullCursor);
+}
+
+void frmAbout::lblWeb_Click()
+{
+    OpenLink(std::string(WebAddress));
+}
+
+void frmAbout::lblWeb_MouseMove()
+{
+    wxSetCursor(*wxSTANDARD_CURSOR); // the plain arrow on purpose, no hand
+}
+
+void frmAbout::lblEmail_Click()
+{
+    OpenLink("mailto:" + ToUtf8(lblEmail->GetLabelText()));
+}
+
+void frmAbout::lblEmail_MouseMove()
+{
+    wxSetCursor(*wxSTANDARD_CURSOR);
+}
+
+void frmAbout::cmdOk_Click()
+{
+    EndModal(wxID_OK);
+}
+
+void SetLinkOpener(std::function<void(const std::string& address)> opener)
 {
     LinkOpener = std::move(opener);
+}
+
+void SetYearSource(std::function<int()> source)
+{
+    YearSource = std::move(source);
 }

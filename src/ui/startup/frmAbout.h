@@ -16,9 +16,17 @@ public:
     explicit frmAbout(wxWindow* parent);
 
 private:
-    wxStaticText* AddLabel(wxSizer& sizer, const char* name, const std::string& text);
-    wxStaticText* AddLink(wxSizer& sizer, const char* name, const std::string& text,
-                          const std::string& address);
+    wxStaticText* AddLabel(wxSizer& sizer, const char* name, const std::string& text = {});
+    wxStaticText* AddLink(wxSizer& sizer, const char* name, const std::string& text);
+    void BindEvents();
+
+    void Form_Load();
+    void Form_MouseMove();
+    void lblWeb_Click();
+    void lblWeb_MouseMove();
+    void lblEmail_Click();
+    void lblEmail_MouseMove();
+    void cmdOk_Click();
 
     // Controls
     wxStaticText* lblTitle;
@@ -31,9 +39,8 @@ private:
     wxButton* cmdOk;
 };
 
-/// The three lines that describe the program, with the year of the notice, separated by CR LF.
-std::string AboutDescription(int year);
+/// Test hook: replaces the launch of the browser or mail program; an empty function restores it.
+void SetLinkOpener(std::function<void(const std::string& address)> opener);
 
-/// Opens a link in the system's stead, for tests, and answers whether it could; an empty function brings the
-/// system back.
-void SetLinkOpener(std::function<bool(const std::string& address)> opener);
+/// Test hook: replaces the system's date as the source of the current year; an empty function restores it.
+void SetYearSource(std::function<int()> source);

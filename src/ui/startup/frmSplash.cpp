@@ -35,11 +35,17 @@ frmSplash::frmSplash() : Timer1(this)
     SetClientSize(Picture1->GetSize());
     CentreOnScreen();
 
-    Picture1->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { CloseSplash(); });
-    Picture1->Bind(wxEVT_KEY_DOWN, &frmSplash::Form_KeyDown, this);
-    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { CloseSplash(); });
+    BindEvents();
     Picture1->SetFocus();
     Timer1.StartOnce(ShownMilliseconds);
+}
+
+void frmSplash::BindEvents()
+{
+    // The picture covers the whole window, so the window's clicks and keys are the picture's.
+    Picture1->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { Form_Click(); });
+    Picture1->Bind(wxEVT_KEY_DOWN, &frmSplash::Form_KeyDown, this);
+    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Timer1_Timer(); });
 }
 
 void frmSplash::CloseSplash()
@@ -54,10 +60,20 @@ void frmSplash::CloseSplash()
     }
     catch (...)
     {
-        Hide(); // the error's report must not stand before a picture of the program at work
+        Hide(); // before the error's box shows
         throw;
     }
     Destroy();
+}
+
+void frmSplash::Timer1_Timer()
+{
+    CloseSplash();
+}
+
+void frmSplash::Form_Click()
+{
+    CloseSplash();
 }
 
 void frmSplash::Form_KeyDown(wxKeyEvent& key)

@@ -11,11 +11,15 @@ class frmSplash : public wxFrame
 public:
     frmSplash();
 
-    /// Shows the main window and goes; only once, whatever calls it. @throws RuntimeError from loading the
-    /// tables
+    /// Shows the main window and closes this one. A second call does nothing.
+    /// @throws RuntimeError from loading the tables
     void CloseSplash();
 
 private:
+    void BindEvents();
+
+    void Timer1_Timer();
+    void Form_Click();
     void Form_KeyDown(wxKeyEvent& key);
 
     bool Closing = false;
