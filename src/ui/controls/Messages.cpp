@@ -1,15 +1,30 @@
 #include "ui/controls/Messages.h"
 
+#include "ui/controls/NativeMessageBox.h"
 #include "ui/controls/Strings.h"
 
+#include <wx/modalhook.h>
 #include <wx/msgdlg.h>
 
 namespace
 {
 
+/// A message box that a modal hook may answer; otherwise the system shows its own.
+class SystemMessageDialog final : public wxMessageDialog
+{
+public:
+    using wxMessageDialog::wxMessageDialog;
+
+    int ShowModal() override
+    {
+        WX_HOOK_MODAL_DIALOG();
+        return ShowNativeMessageBox(*this);
+    }
+};
+
 int ShowBox(wxWindow* parent, std::string_view text, std::string_view title, long style)
 {
-    return wxMessageDialog(parent, ToWx(text), ToWx(title), style | wxCENTRE).ShowModal();
+    return SystemMessageDialog(parent, ToWx(text), ToWx(title), style).ShowModal();
 }
 
 } // namespace
