@@ -4,7 +4,7 @@
 version=$(<VERSION) # "1.0." and the day of the release
 
 build_packages=(g++ cmake ninja-build libwxgtk3.2-dev)
-test_packages=(libgtest-dev python3)
+test_packages=(libgtest-dev locales python3)
 display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
 
 say() { echo "== $*" >&2; }

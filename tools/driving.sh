@@ -4,6 +4,7 @@
 # window that is worked in.
 
 export LC_ALL=C.UTF-8 # titles and typed text hold Croatian letters
+export LANGUAGE=en    # the keys of the system's own buttons
 
 # Every wait has its end, in seconds.
 window_wait=30

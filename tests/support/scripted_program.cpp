@@ -1,22 +1,28 @@
 // The program itself, but for two things: what its message boxes say goes to standard output and each is
 // answered at once, and the splash is dismissed at once, and the main window is left as VARLO_LEAVE_BY says:
-// by the "exit" button or by its "close" box. Where VARLO_EXPORT_LOAD names one of its buttons that open a
-// window of teaching load, that window's export goes to load.csv in LOCALAPPDATA before that. Where
-// VARLO_WAIT holds a text, a file of that name behind "loaded." in LOCALAPPDATA says that the main window is
-// there, and the program waits for a file "leave" beside it.
+// by the "exit" button or by its "close" box. Where VARLO_ASK is set, it shows a question that the system's
+// own box asks, prints its buttons and how numbers and texts come out, and ends. Where VARLO_EXPORT_LOAD
+// names one of its buttons that open a window of teaching load, that window's export goes to load.csv in
+// LOCALAPPDATA before that. Where VARLO_WAIT holds a text, a file of that name behind "loaded." in
+// LOCALAPPDATA says that the main window is there, and the program waits for a file "leave" beside it.
 
 #include "data/Files.h"
 #include "data/System.h"
+#include "support/MessageBoxOnScreen.h"
 #include "support/TestFolder.h"
 #include "support/Windows.h"
 #include "ui/app/VarlostudijiApp.h"
+#include "ui/controls/Messages.h"
 #include "ui/main/frmMain.h"
 #include "ui/startup/frmSplash.h"
 
 #include <wx/button.h>
+#include <wx/timer.h>
 #include <wx/utils.h>
 
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <filesystem>
 
 namespace
@@ -36,14 +42,41 @@ protected:
     }
 };
 
+/// Waits for a message box, prints its buttons, half of three, and whether "a" is sorted before "B", and ends
+/// the program.
+class BoxPrinter : private wxTimer
+{
+public:
+    BoxPrinter() { Start(50); }
+
+private:
+    void Notify() override
+    {
+        const std::optional<MessageBoxOnScreen> box = FindMessageBox();
+        if (!box)
+            return;
+        for (const std::string& button : box->Buttons)
+            std::printf("%s ", button.c_str());
+        std::printf("%.1f %s\n", 1.5, std::strcoll("a", "B") < 0 ? "a B" : "B a");
+        std::fflush(stdout);
+        std::_Exit(EXIT_SUCCESS);
+    }
+};
+
 class ScriptedApp : public VarlostudijiApp
 {
 public:
     bool OnInit() override
     {
+        const bool asks = !System::EnvironmentVariable("VARLO_ASK").empty();
+        if (!asks)
+            Answers.emplace();
         if (!VarlostudijiApp::OnInit())
             return false;
-        CallAfter([this] { Leave(); });
+        if (asks)
+            CallAfter(&Ask);
+        else
+            CallAfter([this] { Leave(); });
         return true;
     }
 
@@ -66,6 +99,12 @@ private:
                 PressButton(open, "cmdExportAllStat");
                 return;
             }
+    }
+
+    static void Ask()
+    {
+        const BoxPrinter printer;
+        AskYesNo(FindOpen<frmSplash>(), "?", "Potvrda");
     }
 
     static void WaitUntilTold()
@@ -95,7 +134,7 @@ private:
         PressButton(window, "cmdExit");
     }
 
-    PrintingAnswers Answers;
+    std::optional<PrintingAnswers> Answers;
 };
 
 } // namespace

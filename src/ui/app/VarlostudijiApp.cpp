@@ -1,12 +1,14 @@
 #include "ui/app/VarlostudijiApp.h"
 
 #include "data/Product.h"
+#include "ui/app/DesktopLanguage.h"
 #include "ui/app/ErrorReport.h"
 #include "ui/controls/Strings.h"
 #include "ui/startup/frmSplash.h"
 
 bool VarlostudijiApp::OnInit()
 {
+    UseDesktopLanguage();
     SetAppName(ToWx(ProductName));
     SetAppDisplayName(ToWx(ProductName));
     try

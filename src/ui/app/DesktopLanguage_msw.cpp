@@ -1,0 +1,6 @@
+#include "ui/app/DesktopLanguage.h"
+
+void UseDesktopLanguage()
+{
+    // Windows shows its dialogs in its own language.
+}

@@ -1,0 +1,68 @@
+// The whole program on a Croatian desktop. Windows shows its dialogs in its own language without the program.
+
+#ifndef _WIN32
+
+#include "support/Catalogue.h"
+#include "support/TestFolder.h"
+#include "support/Windows.h"
+
+#include <wx/filename.h>
+#include <wx/stdpaths.h>
+#include <wx/utils.h>
+
+namespace
+{
+
+/// While it lives, programs that this one starts run in a Croatian locale, made for them where the system has
+/// none.
+class CroatianDesktop
+{
+public:
+    explicit CroatianDesktop(const std::filesystem::path& folder)
+    {
+        const std::string target = (folder / "hr_HR.UTF-8").string();
+        // Warnings of the source are no failure.
+        wxExecute("localedef --no-archive --force -i hr_HR -f UTF-8 " + target, wxEXEC_SYNC);
+        if (!std::filesystem::exists(target + "/LC_MESSAGES"))
+            throw std::runtime_error("localedef has not made hr_HR.UTF-8; it needs the package locales");
+        Set("LOCPATH", folder.string());
+        Set("LC_ALL", "hr_HR.UTF-8");
+        Set("LANGUAGE", "");
+    }
+    ~CroatianDesktop()
+    {
+        for (const auto& [name, value] : Former)
+            SetEnvironment(name, value);
+    }
+    CroatianDesktop(const CroatianDesktop&) = delete;
+    CroatianDesktop& operator=(const CroatianDesktop&) = delete;
+
+private:
+    void Set(const char* name, const std::string& value)
+    {
+        wxString former;
+        wxGetEnv(name, &former);
+        Former.emplace_back(name, former.utf8_string());
+        SetEnvironment(name, value);
+    }
+
+    std::vector<std::pair<const char*, std::string>> Former;
+};
+
+TEST(DesktopLanguage, ButtonsFollowTheDesktopAndNumbersAndSortingDoNot)
+{
+    const TestFolder folder;
+    SmallCatalogue().WriteTo(folder.Data());
+    const CroatianDesktop desktop(folder.Path());
+    SetEnvironment("VARLO_ASK", "yes");
+    wxFileName program(wxStandardPaths::Get().GetExecutablePath());
+    program.SetName("scripted_program");
+    wxArrayString output;
+    wxExecute("\"" + program.GetFullPath() + "\"", output, wxEXEC_SYNC);
+    SetEnvironment("VARLO_ASK", "");
+    EXPECT_EQ(wxJoin(output, '\n').utf8_string(), "Da Ne 1.5 B a");
+}
+
+} // namespace
+
+#endif
