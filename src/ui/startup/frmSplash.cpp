@@ -11,13 +11,11 @@
 namespace
 {
 
-constexpr int ShownMilliseconds = 1000;
-
 const wxSize PictureSize = {480, 270}; // at 96 dots to the inch
 
 } // namespace
 
-frmSplash::frmSplash() : Timer1(this)
+frmSplash::frmSplash(int shownMilliseconds) : Timer1(this)
 {
     Create(nullptr, wxID_ANY, ToWx(ProductName), wxDefaultPosition, wxDefaultSize,
            wxBORDER_NONE | wxFRAME_NO_TASKBAR, "frmSplash");
@@ -37,7 +35,7 @@ frmSplash::frmSplash() : Timer1(this)
 
     BindEvents();
     Picture1->SetFocus();
-    Timer1.StartOnce(ShownMilliseconds);
+    Timer1.StartOnce(shownMilliseconds);
 }
 
 void frmSplash::BindEvents()

@@ -9,7 +9,8 @@ class wxKeyEvent;
 class frmSplash : public wxFrame
 {
 public:
-    frmSplash();
+    /// Closes by itself after `shownMilliseconds`.
+    explicit frmSplash(int shownMilliseconds = 1000);
 
     /// Shows the main window and closes this one. A second call does nothing.
     /// @throws RuntimeError from loading the tables
