@@ -55,7 +55,7 @@ struct Bench
     std::string ExportPath() const
     {
         const std::filesystem::path memory = "/dev/shm";
-        const std::string name = "varlostudiji-" + std::to_string(System::ProcessNumber()) + ".csv";
+        const std::string name = "varlostudiji-" + std::to_string(System::ProcessId()) + ".csv";
         return std::filesystem::is_directory(memory) ? (memory / name).string() : Place.PathOf(name);
     }
 

@@ -1,11 +1,33 @@
 #include "data/Errors.h"
 
+#include "data/Text.h"
+
 #include <utility>
 
 namespace
 {
 
 constexpr std::string_view LongRange = "od -2147483648 do 2147483647";
+
+/// A value that a message box can show: at most 60 characters, control characters as "\x00".
+std::string Shown(std::string_view value)
+{
+    constexpr int maxCharacters = 60;
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string shown;
+    for (int count = 0; !value.empty(); ++count)
+    {
+        if (count == maxCharacters)
+            return shown + "…";
+        const char32_t character = TakeCodePoint(value);
+        const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
+        if (isControl)
+            shown.append("\\x").append({digits[character / 16], digits[character % 16]});
+        else
+            AppendCodePoint(shown, character);
+    }
+    return shown;
+}
 
 std::string Quoted(std::string_view text)
 {
@@ -22,13 +44,17 @@ std::string InPlace(const FieldPlace& place)
 
 std::string NotANumber(std::string_view value)
 {
-    return "Vrijednost " + Quoted(value) + " nije broj";
+    return "Vrijednost " + Quoted(Shown(value)) + " nije broj";
 }
 
 std::string TooLarge(std::string_view value)
 {
-    return "Broj " + Quoted(value) + " je izvan dopuštenog raspona " + std::string(LongRange);
+    return "Broj " + Quoted(Shown(value)) + " je izvan dopuštenog raspona " + std::string(LongRange);
 }
+
+constexpr std::string_view NotFinished =
+    "\r\n\r\nPromjene su sačuvane, ali još nisu upisane u sve datoteke kataloga. Ne uređujte te datoteke. "
+    "Zatvorite druge programe koji ih koriste i ponovno pokrenite Varlostudije: spremanje će se dovršiti.";
 
 struct FileFault
 {
@@ -47,6 +73,7 @@ constexpr FileFault FileFaults[] = {
     {std::errc::read_only_file_system, 70, "Disk je zaštićen od pisanja"},
     {std::errc::device_or_resource_busy, 70, "Datoteku koristi drugi program"},
     {std::errc::text_file_busy, 70, "Datoteku koristi drugi program"},
+    {std::errc::timed_out, 70, "Katalog upravo čita ili sprema drugi primjerak programa"},
     {std::errc::no_space_on_device, 61, "Na disku nema dovoljno mjesta"},
     {std::errc::filename_too_long, 52, "Ime datoteke je predugačko"},
     {std::errc::invalid_argument, 52, "Ime datoteke nije ispravno"},
@@ -98,5 +125,10 @@ InputPastEnd::InputPastEnd(std::string_view path)
 
 FileError::FileError(std::error_code cause, std::string_view path)
     : RuntimeError(FaultOf(cause).Number, std::string(FaultOf(cause).Text) + ": " + std::string(path))
+{
+}
+
+SaveNotFinished::SaveNotFinished(const FileError& cause)
+    : RuntimeError(cause.Number(), cause.Description() + std::string(NotFinished))
 {
 }

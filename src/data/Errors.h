@@ -66,3 +66,10 @@ class FileError : public RuntimeError
 public:
     FileError(std::error_code cause, std::string_view path);
 };
+
+/// The catalogue is saved, but not all of its files hold it yet; the next start or save goes on.
+class SaveNotFinished : public RuntimeError
+{
+public:
+    explicit SaveNotFinished(const FileError& cause);
+};

@@ -1,117 +1,149 @@
 #include "data/Files.h"
 
 #include "data/Errors.h"
-#include "data/FileCalls.h"
+#include "data/FileOperations.h"
 #include "data/System.h"
 #include "data/Windows1250.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstdio>
-#include <memory>
 
 namespace fs = std::filesystem;
+
+using System::Files;
 
 namespace
 {
 
-struct CloseFile
+/// Throws the failure of an operation; `path` is the name that the error shows.
+void Require(std::error_code failure, std::string_view path)
 {
-    void operator()(std::FILE* file) const { CurrentFileCalls.Close(file); }
-};
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
-
-std::error_code LastFailure()
-{
-    return {errno, std::generic_category()};
-}
-
-OpenFile Open(const fs::path& file, const char* mode, std::string_view path)
-{
-    OpenFile opened(CurrentFileCalls.Open(file, mode));
-    if (!opened)
-        throw FileError(LastFailure(), path);
-    return opened;
-}
-
-/// Writes a file and closes it; `path` is the name that an error speaks of.
-void WriteContent(const fs::path& file, std::string_view content, std::string_view path)
-{
-    OpenFile opened = Open(file, "wb", path);
-    if (!CurrentFileCalls.Write(opened.get(), content) || !CurrentFileCalls.FlushToDisk(opened.get()))
-        throw FileError(LastFailure(), path); // made before the file is closed, which may fail as well
-    if (!CurrentFileCalls.Close(opened.release()))
-        throw FileError(LastFailure(), path);
-}
-
-/// What stands at a path, or that nothing does; what cannot even be asked is an error.
-fs::file_type TypeOf(const fs::path& file, std::string_view path)
-{
-    std::error_code failure;
-    const fs::file_type type = fs::status(file, failure).type();
-    if (type == fs::file_type::none)
+    if (failure)
         throw FileError(failure, path);
-    return type;
 }
 
-void RequireWritable(const fs::path& file, fs::file_type type, std::string_view path)
+class OpenFile
 {
-    if (type == fs::file_type::directory)
+public:
+    OpenFile(const fs::path& file, OpenFor purpose, std::string_view path) : Path(path)
+    {
+        Require(Files.Open(file, purpose, Handle), path);
+    }
+    ~OpenFile()
+    {
+        if (IsOpen)
+            Files.Close(Handle);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    /// Reads at most `limit` bytes more.
+    std::string Read(std::size_t limit)
+    {
+        std::string content;
+        std::array<char, 0x10000> buffer;
+        for (std::size_t count = 1; count > 0 && content.size() < limit; content.append(buffer.data(), count))
+        {
+            const std::size_t wanted = std::min(buffer.size(), limit - content.size());
+            Require(Files.Read(Handle, {buffer.data(), wanted}, count), Path);
+        }
+        return content;
+    }
+
+    void Write(std::string_view content) { Require(Files.Write(Handle, content), Path); }
+
+    /// Takes the mode and owner of another file; not every file system has them.
+    void TakeAccess(const fs::path& model) { Files.TakeAccess(Handle, model); }
+
+    /// Flushes to disk and closes.
+    void Finish()
+    {
+        Require(Files.Flush(Handle), Path);
+        IsOpen = false;
+        Require(Files.Close(Handle), Path);
+    }
+
+private:
+    std::string_view Path;
+    FileOperations::Handle Handle = 0;
+    bool IsOpen = true;
+};
+
+FileFacts FactsOf(const fs::path& file, std::string_view path)
+{
+    FileFacts facts;
+    Require(Files.Inspect(file, facts), path);
+    return facts;
+}
+
+fs::path FolderOf(const fs::path& file)
+{
+    return file.has_parent_path() ? file.parent_path() : fs::path(".");
+}
+
+void RequireWritable(const fs::path& file, const FileFacts& facts, std::string_view path)
+{
+    if (facts.Type == FileType::Folder)
         throw FileError(std::make_error_code(std::errc::is_a_directory), path);
-    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-    if (TypeOf(folder, path) != fs::file_type::directory)
+    const FileFacts folder = FactsOf(FolderOf(file), path);
+    if (folder.Type != FileType::Folder)
         throw FileError(std::make_error_code(std::errc::no_such_file_or_directory), path);
-    if (!System::MayWrite(folder) || (type != fs::file_type::not_found && !System::MayWrite(file)))
+    if (!folder.Writable || (facts.Type != FileType::Missing && !facts.Writable))
         throw FileError(std::make_error_code(std::errc::permission_denied), path);
 }
 
-/// Keeps a file's content beside it where the new one differs.
-void KeepFormer(std::string_view path, std::string_view newContent)
+/// Resolves symbolic links; the target may not exist.
+fs::path ResolveSymlinks(fs::path file)
 {
-    try
-    {
-        if (const std::string former = ReadFile(path); !former.empty() && former != newContent)
-            ReplaceFile(std::string(path) + ".bak", former);
-    }
-    catch (const FileError&)
-    {
-        // The copy is a kindness, and the save that it must not hinder is what the user has asked for.
-    }
+    constexpr int most = 40; // as many as the systems follow
+    fs::path target;
+    for (int i = 0; i < most && !Files.ReadLink(file, target) && !target.empty(); ++i)
+        file = file.parent_path() / target;
+    return file;
 }
 
-/// Writes the new content beside the file, with the file's own permissions, and puts it in the file's place.
-void WriteBesideAndReplace(const fs::path& file, std::string_view content, std::string_view path,
-                           Former former)
+/// For a file that has no model: it gets the mode of any new file.
+const fs::path NoModel;
+
+void WriteNew(const fs::path& file, std::string_view content, const fs::path& model, std::string_view path)
 {
-    const fs::path temporary = TemporaryNameFor(file);
-    std::error_code ignored;
+    bool isMade = false;
     try
     {
-        WriteContent(temporary, content, path);
-        if (const fs::file_status replaced = fs::status(file, ignored); fs::exists(replaced))
-            fs::permissions(temporary, replaced.permissions(), ignored);
-        if (former == Former::Kept)
-            KeepFormer(path, content); // not before the new content has its place on the disk
-        if (const std::error_code failure = CurrentFileCalls.Replace(temporary, file))
-            throw FileError(failure, path);
+        OpenFile opened(file, OpenFor::NewFile, path);
+        isMade = true;
+        opened.Write(content);
+        opened.TakeAccess(model);
+        opened.Finish();
     }
     catch (const FileError&)
     {
-        if (fs::is_regular_file(temporary, ignored)) // and not something else that stood in its place
-            CurrentFileCalls.Remove(temporary);
+        if (isMade) // and not what another program has put there
+            Files.RemoveFile(file);
         throw;
     }
 }
 
-/// What a link leads to in the end, whether it is there or not; any other path is its own end.
-fs::path EndOfLinks(fs::path file)
+enum class Unused
 {
-    constexpr int most = 40; // as many as the systems follow
-    std::error_code failure;
-    for (int i = 0; i < most && fs::is_symlink(file, failure); ++i)
-        file = file.parent_path() / fs::read_symlink(file, failure);
-    return file;
+    Removed,
+    Kept
+};
+
+/// Writes the new content beside the file and puts it in the file's place. `unused` is for a temporary file
+/// that is whole but cannot replace the file.
+void WriteBesideAndReplace(const fs::path& file, const fs::path& temporary, std::string_view content,
+                           std::string_view path, Unused unused)
+{
+    Require(Files.RemoveFile(temporary), path); // of an earlier run
+    WriteNew(temporary, content, file, path);
+    if (const std::error_code failure = Files.Rename(temporary, file))
+    {
+        if (unused == Unused::Removed)
+            Files.RemoveFile(temporary);
+        throw FileError(failure, path);
+    }
+    Require(Files.FlushFolder(FolderOf(file)), path);
 }
 
 } // namespace
@@ -121,11 +153,21 @@ fs::path ToPath(std::string_view path)
     return {std::u8string(path.begin(), path.end())};
 }
 
+std::string ToText(const fs::path& path)
+{
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+std::string PathIn(std::string_view folder, std::string_view name)
+{
+    return std::string(folder).append(System::PathSeparator).append(name);
+}
+
 fs::path TemporaryNameFor(fs::path file)
 {
-    // Of a long name it is no longer than the file's own, since both have to be names that the system takes.
     constexpr std::size_t longName = 100;
-    const fs::path ending = "." + std::to_string(System::ProcessNumber()) + ".tmp";
+    const fs::path ending = "." + std::to_string(System::ProcessId()) + ".tmp";
     fs::path::string_type name = file.filename().native();
     if (name.size() > longName)
         name.resize(name.size() - ending.native().size());
@@ -135,46 +177,58 @@ fs::path TemporaryNameFor(fs::path file)
 std::string ReadFile(std::string_view path, std::size_t limit)
 {
     const fs::path file = ToPath(path);
-    if (TypeOf(file, path) == fs::file_type::directory)
+    if (FactsOf(file, path).Type == FileType::Folder)
         throw FileError(std::make_error_code(std::errc::is_a_directory), path);
-    const OpenFile opened = Open(file, "rb", path);
-
-    std::string content;
-    std::array<char, 0x10000> buffer;
-    while (content.size() < limit)
-    {
-        const std::size_t wanted = std::min(buffer.size(), limit - content.size());
-        const std::size_t count = std::fread(buffer.data(), 1, wanted, opened.get());
-        content.append(buffer.data(), count);
-        if (count < wanted)
-            break;
-    }
-    if (std::ferror(opened.get()) != 0)
-        throw FileError(LastFailure(), path);
-    return content;
+    return OpenFile(file, OpenFor::Reading, path).Read(limit);
 }
 
 void CreateFileIfMissing(std::string_view path)
 {
-    const fs::path file = ToPath(path);
-    if (TypeOf(file, path) == fs::file_type::not_found)
-        Open(file, "ab", path);
+    const fs::path file = ResolveSymlinks(ToPath(path));
+    if (FactsOf(file, path).Type == FileType::Missing)
+        WriteNew(file, "", NoModel, path);
 }
 
-void ReplaceFile(std::string_view path, std::string_view content, Former former)
+void MakeFolders(std::string_view path)
 {
-    // A link stays a link: what it leads to is what gets the new content.
-    const fs::path file = EndOfLinks(ToPath(path));
-    const fs::file_type type = TypeOf(file, path);
-    RequireWritable(file, type, path);
-    if (type == fs::file_type::regular || type == fs::file_type::not_found)
-        WriteBesideAndReplace(file, content, path, former);
-    else
-        WriteContent(file, content, path); // a device has no old content to keep, and must not be replaced
+    const fs::path folder = ToPath(path);
+    if (FactsOf(folder, path).Type == FileType::Folder)
+        return;
+    if (folder.has_relative_path() && folder.parent_path() != folder)
+        MakeFolders(ToText(folder.parent_path()));
+    Require(Files.MakeFolder(folder), path);
+}
+
+void ReplaceFile(std::string_view path, std::string_view content)
+{
+    // A link stays a link: its target gets the new content.
+    const fs::path file = ResolveSymlinks(ToPath(path));
+    const FileFacts facts = FactsOf(file, path);
+    RequireWritable(file, facts, path);
+    if (facts.Type == FileType::Other) // it has no old content to keep, and must not be replaced
+    {
+        OpenFile opened(file, OpenFor::Rewriting, path);
+        opened.Write(content);
+        opened.Finish();
+        return;
+    }
+    WriteBesideAndReplace(file, TemporaryNameFor(file), content, path, Unused::Removed);
+}
+
+void ConvertFile(std::string_view path, std::string_view content)
+{
+    const fs::path file = ResolveSymlinks(ToPath(path));
+    RequireWritable(file, FactsOf(file, path), path);
+    WriteBesideAndReplace(file, fs::path(file) += ".tmp", content, path, Unused::Kept);
+}
+
+void WriteNewFile(std::string_view path, std::string_view content, std::string_view model)
+{
+    WriteNew(ToPath(path), content, ToPath(model), path);
 }
 
 void TextFile::AddLine(std::string_view text)
 {
-    AppendWindows1250(Content, text);
-    Content += "\r\n";
+    AppendWindows1250(Bytes, text);
+    Bytes += "\r\n";
 }

@@ -1,14 +1,19 @@
 #include "data/modData.h"
 
+#include "data/CatalogueSave.h"
+#include "data/DatedCopies.h"
 #include "data/Errors.h"
 #include "data/Files.h"
 #include "data/Numbers.h"
+#include "data/Product.h"
 #include "data/System.h"
 #include "data/Text.h"
 #include "data/Windows1250.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <memory>
+#include <optional>
 
 namespace
 {
@@ -32,10 +37,23 @@ constexpr TableLayout KolegijNastavnikLayout = {"db_kolegij_nastavnik.csv", Kole
 
 constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
+/// The folder that the save operations write into; empty: each replaces its own file.
+std::string SetFolder;
+
+/// Set once the tables hold a whole catalogue; other copies of the program see it.
+std::unique_ptr<CatalogueLock> Running;
+
 std::string FilePath(const Table& table)
 {
-    return modData::GetDataFolder() + std::string(System::PathSeparator) +
-           std::string(table.Layout().FileName);
+    return PathIn(modData::GetDataFolder(), table.Layout().FileName);
+}
+
+CatalogueOnDisk FilesOnDisk()
+{
+    CatalogueOnDisk files = {modData::GetDataFolder(), {}};
+    for (const Table* table : modData::AllTables())
+        files.Names.push_back(table->Layout().FileName);
+    return files;
 }
 
 void Load(Table& table)
@@ -43,11 +61,6 @@ void Load(Table& table)
     const std::string path = FilePath(table);
     modData::NormalizeFileEncoding(path);
     table = modData::LoadTable(path, table.Layout());
-}
-
-void Save(const Table& table)
-{
-    modData::SaveTable(FilePath(table), table.Layout().Header(), table);
 }
 
 /// Takes the first line off; CR LF or CR ends it, and a lone LF is part of it.
@@ -70,6 +83,104 @@ std::string LineOf(const Row& row)
     return line;
 }
 
+TextFile FileOf(std::string_view header, const Table& table)
+{
+    TextFile file;
+    file.AddLine(header);
+    for (const Row& row : table)
+        file.AddLine(LineOf(row));
+    return file;
+}
+
+TextFile FileOf(const Table& table)
+{
+    return FileOf(table.Layout().Header(), table);
+}
+
+void Save(const Table& table)
+{
+    const std::string path = FilePath(table);
+    if (SetFolder.empty())
+        modData::SaveTable(path, table.Layout().Header(), table);
+    else
+        WriteNewFile(PathIn(SetFolder, table.Layout().FileName), FileOf(table).Content(), path);
+}
+
+void SaveEach()
+{
+    modData::SaveZavodi();
+    modData::SaveNastavnici();
+    modData::SaveStudiji();
+    modData::SaveSmjerovi();
+    modData::SaveKolegiji();
+    modData::SaveKolegijSmjerovi();
+    modData::SaveKolegijNastavnici();
+}
+
+/// Writes the seven tables into a folder.
+void SaveEachInto(const std::string& folder)
+{
+    struct Restore
+    {
+        ~Restore() { SetFolder.clear(); }
+    };
+    const Restore after;
+    SetFolder = folder;
+    SaveEach();
+}
+
+/// Whether a file holds what a table would be saved as.
+bool IsSaved(const Table* table)
+{
+    try
+    {
+        return ReadFile(FilePath(*table)) == FileOf(*table).Content();
+    }
+    catch (const FileError&)
+    {
+        return false;
+    }
+}
+
+/// Whether a file reads as the rows of a table; other line ends, blank lines and headers make no difference.
+bool ReadsAs(const Table* table)
+{
+    try
+    {
+        const Table onDisk = modData::LoadTable(FilePath(*table), table->Layout());
+        return FileOf(onDisk).Content() == FileOf(*table).Content();
+    }
+    catch (const RuntimeError&)
+    {
+        return false;
+    }
+}
+
+/// The text of a file that is to be brought to windows-1250; nothing for any other file.
+std::optional<std::string> MarkedText(std::string_view path)
+{
+    if (ReadFile(path, Utf8Mark.size()) != Utf8Mark)
+        return std::nullopt;
+    return ReadFile(path).substr(Utf8Mark.size());
+}
+
+/// Whether letters become "?" when a file is brought to windows-1250.
+bool LosesLetters(const std::string& path)
+{
+    if (TypeOf(path) == FileType::Missing)
+        return false;
+    const std::optional<std::string> text = MarkedText(path);
+    return text && std::ranges::count(ToWindows1250(*text), '?') > std::ranges::count(*text, '?');
+}
+
+/// The folder for what cannot be kept beside the catalogue.
+std::string PlaceAmongTemporaries(std::string_view ending)
+{
+    return PathIn(System::TemporaryFolder(), ProductName)
+        .append("-" + DatedCopies::CurrentTime())
+        .append(ending);
+}
+
 } // namespace
 
 namespace modData
@@ -83,6 +194,11 @@ Table Kolegiji(KolegijLayout);
 Table KolegijSmjerovi(KolegijSmjerLayout);
 Table KolegijNastavnici(KolegijNastavnikLayout);
 
+std::array<Table*, 7> AllTables()
+{
+    return {&Zavodi, &Nastavnici, &Studiji, &Smjerovi, &Kolegiji, &KolegijSmjerovi, &KolegijNastavnici};
+}
+
 std::string GetDataFolder()
 {
     const std::string separator(System::PathSeparator);
@@ -94,18 +210,22 @@ std::string GetDataFolder()
         return System::ProgramFolder();
 
     std::string folder = base + separator + "Varlostudiji";
-    std::error_code ignored;
-    std::filesystem::create_directories(ToPath(folder), ignored);
+    try
+    {
+        MakeFolders(folder);
+    }
+    catch (const FileError&)
+    {
+        // The file access that follows says why.
+    }
     return folder;
 }
 
 void NormalizeFileEncoding(std::string_view path)
 {
     CreateFileIfMissing(path);
-    if (ReadFile(path, Utf8Mark.size()) != Utf8Mark)
-        return;
-    const std::string content = ReadFile(path);
-    ReplaceFile(path, ToWindows1250(std::string_view(content).substr(Utf8Mark.size())));
+    if (const std::optional<std::string> text = MarkedText(path))
+        ConvertFile(path, ToWindows1250(*text));
 }
 
 Table LoadTable(std::string_view path, const TableLayout& layout)
@@ -128,11 +248,7 @@ Table LoadTable(std::string_view path, const TableLayout& layout)
 
 void SaveTable(std::string_view path, std::string_view header, const Table& table)
 {
-    TextFile file;
-    file.AddLine(header);
-    for (const Row& row : table)
-        file.AddLine(LineOf(row));
-    file.SaveAs(path, Former::Kept);
+    FileOf(header, table).SaveAs(path);
 }
 
 void LoadZavodi()
@@ -195,6 +311,14 @@ void SaveKolegijNastavnici()
 
 void LoadAllTables()
 {
+    const CatalogueOnDisk files = FilesOnDisk();
+    const CatalogueLock lock(files.Folder, LockKind::Saving);
+    CatalogueSave::FinishAtStart(files);
+    if (lock.IsHeld()) // otherwise another copy of the program may need them
+        CatalogueSave::RemoveLeftovers(files);
+    if (std::ranges::any_of(files.Names,
+                            [&](std::string_view name) { return LosesLetters(PathIn(files.Folder, name)); }))
+        DatedCopies::KeepAnother(files);
     LoadZavodi();
     LoadNastavnici();
     LoadStudiji();
@@ -202,17 +326,42 @@ void LoadAllTables()
     LoadKolegiji();
     LoadKolegijSmjerovi();
     LoadKolegijNastavnici();
+    Running = std::make_unique<CatalogueLock>(files.Folder, LockKind::Running);
 }
 
 void SaveAllTables()
 {
-    SaveZavodi();
-    SaveNastavnici();
-    SaveStudiji();
-    SaveSmjerovi();
-    SaveKolegiji();
-    SaveKolegijSmjerovi();
-    SaveKolegijNastavnici();
+    const CatalogueOnDisk files = FilesOnDisk();
+    const CatalogueLock lock(files.Folder, LockKind::Saving);
+    CatalogueSave::FinishAtSave(files);
+    if (std::ranges::all_of(AllTables(), IsSaved))
+        SaveEach();
+    else
+        CatalogueSave::Save(files, SaveEachInto);
+}
+
+UnsavedChanges KeepUnsavedChanges()
+{
+    if (!Running || std::ranges::all_of(AllTables(), ReadsAs))
+        return {false, ""};
+    constexpr std::string_view ending = "-prekid";
+    const CatalogueOnDisk files = FilesOnDisk();
+    const std::function<std::string()> places[] = {
+        [&] { return DatedCopies::NewPlace(files, ending); },
+        [&] { return PlaceAmongTemporaries(ending); },
+    };
+    for (const auto& place : places)
+        try
+        {
+            const std::string folder = place();
+            MakeWholeFolder(files, folder, SaveEachInto);
+            return {true, folder};
+        }
+        catch (const FileError&)
+        {
+            // The next place may have room.
+        }
+    return {true, ""};
 }
 
 std::int32_t NextKolegijID()

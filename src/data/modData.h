@@ -2,6 +2,7 @@
 
 #include "data/Table.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -103,24 +104,28 @@ extern Table Kolegiji;
 extern Table KolegijSmjerovi;
 extern Table KolegijNastavnici;
 
+/// The seven tables, in the order in which their files are loaded and saved.
+std::array<Table*, 7> AllTables();
+
 /// The folder of the seven files, without a separator behind it: "Varlostudiji" in %LOCALAPPDATA%, or in the
 /// user profile where that is not set. It is created when missing; a failure to do so is ignored.
 std::string GetDataFolder();
 
 /// Turns a file that begins with the UTF-8 byte-order mark into windows-1250 in place, line ends as they are;
-/// any other file stays untouched, a missing one is created empty. @throws FileError
+/// any other file stays untouched, a missing one is created empty. The temporary file is `path` with ".tmp"
+/// at its end; it replaces one of an earlier run. @throws FileError
 void NormalizeFileEncoding(std::string_view path);
 
 /// Reads the rows of a windows-1250 file: ";" between fields, CR LF or CR behind lines, the first line and
 /// blank lines passed over, no field changed. @throws FileError, InputPastEnd when there is no first line
 Table LoadTable(std::string_view path, const TableLayout& layout);
 
-/// Writes a header and the rows. A separator stands only behind what is already on the line, so that leading
-/// empty fields leave none. A former content that differs is kept in the file's ".bak".
-/// @throws FileError, and the old content stays
+/// Writes a header and the rows. A separator comes only after what is already on the line, so that leading
+/// empty fields leave none. @throws FileError, and the old content stays
 void SaveTable(std::string_view path, std::string_view header, const Table& table);
 
-// Each loads one table from its file, brought to windows-1250 first, or saves it. @throws as the above
+// Each loads one table from its file, brought to windows-1250 first, or saves it: called alone, to its own
+// file; called by SaveAllTables, to the set of files that replaces the catalogue. @throws as the above
 
 void LoadZavodi();
 void LoadNastavnici();
@@ -138,11 +143,27 @@ void SaveKolegiji();
 void SaveKolegijSmjerovi();
 void SaveKolegijNastavnici();
 
-/// Loads the seven tables. @throws FileError, InputPastEnd
+/// Finishes an interrupted save, then loads the seven tables. Where a conversion to windows-1250 would lose
+/// letters, the catalogue is kept as a dated copy before. Other copies of the program wait meanwhile, and see
+/// from then on that this one runs.
+/// @throws FileError, InputPastEnd; SaveNotFinished when nothing is loaded yet
 void LoadAllTables();
 
-/// Saves the seven tables. @throws FileError; the files saved before it stay saved
+/// Saves the seven tables, all or none (data/CatalogueSave.h). If the files hold the same already, each is
+/// written alone.
+/// @throws FileError; SaveNotFinished when the changes are safe, but not in all files yet
 void SaveAllTables();
+
+/// What has become of changes that were not saved.
+struct UnsavedChanges
+{
+    bool Exist;
+    std::string Place; ///< The folder that holds the tables now; empty if nothing could be written.
+};
+
+/// Writes tables that differ from their files to a folder ending in "-prekid", in "kopije" or else among the
+/// system's temporary files. The tables' own files stay untouched.
+UnsavedChanges KeepUnsavedChanges();
 
 /// The ID for a new course: the largest one plus 1, and 1 for an empty table.
 /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for an ID that is no whole number

@@ -3,7 +3,7 @@
 #include "support/LoadChecks.h"
 #include "support/TestFolder.h"
 
-#include "data/FileCalls.h"
+#include "data/FileOperations.h"
 #include "data/System.h"
 #include "data/modData.h"
 
@@ -39,22 +39,21 @@ class HastyFiles
 public:
     HastyFiles()
     {
-        CurrentFileCalls.FlushToDisk = [](std::FILE* file) { return std::fflush(file) == 0; };
-        CurrentFileCalls.Replace = [](const std::filesystem::path& from, const std::filesystem::path& to)
+        System::Files.Flush = [](FileOperations::Handle) { return std::error_code(); };
+        System::Files.FlushFolder = [](const std::filesystem::path&) { return std::error_code(); };
+        System::Files.Rename = [](const std::filesystem::path& from, const std::filesystem::path& to)
         {
             // Some file systems wait for the disk where a file takes another's place, so there must be none.
-            std::error_code failure;
-            std::filesystem::remove(to, failure);
-            std::filesystem::rename(from, to, failure);
-            return failure;
+            System::OwnFiles.RemoveFile(to);
+            return System::OwnFiles.Rename(from, to);
         };
     }
-    ~HastyFiles() { CurrentFileCalls = Former; }
+    ~HastyFiles() { System::Files = Former; }
     HastyFiles(const HastyFiles&) = delete;
     HastyFiles& operator=(const HastyFiles&) = delete;
 
 private:
-    FileCalls Former = CurrentFileCalls;
+    FileOperations Former = System::Files;
 };
 
 /// The first difference that files bring up, with the choices that the seed makes.

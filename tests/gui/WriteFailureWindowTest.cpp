@@ -1,9 +1,11 @@
 // What the user is told when a call on a file fails while the windows save and export.
 
+#include "data/Files.h"
+#include "data/modData.h"
 #include "ects/frmECTSCalc.h"
 #include "support/Catalogue.h"
-#include "support/FailingCalls.h"
 #include "support/TestFolder.h"
+#include "support/WatchedFiles.h"
 #include "support/Windows.h"
 #include "ui/department_stats/frmStatZavodi.h"
 #include "ui/lecturer_stats/frmStatNositelji.h"
@@ -11,13 +13,15 @@
 
 #include <wx/msgdlg.h>
 
+#include <algorithm>
+
 namespace
 {
 
-/// A failing call, by its place among those that write one file, and what it ends in.
+/// The first operation of a kind fails, and what it ends in.
 struct WriteFault
 {
-    std::size_t Place;
+    FileOperation::Kind What;
     const char* Number;
     const char* Text;
 };
@@ -28,16 +32,22 @@ constexpr const char* Full = "Na disku nema dovoljno mjesta: ";
 constexpr const char* Failed = "Greška pri čitanju ili pisanju: ";
 
 constexpr WriteFault ExportFaults[] = {
-    {1, "70", NotAllowed}, {2, "61", Full}, {3, "57", Failed}, {4, "57", Failed}, {5, "70", NotAllowed},
+    {FileOperation::Open, "70", NotAllowed},
+    {FileOperation::Write, "61", Full},
+    {FileOperation::Flush, "57", Failed},
+    {FileOperation::Rename, "70", NotAllowed},
 };
 
-// Between its closing and its replacement, a table file's former content is copied.
-constexpr std::size_t CallsPerTable = 12;
-constexpr WriteFault SaveFaults[] = {
-    {1, "70", NotAllowed}, {2, "61", Full}, {3, "57", Failed}, {4, "57", Failed}, {12, "70", NotAllowed},
-};
-constexpr std::size_t FirstCopyCall = 5;
-constexpr std::size_t LastCopyCall = 11;
+/// The place of the first operation of a kind among those that an action makes, from 1.
+template<typename Action>
+std::size_t PlaceOf(FileOperation::Kind what, Action action)
+{
+    const WatchedFiles watched;
+    action();
+    const auto found = std::ranges::find(watched.Made(), what, &FileOperation::What);
+    EXPECT_NE(found, watched.Made().end());
+    return static_cast<std::size_t>(found - watched.Made().begin()) + 1;
+}
 
 class WriteFailureWindow : public testing::Test
 {
@@ -57,29 +67,26 @@ protected:
 
     bool IsOld(const char* name) { return ReadBytes(Folder.Data() / name).ends_with("\r\n\r\n"); }
 
-    /// Leaves by `leave` with each fault in the writing of a table file, not the first: the error goes
-    /// uncaught, the window says nothing of its own.
-    void ExpectSaveFailures(const char* file, std::size_t tablesBefore, void (*leave)(frmMain*))
+    /// Leaves by `leave` with a disk that fills up in the set of files: the error goes uncaught, the window
+    /// says nothing of its own.
+    void ExpectSaveFailure(void (*leave)(frmMain*))
     {
-        for (const WriteFault& fault : SaveFaults)
+        Open();
+        const std::size_t write = PlaceOf(FileOperation::Write, modData::SaveAllTables);
+        std::filesystem::remove_all(Folder.Data());
+        std::filesystem::create_directory(Folder.Data());
+        CloseAllWindows();
+        Open();
+        const MessageAnswers answers;
         {
-            SCOPED_TRACE(testing::Message() << file << ", call " << fault.Place);
-            std::filesystem::remove_all(Folder.Data());
-            std::filesystem::create_directory(Folder.Data());
-            Open();
-            const MessageAnswers answers;
-            {
-                const FailingCalls failing(tablesBefore * CallsPerTable + fault.Place);
-                leave(Main);
-            }
-            EXPECT_EQ(TakeUncaughtError(),
-                      std::string(fault.Number) + ": " + fault.Text + Folder.DataPath(file));
-            EXPECT_TRUE(answers.Shown().empty());
-            EXPECT_TRUE(IsOld(file));
-            EXPECT_FALSE(IsOld("db_zavod.csv")) << "what is saved before it stays saved";
-            EXPECT_TRUE(TemporaryFilesIn(Folder.Data()).empty());
-            CloseAllWindows();
+            const WatchedFiles failing(write);
+            leave(Main);
         }
+        EXPECT_EQ(TakeUncaughtError(),
+                  "61: " + std::string(Full) + PathIn(Folder.DataPath("spremanje"), "db_zavod.csv"));
+        EXPECT_TRUE(answers.Shown().empty());
+        EXPECT_TRUE(IsOld("db_zavod.csv"));
+        EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
     }
 
     /// Exports by a button with each fault, and hands what the user is told to `check`.
@@ -91,10 +98,17 @@ protected:
         const SaveAnswers save(Folder.PathOf("older.csv"));
         for (const WriteFault& fault : ExportFaults)
         {
-            SCOPED_TRACE(testing::Message() << button << ", call " << fault.Place);
+            SCOPED_TRACE(testing::Message() << button << ", " << NameOf(fault.What));
+            const std::size_t place = PlaceOf(fault.What,
+                                              [&]
+                                              {
+                                                  const MessageAnswers success;
+                                                  Press(window, button);
+                                              });
+            WriteBytes(older, "older");
             MessageAnswers answers;
             {
-                const FailingCalls failing(fault.Place);
+                const WatchedFiles failing(place);
                 Press(window, button);
             }
             check(fault, answers);
@@ -148,44 +162,31 @@ void LeaveByCloseBox(frmMain* window)
 
 TEST_F(WriteFailureWindow, ASaveOfTheExitButton)
 {
-    ExpectSaveFailures("db_kolegij.csv", 4, LeaveByButton);
+    ExpectSaveFailure(LeaveByButton);
 }
 
 TEST_F(WriteFailureWindow, ASaveOfTheCloseBox)
 {
-    ExpectSaveFailures("db_kolegij_nastavnik.csv", 6, LeaveByCloseBox);
+    ExpectSaveFailure(LeaveByCloseBox);
 }
 
-TEST_F(WriteFailureWindow, ACopyOfTheFormerContentThatCannotBeMadeIsNotSpokenOf)
+TEST_F(WriteFailureWindow, InvalidDataAtTheExitTouchNothing)
 {
-    for (const std::size_t call : {FirstCopyCall, LastCopyCall})
+    for (const auto leave : {LeaveByButton, LeaveByCloseBox})
     {
         Open();
-        const MessageAnswers answers;
-        {
-            const FailingCalls failing(call);
-            Press(Main, "cmdExit");
-        }
-        EXPECT_EQ(TakeUncaughtError(), "") << call;
-        EXPECT_TRUE(answers.Shown().empty()) << call;
-        EXPECT_TRUE(wxTopLevelWindows.empty()) << call;
-        EXPECT_FALSE(IsOld("db_zavod.csv")) << call;
-        std::filesystem::remove_all(Folder.Data());
-        std::filesystem::create_directory(Folder.Data());
+        modData::KolegijSmjerovi.Append({"99", "1"});
+        MessageAnswers answers;
+        const WatchedFiles watched;
+        leave(Main);
+        EXPECT_EQ(answers.TakeOnly().Text,
+                  "CSV podaci nisu ispravni. Ispravite greške prije izvoza statistike.");
+        EXPECT_TRUE(watched.Effects(Folder.Data()).empty());
+        EXPECT_TRUE(std::ranges::none_of(watched.Made(), [](const FileOperation& operation)
+                                         { return operation.What == FileOperation::Lock; }));
+        EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
+        CloseAllWindows();
     }
-}
-
-TEST_F(WriteFailureWindow, TheSecondSaveOfTheExitButton)
-{
-    Open();
-    const MessageAnswers answers;
-    {
-        const FailingCalls failing(7 * CallsPerTable + 1);
-        Press(Main, "cmdExit");
-    }
-    EXPECT_EQ(TakeUncaughtError(), std::string("70: ") + NotAllowed + Folder.DataPath("db_zavod.csv"));
-    EXPECT_FALSE(IsOld("db_zavod.csv") || IsOld("db_kolegij_nastavnik.csv")) << "the first has saved all";
-    EXPECT_TRUE(answers.Shown().empty());
 }
 
 TEST_F(WriteFailureWindow, ADataFolderThatIsGoneIsMadeAnewAndEverythingSaved)

@@ -64,6 +64,17 @@ Catalogue SmallCatalogue()
     };
 }
 
+Catalogue RenumberedCatalogue()
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Kolegiji = {"11;Uvod u lov;2;1;0;5;obvezni;1;1", "12;Žičani alati;1;1;1;4;izborni;2;1",
+                          "13;Bevska kultura;2;0;2;6;obvezni;1;2", "14;Napredni lov;3;0;1;10;obvezni;1;3"};
+    catalogue.KolegijSmjerovi = {"11;1", "11;2", "12;2", "13;3", "14;4"};
+    catalogue.KolegijNastavnici = {"11;1;Nositelj;1", "11;3;Nositelj;2", "12;2;Nositelj;1", "13;2;Nositelj;1",
+                                   "14;3;Nositelj;1"};
+    return catalogue;
+}
+
 std::vector<std::string> LinesOf(const Table& table)
 {
     std::vector<std::string> lines;

@@ -30,5 +30,9 @@ struct Catalogue
 /// the lower one, directions and five courses.
 Catalogue SmallCatalogue();
 
+/// The small catalogue with other numbers for all courses: every mixture of the courses, direction links and
+/// lecturer links of the two fails validation.
+Catalogue RenumberedCatalogue();
+
 /// The rows of a table as lines, the fields joined by ";".
 std::vector<std::string> LinesOf(const Table& table);

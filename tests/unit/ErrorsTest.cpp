@@ -21,7 +21,11 @@ TEST(Errors, AFileErrorNamesThePathAndHasTheNumberOfItsCause)
         {std::errc::permission_denied, 70},
         {std::errc::read_only_file_system, 70},
         {std::errc::no_space_on_device, 61},
+        {std::errc::operation_not_permitted, 70},
+        {std::errc::device_or_resource_busy, 70},
+        {std::errc::timed_out, 70},
         {std::errc::filename_too_long, 52},
+        {std::errc::invalid_argument, 52},
         {std::errc::io_error, 57},
     };
     std::set<std::string> descriptions;
@@ -57,6 +61,22 @@ TEST(Errors, AFaultyFieldNamesItsValueFileLineAndColumn)
               "(datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
     EXPECT_EQ(SubscriptOutOfRange(place).Description(),
               "Redak ima premalo polja (datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
+}
+
+TEST(Errors, ALongValueIsCutAndItsControlCharactersAreVisible)
+{
+    std::string sixty;
+    for (int i = 0; i < 60; ++i)
+        sixty += "č";
+    EXPECT_EQ(TypeMismatch(sixty).Description(), "Vrijednost \"" + sixty + "\" nije broj.");
+    EXPECT_EQ(TypeMismatch(sixty + "x").Description(), "Vrijednost \"" + sixty + "…\" nije broj.");
+    EXPECT_EQ(TypeMismatch(std::string(3'000'000, 'x')).Description(),
+              "Vrijednost \"" + std::string(60, 'x') + "…\" nije broj.");
+    EXPECT_EQ(TypeMismatch({"1\0\n\x1F\x7F\xC2\x83\xC2\xA0", 9}).Description(),
+              "Vrijednost \"1\\x00\\x0a\\x1f\\x7f\\x83\xC2\xA0\" nije broj.");
+    EXPECT_TRUE(Overflow(std::string(1000, '9'))
+                    .Description()
+                    .starts_with("Broj \"" + std::string(60, '9') + "…\" je izvan"));
 }
 
 TEST(Errors, ARowThatNoFileHoldsHasNoLine)

@@ -5,6 +5,7 @@
 #include "data/Windows1250.h"
 #include "data/modData.h"
 #include "support/TestFolder.h"
+#include "support/WatchedFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -129,8 +130,7 @@ TEST_F(Files, NamesMayHoldAnyLetter)
 TEST_F(Files, ANameMayBeAsLongAsTheSystemTakes)
 {
 #ifdef _WIN32
-    const std::size_t most = 259 - (Folder.Path() / "").native().size(); // of a whole path, in UTF-16
-    const std::string name = std::string(most - 4, 'x') + ".csv";
+    const std::string name = std::string(251, 'x') + ".csv"; // the path is longer than 260 characters
 #else
     const std::string name = "š" + std::string(249, 'x') + ".csv";
 #endif
@@ -300,12 +300,75 @@ TEST_F(Files, ADiskThatFillsUpOnTheWayLeavesTheOldContent)
     EXPECT_EQ(EntriesOf(Folder.Path()).size(), 2U) << "nothing temporary stays";
 }
 
+fs::perms ModeOf(const fs::path& file)
+{
+    return fs::status(file).permissions();
+}
+
 TEST_F(Files, AFileKeepsItsPermissions)
 {
+    for (const unsigned mode : {0600U, 0664U, 0644U, 0640U})
+    {
+        WriteBytes(File, "old");
+        fs::permissions(File, static_cast<fs::perms>(mode));
+        ReplaceFile(Path, "new");
+        EXPECT_EQ(ModeOf(File), static_cast<fs::perms>(mode));
+    }
+}
+
+TEST_F(Files, ANewFileHasThePermissionsThatTheUmaskLeaves)
+{
+    for (const mode_t mask : {0022U, 0077U, 0002U})
+    {
+        const mode_t former = ::umask(mask);
+        ReplaceFile(Path, "new");
+        CreateFileIfMissing(Folder.PathOf("empty.csv"));
+        EXPECT_EQ(::umask(former), mask) << "the umask is not changed";
+        EXPECT_EQ(ModeOf(File), static_cast<fs::perms>(0666U & ~mask));
+        EXPECT_EQ(ModeOf(Folder.Path() / "empty.csv"), static_cast<fs::perms>(0666U & ~mask));
+        fs::remove(File);
+        fs::remove(Folder.Path() / "empty.csv");
+    }
+}
+
+TEST_F(Files, ATemporaryFileIsOnlyForTheUserWhileItIsWritten)
+{
+    static fs::perms mode;
+    mode = fs::perms::none;
     WriteBytes(File, "old");
-    fs::permissions(File, fs::perms::owner_read | fs::perms::owner_write);
+    const WatchedFiles watched;
+    System::Files.Write = [](FileOperations::Handle file, std::string_view bytes)
+    {
+        mode = ModeOf("/proc/self/fd/" + std::to_string(file));
+        return System::OwnFiles.Write(file, bytes);
+    };
     ReplaceFile(Path, "new");
-    EXPECT_EQ(fs::status(File).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(mode, fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(Files, ALinkInTheTemporaryFilesPlaceIsNotFollowed)
+{
+    WriteBytes(Folder.Path() / "victim", "untouched");
+    fs::create_symlink("victim", Temporary);
+    ReplaceFile(Path, "new");
+    EXPECT_EQ(ReadBytes(Folder.Path() / "victim"), "untouched");
+    EXPECT_EQ(ReadBytes(File), "new");
+    EXPECT_FALSE(fs::is_symlink(File));
+}
+
+TEST_F(Files, AFileKeepsItsOwnerWhereThatIsPermitted)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root may give a file to somebody else";
+    constexpr uid_t somebody = 12345;
+    constexpr gid_t group = 23456;
+    WriteBytes(File, "old");
+    ASSERT_EQ(::chown(File.c_str(), somebody, group), 0);
+    ReplaceFile(Path, "new");
+    struct stat status = {};
+    ASSERT_EQ(::stat(File.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, somebody);
+    EXPECT_EQ(status.st_gid, group);
 }
 
 #endif
@@ -351,11 +414,11 @@ TEST_F(Encoding, AFileWithoutTheMarkIsNotEvenWrittenAgain)
     EXPECT_EQ(fs::last_write_time(File), before);
 }
 
-TEST_F(Encoding, ALeftoverTemporaryFileIsOverwritten)
+TEST_F(Encoding, ALeftoverTemporaryFileIsReplaced)
 {
-    WriteBytes(Temporary, "left over from a crash, and longer than the new content");
+    WriteBytes(Folder.Path() / "file.csv.tmp", "left over from a crash, and longer than the new content");
     EXPECT_EQ(Normalized("\xEF\xBB\xBFx"), "x");
-    EXPECT_FALSE(fs::exists(Temporary));
+    EXPECT_EQ(EntriesOf(Folder.Path()).size(), 2U);
 }
 
 TEST_F(Encoding, EveryCharacterOfWindows1250GetsItsByte)
@@ -368,7 +431,7 @@ TEST_F(Encoding, EveryCharacterOfWindows1250GetsItsByte)
 
 TEST_F(Encoding, AConversionThatFailsLeavesTheMarkedFile)
 {
-    fs::create_directory(Temporary);
+    fs::create_directory(Folder.Path() / "file.csv.tmp");
     EXPECT_THROW(Normalized("\xEF\xBB\xBFx"), FileError);
     EXPECT_EQ(ReadBytes(File), "\xEF\xBB\xBFx");
 }

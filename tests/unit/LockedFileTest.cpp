@@ -3,7 +3,7 @@
 #ifdef _WIN32
 
 #include "data/Errors.h"
-#include "data/System.h"
+#include "data/FileOperations.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/TestFolder.h"
@@ -52,50 +52,51 @@ protected:
         modData::Studiji.Append({"9", "Novi", "N", "Diplomski"});
     }
 
-    /// Expects that an action fails with the error of a file that may not be touched.
-    template<typename Action>
-    void ExpectDenied(Action action)
+    /// Expects that an action ends with the error of a file that may not be touched.
+    template<typename Error>
+    void ExpectDenied(void (*action)())
     {
         try
         {
             action();
             FAIL() << "no error";
         }
-        catch (const FileError& error)
+        catch (const Error& error)
         {
-            EXPECT_EQ(error.Description(),
-                      "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u "
-                      "drugom programu: " +
-                          Folder.DataPath("db_studij.csv"));
+            EXPECT_TRUE(error.Description().starts_with(
+                "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u "
+                "drugom programu: " +
+                Folder.DataPath("db_studij.csv")))
+                << error.Description();
             EXPECT_EQ(error.Number(), 70);
         }
     }
 
     TestFolder Folder;
     fs::path File = Folder.Data() / "db_studij.csv";
-    fs::path Copy = Folder.Data() / "db_studij.csv.bak";
     std::string Former;
 };
 
-TEST_F(LockedFile, IsAnErrorOfTheSaveAndKeepsItsContent)
+TEST_F(LockedFile, IsAnErrorOfTheSaveWhichTheNextStartFinishes)
 {
     for (const DWORD sharing : {0, FILE_SHARE_READ, FILE_SHARE_READ | FILE_SHARE_WRITE})
     {
         {
             const Lock lock(File, sharing);
-            ExpectDenied(modData::SaveAllTables);
+            ExpectDenied<SaveNotFinished>(modData::SaveAllTables);
         }
         EXPECT_EQ(ReadBytes(File), Former);
-        EXPECT_NE(ReadBytes(Folder.Data() / "db_zavod.csv").find("3;Tre\xE6i;T"), std::string::npos)
-            << "saved before it";
-        EXPECT_TRUE(TemporaryFilesIn(Folder.Data()).empty());
+        modData::LoadAllTables();
+        EXPECT_EQ(ReadBytes(File), Former + "9;Novi;N;Diplomski\r\n");
+        EXPECT_FALSE(fs::exists(Folder.Data() / "spremanje"));
+        WriteBytes(File, Former);
     }
 }
 
 TEST_F(LockedFile, IsAnErrorOfTheLoad)
 {
     const Lock lock(File);
-    ExpectDenied(modData::LoadAllTables);
+    ExpectDenied<FileError>(modData::LoadAllTables);
 }
 
 TEST_F(LockedFile, ThatIsLetGoOfSoonIsNotNoticed)
@@ -110,22 +111,42 @@ TEST_F(LockedFile, ThatIsLetGoOfSoonIsNotNoticed)
             std::this_thread::sleep_for(std::chrono::milliseconds(100));
             lock.reset();
         });
-    EXPECT_FALSE(System::Replace(successor, File));
+    EXPECT_FALSE(System::Files.Rename(successor, File));
     other.join();
     EXPECT_EQ(ReadBytes(File), "new");
     EXPECT_FALSE(fs::exists(successor));
 }
 
-TEST_F(LockedFile, OfTheFormerContentDoesNotHinderTheSave)
+TEST_F(LockedFile, ThatIsRemovedIsWaitedFor)
 {
-    WriteBytes(Copy, "older");
-    {
-        const Lock lock(Copy);
-        EXPECT_NO_THROW(modData::SaveAllTables());
-    }
-    EXPECT_EQ(ReadBytes(File), Former + "9;Novi;N;Diplomski\r\n");
-    EXPECT_EQ(ReadBytes(Copy), "older");
-    EXPECT_TRUE(TemporaryFilesIn(Folder.Data()).empty());
+    WriteBytes(Folder.Data() / "old", "");
+    auto lock = std::make_unique<Lock>(Folder.Data() / "old");
+    std::thread other(
+        [&]
+        {
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            lock.reset();
+        });
+    EXPECT_FALSE(System::Files.RemoveFile(Folder.Data() / "old"));
+    other.join();
+    EXPECT_FALSE(fs::exists(Folder.Data() / "old"));
+}
+
+TEST_F(LockedFile, InAFolderThatIsRenamedIsWaitedFor)
+{
+    const fs::path folder = Folder.Path() / "inner";
+    fs::create_directory(folder);
+    WriteBytes(folder / "file", "");
+    auto lock = std::make_unique<Lock>(folder / "file");
+    std::thread other(
+        [&]
+        {
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            lock.reset();
+        });
+    EXPECT_FALSE(System::Files.Rename(folder, Folder.Path() / "renamed"));
+    other.join();
+    EXPECT_TRUE(fs::exists(Folder.Path() / "renamed" / "file"));
 }
 
 } // namespace

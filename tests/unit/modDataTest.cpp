@@ -18,8 +18,6 @@ constexpr const char* FilesInOrder[] = {
     "db_zavod.csv",   "db_nastavnici.csv",    "db_studij.csv",           "db_smjer.csv",
     "db_kolegij.csv", "db_kolegij_smjer.csv", "db_kolegij_nastavnik.csv"};
 
-constexpr fs::perms AnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-
 class DataStore : public testing::Test
 {
 protected:
@@ -118,24 +116,6 @@ TEST_F(DataStore, SavesEachTableToItsOwnFileWithItsHeader)
     SmallCatalogue().WriteTo(Folder.Data());
     for (std::size_t i = 0; i < saved.size(); ++i)
         EXPECT_EQ(saved[i], Content(FilesInOrder[i])) << FilesInOrder[i];
-}
-
-TEST_F(DataStore, AFailedSaveKeepsThatFileAndTheOnesAfterIt)
-{
-    SmallCatalogue().Use();
-    for (std::size_t failing = 0; failing < std::size(FilesInOrder); ++failing)
-    {
-        for (const char* name : FilesInOrder)
-            Replace(name, "old");
-        const fs::path locked = Folder.Data() / FilesInOrder[failing];
-        fs::permissions(locked, AnyWrite, fs::perm_options::remove);
-        EXPECT_THROW(modData::SaveAllTables(), FileError) << locked;
-        fs::permissions(locked, AnyWrite, fs::perm_options::add);
-
-        for (std::size_t i = 0; i < std::size(FilesInOrder); ++i)
-            EXPECT_EQ(Content(FilesInOrder[i]) == "old", i >= failing) << FilesInOrder[i];
-        EXPECT_TRUE(TemporaryFilesIn(Folder.Data()).empty());
-    }
 }
 
 TEST_F(DataStore, ARowEnteredInTheProgramIsSavedAsTheOthersAre)

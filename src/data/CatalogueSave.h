@@ -1,0 +1,29 @@
+#pragma once
+
+#include "data/CatalogueOnDisk.h"
+
+/// Saves the catalogue whole or not at all:
+///   1. write the new files into a set beside the catalogue, "spremanje", and flush them;
+///   2. mark the set complete: this is the moment of saving;
+///   3. keep a dated copy of the catalogue, then replace each file from the set;
+///   4. remove the mark and the set.
+/// A complete set found at a start or a save is finished; an incomplete one is removed.
+/// The caller holds the lock of the catalogue for saving.
+namespace CatalogueSave
+{
+
+/// Saves the files that `fill` writes.
+/// @throws FileError, and what `fill` throws, before step 2: the catalogue is untouched
+/// @throws SaveNotFinished after it: the set is kept, and the next start or save goes on
+void Save(const CatalogueOnDisk& files, const FillFolder& fill);
+
+/// Finishes a complete set of an earlier save. @throws SaveNotFinished
+void FinishAtStart(const CatalogueOnDisk& files);
+
+/// Removes what an ended program has left: an incomplete set, and temporary files. Best effort.
+void RemoveLeftovers(const CatalogueOnDisk& files);
+
+/// Finishes a complete set of an earlier save; if that fails, moves it to "kopije". @throws FileError
+void FinishAtSave(const CatalogueOnDisk& files);
+
+} // namespace CatalogueSave

@@ -1,0 +1,228 @@
+#include "support/WatchedFiles.h"
+
+#include "data/System.h"
+
+#include <cerrno>
+#include <stdexcept>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+WatchedFiles* InUse = nullptr;
+
+using Path = FileOperations::Path;
+using Result = FileOperations::Result;
+using Handle = FileOperations::Handle;
+
+bool IsThere(const fs::path& path)
+{
+    std::error_code failure;
+    return fs::exists(fs::symlink_status(path, failure));
+}
+
+Result FailureOf(int error)
+{
+    return {error, std::generic_category()};
+}
+
+/// Replaces every process number in a text by "N".
+std::string WithoutProcessId(std::string text)
+{
+    const std::string number = "." + std::to_string(System::ProcessId()) + ".tmp";
+    const std::size_t place = text.find(number);
+    return place == std::string::npos ? text : text.replace(place, number.size(), ".N.tmp");
+}
+
+} // namespace
+
+/// The operations that replace the system's: recorded, failed or passed on.
+struct WatchedOperations
+{
+    static Result Inspect(const Path& path, FileFacts& facts)
+    {
+        return Fails({FileOperation::Inspect, path}) ? FailureOf(EACCES)
+                                                     : System::OwnFiles.Inspect(path, facts);
+    }
+
+    static Result ReadLink(const Path& path, Path& target)
+    {
+        return Fails({FileOperation::ReadLink, path}) ? FailureOf(EACCES)
+                                                      : System::OwnFiles.ReadLink(path, target);
+    }
+
+    static Result List(const Path& folder, std::vector<Path>& names)
+    {
+        return Fails({FileOperation::List, folder}) ? FailureOf(EACCES)
+                                                    : System::OwnFiles.List(folder, names);
+    }
+
+    static Result Open(const Path& path, OpenFor purpose, Handle& file)
+    {
+        const bool reading = purpose == OpenFor::Reading;
+        if (Fails({FileOperation::Open, path, {}, reading, !reading}))
+            return FailureOf(InUse->Error);
+        const Result result = System::OwnFiles.Open(path, purpose, file);
+        if (!result)
+            InUse->OpenFiles[file] = {FileOperation::Open, path, {}, reading, false};
+        return result;
+    }
+
+    static Result Read(Handle file, std::span<char> buffer, std::size_t& count)
+    {
+        return FailsOnOpen(FileOperation::Read, file, false) ? FailureOf(EIO)
+                                                             : System::OwnFiles.Read(file, buffer, count);
+    }
+
+    static Result Write(Handle file, std::string_view bytes)
+    {
+        const bool isEnded = InUse->Then == WatchedFiles::After::NothingWorks && HasFailed();
+        if (!FailsOnOpen(FileOperation::Write, file, true))
+            return System::OwnFiles.Write(file, bytes);
+        if (!isEnded)
+            System::OwnFiles.Write(file, bytes.substr(0, bytes.size() / 2));
+        return FailureOf(ENOSPC);
+    }
+
+    static Result TakeAccess(Handle file, const Path& model)
+    {
+        return FailsOnOpen(FileOperation::TakeAccess, file, true) ? FailureOf(EPERM)
+                                                                  : System::OwnFiles.TakeAccess(file, model);
+    }
+
+    static Result Flush(Handle file)
+    {
+        return FailsOnOpen(FileOperation::Flush, file, true) ? FailureOf(EIO) : Result();
+    }
+
+    static Result Close(Handle file)
+    {
+        const bool fails = FailsOnOpen(FileOperation::Close, file, false);
+        InUse->OpenFiles.erase(file);
+        const Result result = System::OwnFiles.Close(file);
+        return fails ? FailureOf(EIO) : result;
+    }
+
+    static Result Rename(const Path& from, const Path& to)
+    {
+        if (Fails({FileOperation::Rename, from, to, false, true}))
+            return FailureOf(InUse->Error);
+        // Some file systems hold a file that another replaces back until its successor is on the disk.
+        std::error_code failure;
+        if (fs::is_regular_file(to, failure))
+            System::OwnFiles.RemoveFile(to);
+        return System::OwnFiles.Rename(from, to);
+    }
+
+    static Result RemoveFile(const Path& path)
+    {
+        return Fails({FileOperation::RemoveFile, path, {}, false, IsThere(path)})
+                   ? FailureOf(EACCES)
+                   : System::OwnFiles.RemoveFile(path);
+    }
+
+    static Result RemoveFolder(const Path& path)
+    {
+        return Fails({FileOperation::RemoveFolder, path, {}, false, IsThere(path)})
+                   ? FailureOf(EACCES)
+                   : System::OwnFiles.RemoveFolder(path);
+    }
+
+    static Result MakeFolder(const Path& path)
+    {
+        return Fails({FileOperation::MakeFolder, path, {}, false, true}) ? FailureOf(InUse->Error)
+                                                                         : System::OwnFiles.MakeFolder(path);
+    }
+
+    static Result FlushFolder(const Path& path)
+    {
+        return Fails({FileOperation::FlushFolder, path, {}, false, true}) ? FailureOf(EIO) : Result();
+    }
+
+    static Result Lock(const Path& folder, LockKind kind, int milliseconds, Handle& lock)
+    {
+        return Fails({FileOperation::Lock, folder}) ? FailureOf(ENOTSUP)
+                                                    : System::OwnFiles.Lock(folder, kind, milliseconds, lock);
+    }
+
+private:
+    static bool HasFailed() { return InUse->Failing != 0 && InUse->Operations.size() >= InUse->Failing; }
+
+    static bool Fails(FileOperation operation) { return InUse->Fails(std::move(operation)); }
+
+    static bool FailsOnOpen(FileOperation::Kind what, Handle file, bool hasEffect)
+    {
+        const FileOperation& opened = InUse->OpenFiles.at(file);
+        return InUse->Fails({what, opened.File, {}, opened.Reading, hasEffect && !opened.Reading});
+    }
+};
+
+const char* NameOf(FileOperation::Kind what)
+{
+    constexpr const char* names[] = {"inspect", "read link",     "list",        "open",         "read",
+                                     "write",   "take access",   "flush",       "close",        "rename",
+                                     "remove",  "remove folder", "make folder", "flush folder", "lock"};
+    return names[what];
+}
+
+WatchedFiles::WatchedFiles(std::size_t failing, After after, int error)
+    : Failing(failing),
+      Then(after),
+      Error(error == 0 ? EACCES : error)
+{
+    if (InUse != nullptr)
+        throw std::logic_error("files are watched already");
+    InUse = this;
+    using Watched = WatchedOperations;
+    System::Files = {Watched::Inspect,
+                     Watched::ReadLink,
+                     Watched::List,
+                     Watched::Open,
+                     Watched::Read,
+                     Watched::Write,
+                     Watched::TakeAccess,
+                     Watched::Flush,
+                     Watched::Close,
+                     Watched::Rename,
+                     Watched::RemoveFile,
+                     Watched::RemoveFolder,
+                     Watched::MakeFolder,
+                     Watched::FlushFolder,
+                     Watched::Lock,
+                     System::OwnFiles.Unlock,
+                     System::OwnFiles.IsLockedByRunning};
+}
+
+WatchedFiles::~WatchedFiles()
+{
+    System::Files = System::OwnFiles;
+    InUse = nullptr;
+}
+
+bool WatchedFiles::Fails(FileOperation operation)
+{
+    const bool isRemoval = operation.HasEffect && (operation.What == FileOperation::RemoveFile ||
+                                                   operation.What == FileOperation::RemoveFolder);
+    Operations.push_back(std::move(operation));
+    if (Failing == 0)
+        return false;
+    return Operations.size() == Failing || (Then == After::NothingIsGone && isRemoval) ||
+           (Then == After::NothingWorks && Operations.size() > Failing);
+}
+
+std::vector<std::string> WatchedFiles::Effects(const fs::path& folder) const
+{
+    const auto inside = [&](const fs::path& path)
+    { return WithoutProcessId(path.lexically_relative(folder).generic_string()); };
+    std::vector<std::string> effects;
+    for (const FileOperation& operation : Operations)
+        if (operation.HasEffect)
+        {
+            std::string effect = std::string(NameOf(operation.What)) + " " + inside(operation.File);
+            if (!operation.NewName.empty())
+                effect += " to " + inside(operation.NewName);
+            effects.push_back(effect);
+        }
+    return effects;
+}
