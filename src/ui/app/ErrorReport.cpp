@@ -1,6 +1,7 @@
 #include "ui/app/ErrorReport.h"
 
 #include "data/Errors.h"
+#include "data/modData.h"
 #include "ui/controls/Messages.h"
 
 #include <cstdlib>
@@ -9,24 +10,44 @@
 namespace
 {
 
-/// The error being handled, as the user is told of it.
+/// Puts changes that were not saved into safety, and says where they are.
+std::string UnsavedChangesText()
+{
+    const modData::UnsavedChanges changes = modData::KeepUnsavedChanges();
+    if (!changes.Exist)
+        return "";
+    if (changes.Place.empty())
+        return "\r\n\r\nPromjene koje nisu spremljene nije bilo moguće zapisati.";
+    return "\r\n\r\nPromjene koje nisu spremljene zapisane su u mapu:\r\n" + changes.Place;
+}
+
+std::string NumberAndText(const RuntimeError& error)
+{
+    return "Greška " + std::to_string(error.Number()) + ": " + error.Description();
+}
+
+/// What the user sees of the error being handled, and of changes that it would lose.
 std::string CurrentErrorText()
 {
     try
     {
         throw;
     }
+    catch (const SaveNotFinished& error)
+    {
+        return NumberAndText(error); // the changes are safe already
+    }
     catch (const RuntimeError& error)
     {
-        return "Greška " + std::to_string(error.Number()) + ": " + error.Description();
+        return NumberAndText(error) + UnsavedChangesText();
     }
     catch (const std::exception& error)
     {
-        return "Neočekivana greška: " + std::string(error.what());
+        return "Neočekivana greška: " + std::string(error.what()) + UnsavedChangesText();
     }
     catch (...)
     {
-        return "Neočekivana greška.";
+        return "Neočekivana greška." + UnsavedChangesText();
     }
 }
 

@@ -3,6 +3,7 @@
 #include "data/Product.h"
 #include "ui/app/DesktopLanguage.h"
 #include "ui/app/ErrorReport.h"
+#include "ui/app/LeaveSignals.h"
 #include "ui/controls/Strings.h"
 #include "ui/startup/frmSplash.h"
 
@@ -11,6 +12,7 @@ bool VarlostudijiApp::OnInit()
     UseDesktopLanguage();
     SetAppName(ToWx(ProductName));
     SetAppDisplayName(ToWx(ProductName));
+    LeaveOnSignals();
     try
     {
         (new frmSplash)->Show();
