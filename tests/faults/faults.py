@@ -1,4 +1,4 @@
-"""What the tests of faults share: a catalogue that a save changes in every file, and the scripted program."""
+"""What the tests of faults share: a catalogue before and after an edit, and the scripted program."""
 
 import getpass
 import os
@@ -34,14 +34,16 @@ def on_a_display():
         os.execvp("bash", ["bash", "-c", command, "bash", *arguments])
 
 
-def rows(courses, seed):
-    """The rows of a valid catalogue of that many courses, a list of lines per file; all names invented."""
+def rows(courses, seed, first=1):
+    """The rows of a valid catalogue of that many courses, a list of lines per file; all names invented. The
+    courses are numbered from `first` on."""
     rng = random.Random(seed)
     departments = max(2, courses // 100)
     lecturers = max(3, courses // 5)
     studies = max(2, courses // 160)
     directions = 4 * studies
     levels = ["Preddiplomski" if study % 2 else "Diplomski" for study in range(1, studies + 1)]
+    numbers = range(first, first + courses)
     return [
         [f"{i};Zavod za {rng.choice(NAMES)} {i};Z{i}" for i in range(1, departments + 1)],
         [f"{i};Prezime{i} {rng.choice(NAMES)};dr. sc.;{rng.randint(1, departments)}"
@@ -50,33 +52,53 @@ def rows(courses, seed):
         [f"{i};Smjer {i};M{i};{(i - 1) // 4 + 1};{levels[(i - 1) // 4]}" for i in range(1, directions + 1)],
         [f"{i};Kolegij o žitu {i};{rng.randint(0, 4)};{rng.randint(0, 2)};{rng.randint(0, 2)};"
          f"{rng.randint(1, 10)};{rng.choice(['obvezni', 'izborni'])};{rng.randint(1, 4)};"
-         f"{rng.randint(1, studies)}" for i in range(1, courses + 1)],
-        [f"{rng.randint(1, courses)};{rng.randint(1, directions)}" for _ in range(2 * courses)],
-        [f"{rng.randint(1, courses)};{rng.randint(1, lecturers)};Nositelj;{rng.randint(1, 3)}"
+         f"{rng.randint(1, studies)}" for i in numbers],
+        [f"{rng.choice(numbers)};{rng.randint(1, directions)}" for _ in range(2 * courses)],
+        [f"{rng.choice(numbers)};{rng.randint(1, lecturers)};Nositelj;{rng.randint(1, 3)}"
          for _ in range(3 * courses)],
     ]
 
 
-class Catalogue:
-    """The seven files as they are found (old) and as the program saves them (new)."""
+def as_files(lines):
+    return {name: "\r\n".join([header, *lines_of_file, ""]).encode("cp1250")
+            for name, header, lines_of_file in zip(FILES, HEADERS, lines)}
 
-    def __init__(self, courses, seed):
-        self.old = {}
-        self.new = {}
-        for name, header, lines in zip(FILES, HEADERS, rows(courses, seed)):
-            text = "\r\n".join(lines) + "\r\n"
-            self.new[name] = f"{header}\r\n{text}".encode("cp1250")
-            # A header of its own and a blank line, which the program reads and does not write.
-            self.old[name] = f"zaglavlje {seed}\r\n\r\n{text}".encode("cp1250")
+
+class Catalogue:
+    """The seven files before (old) and after (new) an edit that gives every course another number: in a mixture
+    of the two, the links lead nowhere."""
+
+    def __init__(self, courses, seed, edit=1):
+        self.old = as_files(rows(courses, seed))
+        self.new = as_files(rows(courses, seed, 1 + edit * courses))
 
     def write(self, folder, marked=False):
         """Puts the old files, and nothing else, into a folder; marked: as UTF-8 with its mark."""
-        shutil.rmtree(folder, ignore_errors=True)
-        folder.mkdir(parents=True)
-        for name, content in self.old.items():
-            if marked:
-                content = b"\xEF\xBB\xBF" + content.decode("cp1250").encode()
-            (folder / name).write_bytes(content)
+        files = self.old
+        if marked:
+            files = {name: b"\xEF\xBB\xBF" + data.decode("cp1250").encode() for name, data in files.items()}
+        replace_folder(folder, files)
+
+    def write_new(self, folder):
+        replace_folder(folder, self.new)
+
+    def state(self, folder):
+        """"old", "new", or "mixed" for anything else."""
+        files = {name: data for name, data in content(folder).items() if name in FILES}
+        return "new" if files == self.new else "old" if files == self.old else "mixed"
+
+    def is_kept(self, program, which):
+        """Whether a folder of "kopije" holds this catalogue ("old" or "new") whole."""
+        copies = program.data / "kopije"
+        return copies.is_dir() and any(self.state(copy) == which for copy in copies.iterdir()
+                                       if not copy.name.endswith(".dio"))
+
+
+def replace_folder(folder, files):
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    for name, data in files.items():
+        (folder / name).write_bytes(data)
 
 
 class Program:
@@ -93,6 +115,7 @@ class Program:
             base = self.own_base = Path(tempfile.mkdtemp(prefix="varlo-faults-"))
         self.base = Path(base)
         self.data = self.base / "Varlostudiji"
+        self.mark = self.data / "spremanje" / "gotovo"
 
     def told(self, path):
         """A path below the program's base as the program writes it in a message."""
@@ -100,6 +123,12 @@ class Program:
             return str(path)
         return "\\".join([f"C:\\users\\{getpass.getuser()}\\AppData\\Local",
                           *Path(path).relative_to(self.base).parts])
+
+    def path_told(self, text):
+        """The path of a folder as the program shows it."""
+        if not self.windows:
+            return Path(text)
+        return Path(os.environ["WINEPREFIX"]) / "drive_c" / text.strip().removeprefix("C:\\").replace("\\", "/")
 
     def close(self):
         if self.own_base:

@@ -1,7 +1,11 @@
 // The whole program, started as the user starts it: what it reports, how it ends, and what it leaves on disk.
 
+#include "data/Errors.h"
+#include "data/Files.h"
+#include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/TestFolder.h"
+#include "support/WatchedFiles.h"
 #include "support/Windows.h"
 
 #include <wx/filename.h>
@@ -42,7 +46,8 @@ protected:
     {
         std::map<std::string, std::string> files;
         for (const std::string& name : EntriesOf(Folder.Data()))
-            files[name] = ReadBytes(Folder.Data() / name);
+            if (std::filesystem::is_regular_file(Folder.Data() / name))
+                files[name] = ReadBytes(Folder.Data() / name);
         return files;
     }
 
@@ -138,6 +143,60 @@ TEST_F(Program, WorksForAUserWhoseNameHasCroatianLetters)
     EXPECT_EQ(outcome.ExitCode, 0);
     EXPECT_EQ(ReadBytes(local / "Varlostudiji" / "db_zavod.csv"),
               "ID;Naziv;Kratica\r\n1;Zavod \xD0;\r\n2;Z;Z\r\n");
+}
+
+TEST_F(Program, ShowsAFileInUtf16WithItsNulCharactersVisible)
+{
+    Replace("db_kolegij_smjer.csv", {"\xFF\xFEh\0\r\0\n\0"
+                                     "1\0;\0"
+                                     "1\0",
+                                     14});
+    ExpectFailure("Greška 13: Vrijednost \"\\x00\\x0a\\x001\\x00\" nije broj (datoteka db_kolegij_smjer.csv, "
+                  "redak 2, stupac \"KolegijID\").");
+}
+
+TEST_F(Program, FinishesAnInterruptedSave)
+{
+    SmallCatalogue().Use();
+    modData::Zavodi.Append({"3", "Treći", "T"});
+    {
+        const WatchedFiles watched;
+        System::Files.RemoveFile = [](const std::filesystem::path& path)
+        {
+            return path.filename() == "gotovo" ? std::make_error_code(std::errc::permission_denied)
+                                               : System::OwnFiles.RemoveFile(path);
+        };
+        EXPECT_THROW(modData::SaveAllTables(), SaveNotFinished);
+    }
+    Replace("db_zavod.csv", "as it was before");
+    const Outcome outcome = Run();
+    EXPECT_EQ(outcome.Output, "");
+    EXPECT_EQ(outcome.ExitCode, 0);
+    EXPECT_TRUE(Files()["db_zavod.csv"].ends_with("3;Tre\xE6i;T\r\n"));
+    EXPECT_FALSE(std::filesystem::exists(Folder.Data() / "spremanje"));
+}
+
+TEST_F(Program, SaysWhereItHasPutChangesThatItCouldNotSave)
+{
+    const TestFolder elsewhere;
+    RenumberedCatalogue().WriteTo(elsewhere.Data());
+    std::filesystem::rename(elsewhere.Data(), Folder.Path() / "new");
+    SetEnvironment("LOCALAPPDATA", Folder.PathOf(""));
+    SetEnvironment("VARLO_EDIT", "new");
+    SetEnvironment("VARLO_EXPORT_LOAD", "cmdStatNositelji");
+    SetEnvironment("VARLO_EXPORT_TO", Folder.PathOf("missing"));
+    const Outcome outcome = Run();
+    for (const char* name : {"VARLO_EDIT", "VARLO_EXPORT_LOAD", "VARLO_EXPORT_TO"})
+        SetEnvironment(name, "");
+    EXPECT_EQ(outcome.ExitCode, 1);
+    const std::vector<std::string> kept = EntriesOf(Folder.Data() / "kopije");
+    ASSERT_EQ(kept.size(), 1U);
+    EXPECT_TRUE(kept.front().ends_with("-prekid"));
+    EXPECT_NE(outcome.Output.find("Promjene koje nisu spremljene zapisane su u mapu:"), std::string::npos);
+    EXPECT_TRUE(outcome.Output.ends_with(PathIn(Folder.DataPath("kopije"), kept.front()))) << outcome.Output;
+    EXPECT_NE(ReadBytes(Folder.Data() / "kopije" / kept.front() / "db_kolegij.csv").find("11;Uvod u lov"),
+              std::string::npos);
+    EXPECT_NE(Files()["db_kolegij.csv"].find("\n1;Uvod u lov"), std::string::npos) << "untouched";
 }
 
 } // namespace
