@@ -9,8 +9,8 @@
 ;   /D=FOLDER     (last, unquoted) installs elsewhere
 ; The exit code is 0, 2 when the program could not be installed, 3 when the catalogue could not be put there.
 ;
-; The data folder belongs to the user: tables go only where not one of the seven is, no file there is ever
-; replaced, and the uninstaller does not go near it.
+; The data folder belongs to the user: tables go only where not one of the seven is and no interrupted save
+; holds them, no file there is ever replaced, and the uninstaller does not go near it.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -32,7 +32,7 @@ InstallDir "$LOCALAPPDATA\Programs\${PRODUCT}"
 BrandingText "${PRODUCT} ${VERSION}"
 
 Var DataFolder
-Var CatalogueFound ; 1 when at least one of the seven tables is in the data folder
+Var CatalogueFound ; 1 when at least one of the seven tables is in the data folder, or a complete set of them
 Var Data           ; what to put there: demo, empty, or nothing
 Var DemoButton
 Var EmptyButton
@@ -123,6 +123,10 @@ ${INFO} "LegalCopyright" "© 2026 ${PUBLISHER}"
 Function FindCatalogue
     StrCpy $CatalogueFound 0
     !insertmacro ForEachTable NoteTable
+    ; An interrupted save holds the whole catalogue; the program's next start finishes it.
+    ${If} ${FileExists} "$DataFolder\spremanje\gotovo"
+        StrCpy $CatalogueFound 1
+    ${EndIf}
 FunctionEnd
 
 Function .onInit

@@ -2,16 +2,19 @@
 // once, that the splash is dismissed at once, and that the main window is left as VARLO_LEAVE_BY says: by the
 // "exit" button, by its "close" box, or "not" at all. More variables, each for one kind of test:
 //
-// VARLO_ASK: shows a question that the system's own box asks, prints its buttons and how numbers and texts come
+// VARLO_ASK: shows a question that the system's own box asks, prints its buttons and how numbers and texts
+// come
 //   out, and ends.
-// VARLO_WAIT=TEXT: says that the main window is there by a file "loaded.TEXT" in LOCALAPPDATA, and waits for a
+// VARLO_WAIT=TEXT: says that the main window is there by a file "loaded.TEXT" in LOCALAPPDATA, and waits for
+// a
 //   file "leave" beside it.
 // VARLO_EDIT=FOLDER: makes the seven files in this folder of LOCALAPPDATA the program's tables.
 // VARLO_EXPORT_LOAD=NAME: opens a window of teaching load by this button of the main window, and exports to
 //   load.csv in VARLO_EXPORT_TO, or else in LOCALAPPDATA.
 // VARLO_HOLD=NAME: on Windows, opens no window, but this file of the data folder, which others may only read
 //   then; says so by a file "held" in LOCALAPPDATA, and waits for a file "release".
-// VARLO_KILL_AFTER=N: ends the program, as by a kill, after its N-th operation that changes the disk; the number
+// VARLO_KILL_AFTER=N: ends the program, as by a kill, after its N-th operation that changes the disk; the
+// number
 //   of them goes to the file "operations" in LOCALAPPDATA.
 
 #include "data/FileOperations.h"
