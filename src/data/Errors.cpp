@@ -13,7 +13,8 @@ constexpr std::string_view LongRange = "od -2147483648 do 2147483647";
 std::string Shown(std::string_view value)
 {
     constexpr int maxCharacters = 60;
-    constexpr std::string_view digits = "0123456789abcdef";
+    const auto digit = [](char32_t value)
+    { return static_cast<char>(value < 10 ? '0' + value : 'a' + value - 10); };
     std::string shown;
     for (int count = 0; !value.empty(); ++count)
     {
@@ -22,7 +23,7 @@ std::string Shown(std::string_view value)
         const char32_t character = TakeCodePoint(value);
         const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
         if (isControl)
-            shown.append("\\x").append({digits[character / 16], digits[character % 16]});
+            shown.append({'\\', 'x', digit(character / 16), digit(character % 16)});
         else
             AppendCodePoint(shown, character);
     }
