@@ -14,6 +14,9 @@ using Handle = FileOperations::Handle;
 
 Result FailureOf(DWORD error)
 {
+    // A file that another program holds is "shared" to an open and "denied" to a rename; it is one cause.
+    if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION)
+        error = ERROR_ACCESS_DENIED;
     return {static_cast<int>(error), std::system_category()};
 }
 
@@ -48,7 +51,7 @@ std::wstring Long(const Path& path)
 /// A virus scanner, an indexer or another copy of the program holds a file for a moment only.
 bool IsTransient(DWORD error)
 {
-    return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
+    return error == ERROR_ACCESS_DENIED;
 }
 
 bool IsMissing(DWORD error)
