@@ -13,8 +13,8 @@ constexpr std::string_view LongRange = "od -2147483648 do 2147483647";
 std::string Shown(std::string_view value)
 {
     constexpr int maxCharacters = 60;
-    const auto digit = [](char32_t value)
-    { return static_cast<char>(value < 10 ? '0' + value : 'a' + value - 10); };
+    const auto digit = [](char32_t number)
+    { return static_cast<char>(number < 10 ? '0' + number : 'a' + number - 10); };
     std::string shown;
     for (int count = 0; !value.empty(); ++count)
     {
