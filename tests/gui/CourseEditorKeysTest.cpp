@@ -20,31 +20,6 @@ void PressClosingKey(frmKolegij* editor, const char* control, int key)
         Settle();
 }
 
-/// A point of the screen that lies on an entry of a list.
-wxPoint PointOn(wxListBox* list, int entry)
-{
-    const wxSize size = list->GetClientSize();
-    for (int y = 0; y < size.y; ++y)
-        if (list->HitTest(size.x / 3, y) == entry && list->HitTest(size.x / 3, y + 4) == entry)
-            return list->ClientToScreen(wxPoint(size.x / 3, y + 4));
-    throw std::runtime_error("entry out of view");
-}
-
-/// Clicks an entry with the mouse, Ctrl or Shift held if given.
-void Click(wxListBox* list, int entry, wxKeyCode held = WXK_NONE)
-{
-    wxUIActionSimulator simulator;
-    simulator.MouseMove(PointOn(list, entry));
-    Settle();
-    if (held != WXK_NONE)
-        simulator.KeyDown(held);
-    simulator.MouseClick();
-    Settle();
-    if (held != WXK_NONE)
-        simulator.KeyUp(held);
-    Settle();
-}
-
 TEST_F(CourseEditor, EnterSavesFromAnyFieldOrList)
 {
     Open();

@@ -5,7 +5,10 @@
 #include "support/LoadWindows.h"
 #include "ui/lecturer_stats/frmStatNositelji.h"
 
+#include <wx/uiaction.h>
+
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -108,8 +111,8 @@ TEST_F(DepartmentWindow, WithoutDepartmentsNothingIsSelectedAndNothingShown)
     Open(catalogue);
     for (int semestar = 0; semestar < 9; ++semestar)
     {
-        SelectAt(Semestri(), semestar);
-        SelectAt(Box("cboRazina"), semestar % 3);
+        Click(Semestri(), semestar);
+        Choose(Box("cboRazina"), semestar % 3);
         EXPECT_EQ(Box("cboZavodi")->GetSelection(), wxNOT_FOUND);
         EXPECT_EQ(Kolegiji()->RowCount(), 0);
         EXPECT_EQ(Table()->RowCount(), 0);
@@ -140,9 +143,9 @@ TEST_F(DepartmentWindow, TellsDepartmentsOfOneNameApart)
     Catalogue catalogue = SmallCatalogue();
     catalogue.Zavodi[1] = "2;Zavod za povijest;KEM";
     Open(catalogue);
-    SelectAt(Box("cboZavodi"), 1);
+    Choose(Box("cboZavodi"), 1);
     EXPECT_EQ(Total(), "Ukupno;Total;3;1;3;10;2");
-    SelectAt(Box("cboZavodi"), 0);
+    Choose(Box("cboZavodi"), 0);
     EXPECT_EQ(Total(), "Ukupno;Total;8;2;1;22;4");
 }
 
@@ -152,16 +155,16 @@ TEST_F(DepartmentWindow, TheSemesterFiltersTheCoursesAndTheTable)
                           "4;K-1;8;0;0;8;obvezni;-1;1"}));
     EXPECT_EQ(Names(), (Texts{"K3", "K4", "K7", "K-1"}));
     EXPECT_EQ(Total(), "Ukupno;Total;3;0;0;3;2");
-    SelectEntry(Semestri(), "Zimski");
+    Click(Semestri(), "Zimski");
     EXPECT_EQ(Names(), (Texts{"K3", "K7"}));
     EXPECT_EQ(Total(), "Ukupno;Total;1;0;0;1;1");
     EXPECT_EQ(ShownRows(Table())[6], "4;Obvezni;0;0;0;0;0");
-    SelectEntry(Semestri(), "Ljetni");
+    Click(Semestri(), "Ljetni");
     EXPECT_EQ(Names(), Texts{"K4"});
     EXPECT_EQ(Total(), "Ukupno;Total;2;0;0;2;1");
-    SelectEntry(Semestri(), "3");
+    Click(Semestri(), "3");
     EXPECT_EQ(Names(), Texts{"K3"});
-    SelectEntry(Semestri(), "6");
+    Click(Semestri(), "6");
     EXPECT_EQ(Names(), Texts{});
     EXPECT_EQ(Table()->RowCount(), 15);
 }
@@ -172,21 +175,12 @@ TEST_F(DepartmentWindow, TheLevelFiltersTheCoursesAndTheTable)
     Choose(Box("cboRazina"), "Diplomski");
     EXPECT_EQ(Names(), Texts{"Napredni lov"});
     EXPECT_EQ(Total(), "Ukupno;Total;3;0;1;10;1");
-    SelectEntry(Semestri(), "Ljetni");
+    Click(Semestri(), "Ljetni");
     EXPECT_EQ(Names(), Texts{});
     Choose(Box("cboRazina"), "Preddiplomski");
     Choose(Box("cboZavodi"), "Zavod za kemiju");
     EXPECT_EQ(Names(), Texts{"Žičani alati"}) << "the other filters stay";
     EXPECT_EQ(EntriesOfBox(Semestri()).size(), 9U);
-}
-
-TEST_F(DepartmentWindow, FollowsTheMouse)
-{
-    Open();
-    SelectEntry(Semestri(), "6");
-    EXPECT_EQ(Names(), Texts{});
-    ClickFirst(Semestri());
-    ExpectFreshlyOpened();
 }
 
 // Colours
@@ -216,7 +210,7 @@ TEST_F(DepartmentWindow, SharesItsSortMemoryWithTheLecturersWindow)
     Open();
     Press(Main, "cmdStatNositelji");
     auto* lecturers = FindOpen<frmStatNositelji>();
-    SelectAt(Find<wxListBox>(lecturers, "lstNastavnici"), 2);
+    Click(Find<wxListBox>(lecturers, "lstNastavnici"), 2);
     auto* lecturersCourses = Find<ListView>(lecturers, "lvwKolegiji");
     lecturersCourses->ClickColumn(0);
     EXPECT_EQ(ColumnTexts(lecturersCourses, 0), (Texts{"Napredni lov", "Uvod u lov"}));
@@ -238,7 +232,7 @@ TEST_F(DepartmentWindow, OpenedAgainItIsTheSameWindowAsItStood)
 {
     Open();
     Choose(Box("cboZavodi"), "Zavod za kemiju");
-    SelectEntry(Semestri(), "Zimski");
+    Click(Semestri(), "Zimski");
     Kolegiji()->SelectRow(0);
     const frmStatZavodi* first = Stat;
     PressOpen();
@@ -254,14 +248,14 @@ TEST_F(DepartmentWindow, ClosedItOpensAfresh)
 {
     Open();
     Choose(Box("cboZavodi"), "Zavod za kemiju");
-    SelectEntry(Semestri(), "Zimski");
+    Click(Semestri(), "Zimski");
     Choose(Box("cboRazina"), "Diplomski");
     Press(Stat, "cmdClose");
     EXPECT_EQ(FindOpen<frmStatZavodi>(), nullptr);
     EXPECT_EQ(FindOpen<frmMain>(), Main);
     PressOpen();
     ExpectFreshlyOpened();
-    SelectEntry(Semestri(), "6");
+    Click(Semestri(), "6");
     Stat->Close();
     Settle();
     EXPECT_EQ(FindOpen<frmStatZavodi>(), nullptr);
@@ -272,7 +266,7 @@ TEST_F(DepartmentWindow, ClosedItOpensAfresh)
 TEST_F(DepartmentWindow, StaysOpenWhenTheLecturersWindowCloses)
 {
     Open();
-    SelectEntry(Semestri(), "Zimski");
+    Click(Semestri(), "Zimski");
     Press(Main, "cmdStatNositelji");
     Press(FindOpen<frmStatNositelji>(), "cmdClose");
     EXPECT_EQ(FindOpen<frmStatZavodi>(), Stat);
@@ -290,6 +284,44 @@ TEST_F(DepartmentWindow, TheMainWindowsCloseBoxClosesItToo)
 
 // Beside an edit in the main window
 
+TEST_F(DepartmentWindow, ChoosingWhatIsChosenShowsTheTablesAsTheyAreNow)
+{
+    Open();
+    int edit = 0;
+    const auto expectShown = [&](const std::string& control, const std::function<void()>& choose)
+    {
+        choose();
+        const std::string name = "Naziv " + std::to_string(++edit);
+        modData::Kolegiji.Replace(0, {"1", name, "2", "1", "0", "5", "obvezni", "1", "1"});
+        EXPECT_NE(Names().front(), name);
+        choose();
+        EXPECT_EQ(Names().front(), name) << control;
+    };
+    for (const int entry : {0, 1})
+    {
+        expectShown("lstSemestri", [&] { Click(Semestri(), entry); });
+        expectShown("cboRazina", [&] { Choose(Box("cboRazina"), entry); });
+    }
+    expectShown("cboZavodi", [&] { Choose(Box("cboZavodi"), 0); });
+}
+
+TEST_F(DepartmentWindow, APressThatIsReleasedOnAnotherEntryIsOneChoice)
+{
+    Open();
+    Click(Semestri(), "Svi");
+    modData::Kolegiji.Replace(0, {"1", "Novi naziv", "2", "1", "0", "5", "obvezni", "1", "1"});
+    const wxPoint first = Semestri()->ClientToScreen(wxPoint(20, 8));
+    wxUIActionSimulator mouse;
+    mouse.MouseMove(first);
+    Settle();
+    mouse.MouseDown();
+    mouse.MouseMove(first + wxPoint(0, -100)); // off the list: taken back
+    Settle();
+    mouse.MouseUp();
+    Settle();
+    EXPECT_EQ(Names().front(), "Uvod u lov");
+}
+
 TEST_F(DepartmentWindow, ShowsWhatItShowedUntilTheUserActs)
 {
     Open();
@@ -305,7 +337,7 @@ TEST_F(DepartmentWindow, ShowsWhatItShowedUntilTheUserActs)
     Stat->Refresh();
     PressOpen();
     EXPECT_EQ(Kolegiji()->RowCount(), 4);
-    SelectEntry(Semestri(), "Svi");
+    Click(Semestri(), "Svi");
     EXPECT_EQ(Names(), (Texts{"Kolegij bez smjera", "Napredni lov"}));
     EXPECT_EQ(TakeUncaughtError(), "");
 }
@@ -316,7 +348,7 @@ TEST_F(DepartmentWindow, OutlivesItsDepartmentsRowAndItsLecturers)
     modData::Zavodi.RemoveMatches(Zavod::ID, 1);
     EXPECT_EQ(Names().size(), 4U);
     modData::Nastavnici.RemoveMatches(Nastavnik::ID, 1);
-    SelectEntry(Semestri(), "Svi");
+    Click(Semestri(), "Svi");
     EXPECT_EQ(ColumnTexts(Kolegiji(), 8), (Texts{"Đurić Ćiro", "Đurić Ćiro"}));
     EXPECT_EQ(Names(), (Texts{"Uvod u lov", "Napredni lov"}));
     EXPECT_EQ(Total(), "Ukupno;Total;5;1;1;15;2");
@@ -345,10 +377,10 @@ TEST_F(DepartmentWindow, ALookupThatFailsOrARowThatIsTooShortGoesUncaught)
     EXPECT_EQ(TakeUncaughtError(),
               "13: Vrijednost \"prvi\" nije broj (datoteka db_kolegij_nastavnik.csv, redak "
               "unesen u programu, stupac \"Redoslijed\").");
-    SelectEntry(Semestri(), "6");
+    Click(Semestri(), "6");
     EXPECT_EQ(TakeUncaughtError(), "") << "nothing to look up";
     modData::Nastavnici.Append({"9", "Bez zavoda", ""});
-    SelectEntry(Semestri(), "5");
+    Click(Semestri(), "5");
     EXPECT_EQ(TakeUncaughtError().substr(0, 3), "9: ");
     EXPECT_TRUE(answers.Shown().empty());
 }
@@ -399,7 +431,7 @@ TEST_F(DepartmentWindow, ExportsAllDepartmentsByTheFiltersWhateverIsSelectedOrSo
 {
     Open();
     Choose(Box("cboZavodi"), "Zavod za kemiju");
-    SelectEntry(Semestri(), "Ljetni");
+    Click(Semestri(), "Ljetni");
     Table()->ClickColumn(0);
     const Texts shown = ShownRows(Table());
     ExpectWritten(Folder.PathOf("z.csv"), Folder.PathOf("z.csv"));
@@ -453,15 +485,17 @@ TEST_F(DepartmentWindow, OfTheDemoCatalogueEveryTableIsTheDepartmentsBlockInTheE
     for (int razina = 0; razina < 3; ++razina)
         for (int semestar = 0; semestar < 9; ++semestar)
         {
-            SelectAt(Box("cboRazina"), razina);
-            SelectAt(Semestri(), semestar);
+            Choose(Box("cboRazina"), razina);
+            Click(Semestri(), semestar);
             PressExport(Folder.PathOf("z.csv"));
             files.push_back(ReadBytes(Folder.Path() / "z.csv"));
             const Texts lines = FileLines(files.back());
             ASSERT_EQ(lines.size(), 1U + 16 * 6);
+            Choose(Box("cboZavodi"), 0);
             for (int position = 0; position < departments; ++position)
             {
-                SelectAt(Box("cboZavodi"), position);
+                if (position > 0)
+                    GoDown(Box("cboZavodi"));
                 ASSERT_EQ(ShownRows(Table()), BlockOf(lines, position))
                     << Chosen("cboRazina") << ", " << semestar << ", " << position;
             }

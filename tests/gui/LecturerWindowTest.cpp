@@ -4,8 +4,11 @@
 #include "data/System.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
+#include "support/FolderState.h"
 #include "support/LoadWindows.h"
 #include "ui/department_stats/frmStatZavodi.h"
+
+#include <wx/uiaction.h>
 
 #include <algorithm>
 
@@ -113,7 +116,7 @@ TEST_F(LecturerWindow, WithoutLecturersItIsEmpty)
 TEST_F(LecturerWindow, ShowsTheCoursesAndTheTableOfTheChosenLecturer)
 {
     Open();
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     EXPECT_EQ(ShownRows(Kolegiji()), (Texts{"Uvod u lov;2;1;0;5;obvezni;1;LOR;Anić Ana; Đurić Ćiro",
                                             "Kolegij bez smjera;1;0;0;2;izborni;3;LOR;Anić Ana"}));
     EXPECT_EQ(
@@ -122,18 +125,9 @@ TEST_F(LecturerWindow, ShowsTheCoursesAndTheTableOfTheChosenLecturer)
                "3;Obvezni;0;0;0;0;0", "3;Izborni;1;0;0;2;1", "4;Obvezni;0;0;0;0;0", "4;Izborni;0;0;0;0;0",
                "5;Obvezni;0;0;0;0;0", "5;Izborni;0;0;0;0;0", "6;Obvezni;0;0;0;0;0", "6;Izborni;0;0;0;0;0",
                "UKUPNO;Obvezni;2;1;0;5;1", "UKUPNO;Izborni;1;0;0;2;1", "TOTAL;Sve;3;1;0;7;2"}));
-    SelectEntry(Nastavnici(), "Đurić Ćiro");
+    Click(Nastavnici(), "Đurić Ćiro");
     EXPECT_EQ(Names(), (Texts{"Uvod u lov", "Napredni lov"}));
     EXPECT_EQ(Total(), "TOTAL;Sve;5;1;1;15;2");
-}
-
-TEST_F(LecturerWindow, FollowsTheMouse)
-{
-    Open();
-    ClickFirst(Nastavnici());
-    EXPECT_EQ(Nastavnici()->GetSelection(), 0);
-    EXPECT_EQ(Names(), (Texts{"Uvod u lov", "Kolegij bez smjera"}));
-    EXPECT_EQ(Total(), "TOTAL;Sve;3;1;0;7;2");
 }
 
 TEST_F(LecturerWindow, TellsLecturersOfOneNameApart)
@@ -141,9 +135,9 @@ TEST_F(LecturerWindow, TellsLecturersOfOneNameApart)
     Catalogue catalogue = SmallCatalogue();
     catalogue.Nastavnici[1] = "2;Anić Ana;;2";
     Open(catalogue);
-    SelectAt(Nastavnici(), 1);
+    Click(Nastavnici(), 1);
     EXPECT_EQ(Names(), (Texts{"Žičani alati", "Bevska kultura"}));
-    SelectAt(Nastavnici(), 0);
+    Click(Nastavnici(), 0);
     EXPECT_EQ(Names(), (Texts{"Uvod u lov", "Kolegij bez smjera"}));
 }
 
@@ -152,8 +146,8 @@ TEST_F(LecturerWindow, ALecturerWithoutCoursesHasATableOfZeros)
     Catalogue catalogue = SmallCatalogue();
     catalogue.Nastavnici.push_back("4;Novi;;1");
     Open(catalogue);
-    SelectEntry(Nastavnici(), "Anić Ana");
-    SelectEntry(Nastavnici(), "Novi");
+    Click(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Novi");
     EXPECT_EQ(Kolegiji()->RowCount(), 0);
     EXPECT_EQ(Table()->RowCount(), 15);
     EXPECT_EQ(Total(), "TOTAL;Sve;0;0;0;0;0");
@@ -162,7 +156,7 @@ TEST_F(LecturerWindow, ALecturerWithoutCoursesHasATableOfZeros)
 TEST_F(LecturerWindow, AListThatShrinksForgetsTheSelectionBehindItsEnd)
 {
     Open();
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     Kolegiji()->SelectRow(1);
     Table()->SelectRow(14);
     Settle(); // GTK scrolls to a selected row only then
@@ -170,7 +164,7 @@ TEST_F(LecturerWindow, AListThatShrinksForgetsTheSelectionBehindItsEnd)
     EXPECT_EQ(Kolegiji()->RowCount(), 0);
     EXPECT_EQ(Kolegiji()->SelectedRow(), -1);
     EXPECT_EQ(Table()->SelectedRow(), -1);
-    SelectEntry(Nastavnici(), "Šarić Žarko");
+    Click(Nastavnici(), "Šarić Žarko");
     EXPECT_EQ(Names(), Texts{"Bevska kultura"});
     EXPECT_EQ(TakeUncaughtError(), "");
 }
@@ -181,7 +175,7 @@ TEST_F(LecturerWindow, TheFiltersNarrowTheCoursesAndTheTable)
 {
     Open(CoursesOfAna(
         {"1;LorP;1;0;0;1;obvezni;1;1", "2;BevP;2;0;0;2;obvezni;1;2", "3;LorD;4;0;0;4;obvezni;1;3"}));
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     EXPECT_EQ(Names(), (Texts{"LorP", "BevP", "LorD"}));
     Choose(Box("cboRazina"), "Preddiplomski");
     EXPECT_EQ(Names(), (Texts{"LorP", "BevP"}));
@@ -206,7 +200,7 @@ TEST_F(LecturerWindow, AFilterAppliesToTheLecturerChosenAfterIt)
     ExpectEmpty();
     Choose(Box("cboProgram"), "LOR");
     ExpectEmpty();
-    SelectEntry(Nastavnici(), "Đurić Ćiro");
+    Click(Nastavnici(), "Đurić Ćiro");
     EXPECT_EQ(Names(), Texts{"Napredni lov"});
 }
 
@@ -216,7 +210,7 @@ TEST_F(LecturerWindow, DrawsElectivesBlueMoreThan30EctsRedAndTheTotalsBold)
 {
     Open(CoursesOfAna(
         {"1;A;1;0;0;30;obvezni;1;1", "2;B;1;0;0;31; Izborni ;2;1", "3;C;1;0;0;1;fakultativni;9;1"}));
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     const wxColour blue(0, 0, 255);
     for (int column = 0; column < Kolegiji()->ColumnCount(); ++column)
         for (int row = 0; row < 3; ++row)
@@ -241,7 +235,7 @@ TEST_F(LecturerWindow, AHeaderSortsAsTextAndBackwardsWhenClickedAgain)
 {
     Open(CoursesOfAna(
         {"1;Čvor;10;0;0;1;obvezni;1;1", "2;Cink;9;0;0;1;obvezni;1;1", "3;Dud;8;0;0;1;obvezni;1;1"}));
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     Kolegiji()->ClickColumn(1);
     EXPECT_EQ(ColumnTexts(Kolegiji(), 1), (Texts{"10", "8", "9"}));
     Kolegiji()->ClickColumn(1);
@@ -256,7 +250,7 @@ TEST_F(LecturerWindow, AHeaderSortsAsTextAndBackwardsWhenClickedAgain)
 TEST_F(LecturerWindow, SharesItsSortMemoryWithTheMainWindowAndWithinItself)
 {
     Open();
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     Find<ListView>(Main, "lvwKolegiji")->ClickColumn(0);
     Kolegiji()->ClickColumn(0);
     EXPECT_EQ(Names(), (Texts{"Uvod u lov", "Kolegij bez smjera"})) << "the second click on a column number";
@@ -275,7 +269,7 @@ TEST_F(LecturerWindow, SharesItsSortMemoryWithTheMainWindowAndWithinItself)
 TEST_F(LecturerWindow, OpenedAgainItIsTheSameWindowAsItStood)
 {
     Open();
-    SelectEntry(Nastavnici(), "Đurić Ćiro");
+    Click(Nastavnici(), "Đurić Ćiro");
     Choose(Box("cboRazina"), "Diplomski");
     Kolegiji()->ClickColumn(2);
     Kolegiji()->SelectRow(0);
@@ -293,7 +287,7 @@ TEST_F(LecturerWindow, OpenedAgainItIsTheSameWindowAsItStood)
 TEST_F(LecturerWindow, ClosedByItsButtonItOpensAfresh)
 {
     Open();
-    SelectEntry(Nastavnici(), "Đurić Ćiro");
+    Click(Nastavnici(), "Đurić Ćiro");
     Choose(Box("cboProgram"), "LOR");
     Press(Stat, "cmdClose");
     EXPECT_EQ(FindOpen<frmStatNositelji>(), nullptr);
@@ -308,20 +302,20 @@ TEST_F(LecturerWindow, ClosedByItsButtonItOpensAfresh)
 TEST_F(LecturerWindow, ClosedByItsCloseBoxItOpensAfreshAndSavesNothing)
 {
     Open();
-    WriteBytes(Folder.Data() / "db_zavod.csv", "untouched");
-    SelectEntry(Nastavnici(), "Anić Ana");
+    const std::vector<FileState> before = FolderState(Folder.Data());
+    Click(Nastavnici(), "Anić Ana");
     Stat->Close();
     Settle();
     EXPECT_EQ(FindOpen<frmStatNositelji>(), nullptr);
     PressOpen();
     ExpectEmpty();
-    EXPECT_EQ(ReadBytes(Folder.Data() / "db_zavod.csv"), "untouched");
+    EXPECT_EQ(FolderState(Folder.Data()), before);
 }
 
 TEST_F(LecturerWindow, TheExitButtonClosesBothWindowsOfLoad)
 {
     Open();
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     Press(Main, "cmdStatZavodi");
     ASSERT_NE(FindOpen<frmStatZavodi>(), nullptr);
     EXPECT_EQ(wxTopLevelWindows.size(), 3U);
@@ -338,12 +332,73 @@ TEST_F(LecturerWindow, TheMainWindowsCloseBoxClosesItToo)
     EXPECT_TRUE(wxTopLevelWindows.empty());
 }
 
+TEST_F(LecturerWindow, TheFocusAndTheTabKeySelectNoLecturer)
+{
+    Open();
+    Find<wxWindow>(Stat, "cmdClose")->SetFocus();
+    Settle();
+    PressKey(Find<wxWindow>(Stat, "cmdClose"), WXK_TAB);
+    EXPECT_EQ(wxWindow::FindFocus(), Nastavnici());
+    ExpectEmpty();
+    Box("cboRazina")->SetFocus();
+    Settle();
+    Nastavnici()->SetFocus();
+    Settle();
+    ExpectEmpty();
+    PressKey(Nastavnici(), WXK_DOWN);
+    EXPECT_NE(Nastavnici()->GetSelection(), wxNOT_FOUND) << "that is left to the keys of the list";
+    EXPECT_EQ(Table()->RowCount(), 15);
+}
+
 // Beside an edit in the main window
+
+TEST_F(LecturerWindow, AClickOnTheSelectedLecturerShowsTheTablesAsTheyAreNow)
+{
+    Open();
+    Click(Nastavnici(), "Anić Ana");
+    modData::Kolegiji.Replace(0, {"1", "Novi naziv", "3", "1", "0", "5", "obvezni", "1", "1"});
+    EXPECT_EQ(Names(), (Texts{"Uvod u lov", "Kolegij bez smjera"}));
+    Click(Nastavnici(), "Anić Ana");
+    EXPECT_EQ(Names(), (Texts{"Novi naziv", "Kolegij bez smjera"}));
+    EXPECT_EQ(Total(), "TOTAL;Sve;4;1;0;7;2");
+}
+
+TEST_F(LecturerWindow, ChoosingTheChosenFilterShowsTheTablesAsTheyAreNow)
+{
+    Open();
+    Click(Nastavnici(), "Anić Ana");
+    int edit = 0;
+    for (const char* box : {"cboRazina", "cboProgram"})
+        for (const int entry : {0, 1})
+        {
+            Choose(Box(box), entry);
+            const std::string name = "Naziv " + std::to_string(++edit);
+            modData::Kolegiji.Replace(0, {"1", name, "2", "1", "0", "5", "obvezni", "1", "1"});
+            Choose(Box(box), entry);
+            EXPECT_EQ(Names().front(), name) << box << ", " << entry;
+        }
+}
+
+TEST_F(LecturerWindow, ADropDownListClosedByEscapeChoosesNothing)
+{
+    Open();
+    Click(Nastavnici(), "Anić Ana");
+    modData::Kolegiji.Replace(0, {"1", "Novi naziv", "2", "1", "0", "5", "obvezni", "1", "1"});
+    for (const char* box : {"cboRazina", "cboProgram"})
+    {
+        ::Open(Box(box));
+        wxUIActionSimulator().Char(WXK_ESCAPE);
+        WaitUntil([&] { return !IsOpen(Box(box)); });
+        Settle();
+        EXPECT_EQ(Chosen(box), "Svi");
+        EXPECT_EQ(Names().front(), "Uvod u lov") << box;
+    }
+}
 
 TEST_F(LecturerWindow, ShowsWhatItShowedUntilTheUserActs)
 {
     Open();
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     const Texts courses = ShownRows(Kolegiji());
     const Texts table = ShownRows(Table());
     Kolegiji()->SelectRow(0);
@@ -359,7 +414,7 @@ TEST_F(LecturerWindow, ShowsWhatItShowedUntilTheUserActs)
     EXPECT_EQ(Names(), (Texts{"Kolegij bez smjera", "Uvod u lov"})) << "sorting reads no table";
     PressOpen();
     EXPECT_EQ(Kolegiji()->RowCount(), 2) << "nor does coming to the front";
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     EXPECT_EQ(Names(), Texts{"Kolegij bez smjera"});
     EXPECT_EQ(TakeUncaughtError(), "");
 }
@@ -367,7 +422,7 @@ TEST_F(LecturerWindow, ShowsWhatItShowedUntilTheUserActs)
 TEST_F(LecturerWindow, OutlivesItsLecturersRow)
 {
     Open();
-    SelectEntry(Nastavnici(), "Đurić Ćiro");
+    Click(Nastavnici(), "Đurić Ćiro");
     modData::KolegijNastavnici.RemoveMatches(KolegijNastavnik::NastavnikID, 3);
     modData::Nastavnici.RemoveMatches(Nastavnik::ID, 3);
     EXPECT_EQ(Names().size(), 2U);
@@ -385,9 +440,9 @@ TEST_F(LecturerWindow, AnHourThatIsNoNumberGoesUncaught)
     modData::Kolegiji.Append({"6", "Loš", "x", "0", "0", "1", "obvezni", "1", "1"});
     modData::KolegijNastavnici.Append({"6", "2", "Nositelj", "1"});
     const MessageAnswers answers;
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     EXPECT_EQ(TakeUncaughtError(), "") << "another lecturer's course";
-    SelectEntry(Nastavnici(), "Šarić Žarko");
+    Click(Nastavnici(), "Šarić Žarko");
     EXPECT_EQ(TakeUncaughtError(), "13: Vrijednost \"x\" nije broj (datoteka db_kolegij.csv, redak unesen u "
                                    "programu, stupac \"P\").");
     EXPECT_TRUE(answers.Shown().empty());
@@ -455,7 +510,7 @@ TEST_F(LecturerWindow, SeesToTheEndingAndSaysWhereTheFileIs)
 TEST_F(LecturerWindow, ExportsAllLecturersByTheFiltersWhateverIsSelectedOrSorted)
 {
     Open();
-    SelectEntry(Nastavnici(), "Anić Ana");
+    Click(Nastavnici(), "Anić Ana");
     Table()->ClickColumn(0);
     Choose(Box("cboRazina"), "Diplomski");
     const Texts shown = ShownRows(Table());
@@ -521,15 +576,17 @@ TEST_F(LecturerWindow, OfTheDemoCatalogueEveryTableIsTheLecturersBlockInTheExpor
     for (int razina = 0; razina < 3; ++razina)
         for (int program = 0; program < 3; ++program)
         {
-            SelectAt(Box("cboRazina"), razina);
-            SelectAt(Box("cboProgram"), program);
+            Choose(Box("cboRazina"), razina);
+            Choose(Box("cboProgram"), program);
             PressExport(Folder.PathOf("n.csv"));
             files.push_back(ReadBytes(Folder.Path() / "n.csv"));
             const Texts lines = FileLines(files.back());
             ASSERT_EQ(lines.size(), 1U + 16 * 40);
+            Click(Nastavnici(), 0);
             for (int position = 0; position < lecturers; ++position)
             {
-                SelectAt(Nastavnici(), position);
+                if (position > 0)
+                    GoDown(Nastavnici());
                 ASSERT_EQ(ShownRows(Table()), BlockOf(lines, position))
                     << Chosen("cboRazina") << ", " << Chosen("cboProgram") << ", " << position;
             }

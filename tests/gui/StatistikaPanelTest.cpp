@@ -198,10 +198,7 @@ TEST_F(StatistikaPanel, ADirectionCalledLikeTheEntryForAllFiltersTheListAlone)
     Catalogue catalogue = SmallCatalogue();
     catalogue.Smjerovi[0] = "1;Opći;Svi;1;Preddiplomski";
     Open(catalogue);
-    Box("cboSmjer")->SetSelection(1);
-    wxCommandEvent event(wxEVT_CHOICE, Box("cboSmjer")->GetId());
-    event.SetEventObject(Box("cboSmjer"));
-    Box("cboSmjer")->ProcessWindowEvent(event);
+    Choose(Box("cboSmjer"), 1);
     EXPECT_EQ(ColumnTexts(Kolegiji(), 0), Texts{"1"});
     EXPECT_EQ(Total(), "TOTAL;Sve;5;3;1;14;3");
 }
@@ -210,7 +207,15 @@ TEST_F(StatistikaPanel, IsEmptyBeforeTheWindowIsReady)
 {
     SmallCatalogue().Use();
     Window = new frmMain;
+    // Before that the tables are there and every way to a refresh is open.
+    Find<wxTextCtrl>(Window, "txtSearch")->SetValue("a");
     EXPECT_EQ(Statistika()->RowCount(), 0);
+    Window->ExportStatistika_SelectedToCSV(Folder.PathOf("s.csv"));
+    EXPECT_EQ(Statistika()->RowCount(), 0);
+    EXPECT_EQ(ReadBytes(Folder.Path() / "s.csv"),
+              "sep=;\r\nRazina;\r\nProgram;\r\nSmjer;\r\nSemestar;\r\n\r\n"
+              "Semestar;Tip;P;S;V;ECTS;Kolegija\r\n");
+    EXPECT_EQ(TakeUncaughtError(), "");
 }
 
 // Sorting

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Catalogue.h"
+#include "support/ListWindow.h"
 #include "support/LoadChecks.h"
 #include "support/Windows.h"
 #include "ui/main/frmMain.h"
@@ -10,7 +11,6 @@
 #include <wx/stattext.h>
 #include <wx/uiaction.h>
 
-#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -18,33 +18,9 @@
 
 // What the tests of the two windows of teaching load share.
 
-struct ExpectedColumn
-{
-    const char* Caption;
-    int Twips;
-};
-
 inline const std::vector<ExpectedColumn> TaughtCourseColumnsExpected = {
     {"Kolegij", 2200}, {"P", 500},   {"S", 500},      {"V", 500},         {"ECTS", 700},
     {"Tip", 1200},     {"Sem", 600}, {"Studij", 800}, {"Nositelji", 2500}};
-
-inline void ExpectColumns(const ListView* list, const std::vector<ExpectedColumn>& expected)
-{
-    ASSERT_EQ(list->ColumnCount(), static_cast<int>(expected.size()));
-    for (int i = 0; i < list->ColumnCount(); ++i)
-    {
-        const ExpectedColumn& column = expected[static_cast<std::size_t>(i)];
-        EXPECT_EQ(list->ColumnCaption(i), column.Caption);
-        // A caption that does not fit makes its column wider, by no more than it needs where it is bold.
-        const wxFont bold = list->GetFont().Bold();
-        wxSize caption;
-        list->GetTextExtent(column.Caption, &caption.x, &caption.y, nullptr, nullptr, &bold);
-        EXPECT_GE(list->ColumnWidth(i), list->FromDIP(column.Twips / 15)) << column.Caption;
-        EXPECT_LE(list->ColumnWidth(i),
-                  std::max(list->FromDIP(column.Twips / 15), caption.x) + list->FromDIP(40))
-            << column.Caption;
-    }
-}
 
 /// The rows of a list as it shows them, the cells joined by ";".
 inline std::vector<std::string> ShownRows(const ListView* list)
@@ -60,43 +36,13 @@ inline std::vector<std::string> ShownRows(const ListView* list)
     return rows;
 }
 
-/// Raises the event of a choice that the user has made, without waiting for anything.
-inline void RaiseChosen(wxControlWithItems* box, wxEventType type)
+/// Goes to the next entry of a box by the keyboard.
+inline void GoDown(wxControlWithItems* box)
 {
-    wxCommandEvent event(type, box->GetId());
-    event.SetEventObject(box);
-    event.SetInt(box->GetSelection());
-    event.SetString(box->GetStringSelection());
-    box->GetEventHandler()->SafelyProcessEvent(event);
-}
-
-/// Selects an entry of a drop-down list or list box as a click does, without waiting for anything.
-inline void SelectAt(wxControlWithItems* box, int position)
-{
-    if (position >= static_cast<int>(box->GetCount()))
-        throw std::runtime_error("no entry " + std::to_string(position));
-    box->SetSelection(position);
-    RaiseChosen(box, dynamic_cast<wxListBox*>(box) != nullptr ? wxEVT_LISTBOX : wxEVT_CHOICE);
-}
-
-/// Selects an entry of a list box by its text, as a click does.
-inline void SelectEntry(wxListBox* list, const char* entry)
-{
-    const int position = list->FindString(wxString::FromUTF8(entry), true);
-    if (position == wxNOT_FOUND)
-        throw std::runtime_error(std::string("no entry ") + entry);
-    SelectAt(list, position);
-    Settle();
-}
-
-/// Clicks with the mouse on the first entry of a list box.
-inline void ClickFirst(wxListBox* list)
-{
-    wxUIActionSimulator simulator;
-    simulator.MouseMove(list->ClientToScreen(wxPoint(list->FromDIP(20), list->FromDIP(10))));
-    Settle();
-    simulator.MouseClick();
-    Settle();
+    const int next = box->GetSelection() + 1;
+    Focus(box);
+    wxUIActionSimulator().Char(WXK_DOWN);
+    WaitUntil([&] { return box->GetSelection() == next; });
 }
 
 /// A main window on a test's data, and the window of load that its button opens.

@@ -9,10 +9,34 @@
 #include <wx/uiaction.h>
 #include <wx/utils.h>
 
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include "ui/controls/NativeFunction_gtk.h"
+#endif
+
 namespace
 {
 
 std::string UncaughtError;
+
+int PositionOf(const wxControlWithItems* box, const char* entry)
+{
+    const int position = box->FindString(wxString::FromUTF8(entry), true);
+    if (position == wxNOT_FOUND)
+        throw std::runtime_error(std::string("no entry ") + entry);
+    return position;
+}
+
+/// A point of a list box that lies on an entry; none when the entry is scrolled out of sight.
+std::optional<wxPoint> PointOn(const wxListBox* list, int position)
+{
+    const wxPoint step(0, list->FromDIP(4)); // into the entry, away from its upper edge
+    for (wxPoint point(list->FromDIP(20), 0); point.y < list->GetClientSize().y; ++point.y)
+        if (list->HitTest(point) == position && list->HitTest(point + step) == position)
+            return point + step;
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -31,16 +55,86 @@ void Settle()
     } while (quiet.Time() < quietMilliseconds);
 }
 
-void Choose(wxChoice* box, const wxString& entry)
+void WaitUntil(const std::function<bool()>& condition)
 {
-    if (!box->SetStringSelection(entry))
-        throw std::runtime_error("no entry " + entry.utf8_string());
-    wxCommandEvent event(wxEVT_CHOICE, box->GetId());
-    event.SetEventObject(box);
-    event.SetInt(box->GetSelection());
-    event.SetString(entry);
-    box->GetEventHandler()->SafelyProcessEvent(event);
+    constexpr long patience = 5000;
+    for (const wxStopWatch watch; !condition(); wxMilliSleep(1))
+    {
+        if (watch.Time() > patience)
+            throw std::runtime_error("waited in vain");
+        wxYield();
+        wxTheApp->ProcessIdle();
+    }
+}
+
+bool IsOpen(const wxChoice* box)
+{
+#ifdef _WIN32
+    return SendMessageW(box->GetHWND(), CB_GETDROPPEDSTATE, 0, 0) != 0;
+#else
+    int shown = 0;
+    NativeFunction<void (*)(GtkWidget*, const char*, ...)>("g_object_get")(box->GetHandle(), "popup-shown",
+                                                                           &shown, nullptr);
+    return shown != 0;
+#endif
+}
+
+void Open(wxChoice* box)
+{
+    auto* window = dynamic_cast<wxTopLevelWindow*>(wxGetTopLevelParent(box));
+    if (!window->IsActive())
+        window->Raise();
+    // The list must not open under the mouse, which would choose for itself.
+    const wxRect place = window->GetScreenRect();
+    wxUIActionSimulator().MouseMove(place.GetBottomRight() - wxPoint(4, 4));
     Settle();
+    Focus(box);
+    wxUIActionSimulator().Char(WXK_DOWN, wxMOD_ALT);
+    WaitUntil([&] { return IsOpen(box); });
+}
+
+void Choose(wxChoice* box, int position)
+{
+    if (position >= static_cast<int>(box->GetCount()))
+        throw std::runtime_error("no entry " + std::to_string(position));
+    Open(box);
+    wxUIActionSimulator keys;
+    keys.Char(WXK_HOME);
+    for (int i = 0; i < position; ++i)
+        keys.Char(WXK_DOWN);
+    keys.Char(WXK_RETURN);
+    WaitUntil([&] { return !IsOpen(box); });
+    Settle();
+}
+
+void Choose(wxChoice* box, const char* entry)
+{
+    Choose(box, PositionOf(box, entry));
+}
+
+void Click(wxListBox* list, int position, wxKeyCode held)
+{
+    if (position >= static_cast<int>(list->GetCount()))
+        throw std::runtime_error("no entry " + std::to_string(position));
+    // GTK scrolls to an entry even if it is in sight, and two clicks on one place are a double click.
+    if (!PointOn(list, position))
+        list->EnsureVisible(position);
+    WaitUntil([&] { return PointOn(list, position).has_value(); });
+    wxUIActionSimulator simulator;
+    simulator.MouseMove(list->ClientToScreen(*PointOn(list, position)));
+    Settle();
+    if (held != WXK_NONE)
+        simulator.KeyDown(held);
+    simulator.MouseClick();
+    Settle();
+    if (held != WXK_NONE)
+        simulator.KeyUp(held);
+    Settle();
+}
+
+void Click(wxListBox* list, const char* entry)
+{
+    Click(list, PositionOf(list, entry));
 }
 
 void Press(wxWindow* window, const wxString& buttonName)
@@ -80,8 +174,13 @@ void Type(wxWindow* control, const char* text)
 void Click(wxWindow* control)
 {
     const wxSize size = control->GetSize();
+    ClickAt(control->ClientToScreen(wxPoint(size.x / 2, size.y / 2)));
+}
+
+void ClickAt(wxPoint onScreen)
+{
     wxUIActionSimulator simulator;
-    simulator.MouseMove(control->ClientToScreen(wxPoint(size.x / 2, size.y / 2)));
+    simulator.MouseMove(onScreen);
     Settle();
     simulator.MouseClick();
     Settle();

@@ -4,6 +4,7 @@
 #include "ui/controls/SaveDialog.h"
 
 #include <wx/choice.h>
+#include <wx/listbox.h>
 #include <wx/modalhook.h>
 #include <wx/toplevel.h>
 
@@ -40,8 +41,26 @@ Window* FindOpen()
     return nullptr;
 }
 
-/// Chooses an entry of a drop-down list as the user does, the event included.
-void Choose(wxChoice* box, const wxString& entry);
+/// Lets the event loop run until a condition is met; the test fails by an exception when it never is.
+void WaitUntil(const std::function<bool()>& condition);
+
+// Choices are made by real keys and clicks: an event raised by hand would also come where the system raises
+// none.
+
+/// Opens a drop-down list by the keyboard. The keys after it are its own.
+void Open(wxChoice* box);
+
+/// Whether a drop-down list is open.
+bool IsOpen(const wxChoice* box);
+
+/// Chooses an entry of a drop-down list by the keyboard: where the entries are on the screen once it is open,
+/// GTK tells nobody.
+void Choose(wxChoice* box, int position);
+void Choose(wxChoice* box, const char* entry); ///< UTF-8
+
+/// Clicks on an entry of a list box with the mouse, scrolled to if it has to be, Ctrl or Shift held if given.
+void Click(wxListBox* list, int position, wxKeyCode held = WXK_NONE);
+void Click(wxListBox* list, const char* entry); ///< UTF-8
 
 /// Presses a button as the mouse does, the event included; a disabled one does nothing.
 void Press(wxWindow* window, const wxString& buttonName);
@@ -57,6 +76,9 @@ void Type(wxWindow* control, const char* text);
 
 /// Clicks into the middle of a control with the mouse.
 void Click(wxWindow* control);
+
+/// Clicks on a point of the screen with the mouse.
+void ClickAt(wxPoint onScreen);
 
 /// The entries of a drop-down list or list box.
 std::vector<std::string> EntriesOfBox(const wxItemContainer* box);

@@ -6,8 +6,22 @@
 #include <wx/app.h>
 #include <wx/evtloop.h>
 
+#ifndef _WIN32
+#include "ui/controls/NativeFunction_gtk.h"
+#endif
+
 namespace
 {
+
+/// Lets lists scroll at once: a click at a place found while they move would miss.
+void SwitchAnimationsOff()
+{
+#ifndef _WIN32
+    const auto settings = NativeFunction<void* (*)()>("gtk_settings_get_default")();
+    NativeFunction<void (*)(void*, const char*, ...)>("g_object_set")(settings, "gtk-enable-animations", 0,
+                                                                      nullptr);
+#endif
+}
 
 /// The application of the window tests: runs the tests inside an event loop.
 class TestApp : public wxApp
@@ -28,6 +42,7 @@ public:
 
     int OnRun() override
     {
+        SwitchAnimationsOff();
         SetExitOnFrameDelete(false);
         wxGUIEventLoop loop;
         const wxEventLoopActivator active(&loop);

@@ -2,7 +2,10 @@
 
 #include "ui/controls/Strings.h"
 
-#include <wx/ctrlsub.h>
+#include <wx/listbox.h>
+
+#include <memory>
+#include <utility>
 
 void FillChoices(wxItemContainer& box, const std::vector<Choice>& choices)
 {
@@ -54,4 +57,26 @@ std::int32_t SelectedData(const wxItemContainer& box)
 {
     const int selected = box.GetSelection();
     return selected == wxNOT_FOUND ? 0 : DataAt(box, selected);
+}
+
+void ReportEveryChoice(wxListBox& list)
+{
+    // The selected entry that the mouse button is pressed on; released there, too, it is chosen.
+    const auto pressed = std::make_shared<int>(wxNOT_FOUND);
+    const auto onPress = [&list, pressed](wxMouseEvent& event)
+    {
+        event.Skip();
+        const int entry = list.HitTest(event.GetPosition());
+        *pressed = entry == list.GetSelection() ? entry : wxNOT_FOUND;
+    };
+    list.Bind(wxEVT_LEFT_DOWN, onPress);
+    list.Bind(wxEVT_LEFT_DCLICK, onPress);
+    list.Bind(wxEVT_LEFT_UP,
+              [&list, pressed](wxMouseEvent& event)
+              {
+                  event.Skip();
+                  const int entry = std::exchange(*pressed, wxNOT_FOUND);
+                  if (entry != wxNOT_FOUND && entry == list.HitTest(event.GetPosition()))
+                      list.CallAfter([&list] { list.SendSelectionChangedEvent(wxEVT_LISTBOX); });
+              });
 }

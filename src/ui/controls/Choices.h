@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
+class wxChoice;
 class wxItemContainer;
+class wxListBox;
 
 // Combo boxes and list boxes whose entries carry a number. Selecting an entry here raises no event.
 
@@ -27,3 +29,12 @@ std::string ChosenText(const wxItemContainer& box);
 
 /// The number of the selected entry; 0 when none is selected.
 std::int32_t SelectedData(const wxItemContainer& box);
+
+// A choice by the user raises the control's event. The systems raise none for the entry that is selected
+// already: with these every choice raises it. A menu closed by Escape is no choice.
+
+void ReportEveryChoice(wxChoice& box);
+void ReportEveryChoice(wxListBox& list);
+
+/// Lets a filled list box without a selection have the focus: some systems select the first entry then.
+void LetFocusSelectNothing(wxListBox& list);

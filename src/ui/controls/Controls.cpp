@@ -1,5 +1,6 @@
 #include "ui/controls/Controls.h"
 
+#include "ui/controls/Choices.h"
 #include "ui/controls/NativeFields.h"
 #include "ui/controls/ProgramIcons.h"
 #include "ui/controls/Strings.h"
@@ -55,6 +56,7 @@ wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters)
     choice->SetSelection(0);
     choice->SetMinSize({width, choice->GetBestSize().y});
     choice->Clear();
+    ReportEveryChoice(*choice);
     return choice;
 }
 

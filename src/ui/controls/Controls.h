@@ -31,7 +31,7 @@ void UseProgramLook(wxTopLevelWindow& window);
 wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption);
 wxStaticText* NewLabel(wxWindow* parent, std::string_view name, std::string_view caption);
 
-/// A drop-down list, wide enough for `characters` of text.
+/// A drop-down list, wide enough for `characters` of text. Every choice from it raises its event.
 wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters);
 
 /// A one-line text box, wide enough for `characters` of text. A pasted text ends at its first line break.

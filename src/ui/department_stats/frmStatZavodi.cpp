@@ -51,6 +51,7 @@ frmStatZavodi::frmStatZavodi(wxWindow* parent)
     Panel->SetSizer(margin);
     UseClientSizes(*this, *margin, InitialSize, SmallestSize);
 
+    ReportEveryChoice(*lstSemestri);
     BindEvents();
     Form_Load();
 }
@@ -94,13 +95,13 @@ wxSizer* frmStatZavodi::Buttons()
 
 void frmStatZavodi::BindEvents()
 {
-    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ShowSelected(); });
-    cboZavodi->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ShowSelected(); });
-    lstSemestri->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { ShowSelected(); });
-    for (ListView* list : {lvwKolegiji, lvwStatZavod})
-        list->OnColumnClick([list](int column) { SortListViewByColumn(*list, column); });
+    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboRazina_Click(); });
+    cboZavodi->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboZavodi_Click(); });
+    lstSemestri->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { lstSemestri_Click(); });
+    lvwKolegiji->OnColumnClick([this](int column) { lvwKolegiji_ColumnClick(column); });
+    lvwStatZavod->OnColumnClick([this](int column) { lvwStatZavod_ColumnClick(column); });
     cmdExportAllStat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportAllStat_Click(); });
-    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Close(); });
+    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdClose_Click(); });
 }
 
 void frmStatZavodi::Form_Load()
@@ -135,8 +136,38 @@ void frmStatZavodi::ShowSelected()
     lvwStatZavod->SetRows(DepartmentLoadRows(zavodID, CurrentFilter()));
 }
 
+void frmStatZavodi::cboRazina_Click()
+{
+    ShowSelected();
+}
+
+void frmStatZavodi::cboZavodi_Click()
+{
+    ShowSelected();
+}
+
+void frmStatZavodi::lstSemestri_Click()
+{
+    ShowSelected();
+}
+
+void frmStatZavodi::lvwKolegiji_ColumnClick(int column)
+{
+    SortListViewByColumn(*lvwKolegiji, column);
+}
+
+void frmStatZavodi::lvwStatZavod_ColumnClick(int column)
+{
+    SortListViewByColumn(*lvwStatZavod, column);
+}
+
 void frmStatZavodi::cmdExportAllStat_Click()
 {
     RunLoadExport(this, ExportTexts,
                   [this](const std::string& path) { ExportAllDepartments(path, CurrentFilter()); });
+}
+
+void frmStatZavodi::cmdClose_Click()
+{
+    Close();
 }

@@ -26,12 +26,18 @@ private:
     wxSizer* Buttons();
     void BindEvents();
 
-    void Form_Load();
     DepartmentFilter CurrentFilter() const;
     void ShowSelected();
 
     // Events
+    void Form_Load();
+    void cboRazina_Click();
+    void cboZavodi_Click();
+    void lstSemestri_Click();
+    void lvwKolegiji_ColumnClick(int column);
+    void lvwStatZavod_ColumnClick(int column);
     void cmdExportAllStat_Click();
+    void cmdClose_Click();
 
     // Controls
     wxPanel* Panel;

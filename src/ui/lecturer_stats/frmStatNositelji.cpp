@@ -58,6 +58,7 @@ frmStatNositelji::frmStatNositelji(wxWindow* parent)
     Panel->SetSizer(margin);
     UseClientSizes(*this, *margin, InitialSize, SmallestSize);
 
+    ReportEveryChoice(*lstNastavnici);
     BindEvents();
     Form_Load();
 }
@@ -92,13 +93,12 @@ wxSizer* frmStatNositelji::Buttons()
 void frmStatNositelji::BindEvents()
 {
     lstNastavnici->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { lstNastavnici_Click(); });
-    // A filter shows the selected lecturer anew; without a selection it does nothing.
-    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { lstNastavnici_Click(); });
-    cboProgram->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { lstNastavnici_Click(); });
-    for (ListView* list : {lvwKolegiji, lvwStat})
-        list->OnColumnClick([list](int column) { SortListViewByColumn(*list, column); });
+    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboRazina_Click(); });
+    cboProgram->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboProgram_Click(); });
+    lvwKolegiji->OnColumnClick([this](int column) { lvwKolegiji_ColumnClick(column); });
+    lvwStat->OnColumnClick([this](int column) { lvwStat_ColumnClick(column); });
     cmdExportAllStat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportAllStat_Click(); });
-    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Close(); });
+    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdClose_Click(); });
 }
 
 void frmStatNositelji::Form_Load()
@@ -108,6 +108,7 @@ void frmStatNositelji::Form_Load()
     FillChoices(*cboProgram, WithSvi({{"LOR"}, {"BEV"}}));
     SelectFirst(*cboProgram);
     FillChoices(*lstNastavnici, NastavnikChoices());
+    LetFocusSelectNothing(*lstNastavnici);
     lvwKolegiji->SetColumns(TaughtCourseColumns);
     lvwStat->SetColumns(StatColumns);
     CenterForm(*this);
@@ -132,8 +133,33 @@ void frmStatNositelji::lstNastavnici_Click()
     ShowSelected();
 }
 
+void frmStatNositelji::cboRazina_Click()
+{
+    lstNastavnici_Click(); // shows the selected lecturer by the new filter
+}
+
+void frmStatNositelji::cboProgram_Click()
+{
+    lstNastavnici_Click();
+}
+
+void frmStatNositelji::lvwKolegiji_ColumnClick(int column)
+{
+    SortListViewByColumn(*lvwKolegiji, column);
+}
+
+void frmStatNositelji::lvwStat_ColumnClick(int column)
+{
+    SortListViewByColumn(*lvwStat, column);
+}
+
 void frmStatNositelji::cmdExportAllStat_Click()
 {
     RunLoadExport(this, ExportTexts,
                   [this](const std::string& path) { ExportAllLecturers(path, CurrentFilter()); });
+}
+
+void frmStatNositelji::cmdClose_Click()
+{
+    Close();
 }

@@ -27,13 +27,18 @@ private:
     wxSizer* Buttons();
     void BindEvents();
 
-    void Form_Load();
     LecturerFilter CurrentFilter() const;
     void ShowSelected();
 
     // Events
+    void Form_Load();
     void lstNastavnici_Click();
+    void cboRazina_Click();
+    void cboProgram_Click();
+    void lvwKolegiji_ColumnClick(int column);
+    void lvwStat_ColumnClick(int column);
     void cmdExportAllStat_Click();
+    void cmdClose_Click();
 
     std::int32_t SelectedNastavnikID = 0; ///< Of the last click in the list.
 
