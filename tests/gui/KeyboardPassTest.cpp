@@ -143,17 +143,6 @@ char AccessKey(const wxWindow* control)
     return 0;
 }
 
-/// Whether access keys typed in a control are found. Wine looks for them only beside the control that has the
-/// focus, not around a list's window.
-bool TakesAccessKeys([[maybe_unused]] wxWindow* control)
-{
-#ifdef _WIN32
-    return dynamic_cast<ListView*>(control) == nullptr;
-#else
-    return true;
-#endif
-}
-
 std::string FocusName(wxTopLevelWindow& window)
 {
     const wxWindow* control = ControlWith(window, wxWindow::FindFocus());
@@ -190,6 +179,63 @@ TEST_F(Keyboard, TabGoesThroughEveryControlInReadingOrderAndBack)
                 }
                 EXPECT_EQ(NamesOf(log.Controls()), NamesOf(stops));
                 std::ranges::reverse(stops);
+            }
+        });
+}
+
+TEST_F(Keyboard, TabIntoAListSelectsNothing)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            std::map<ListView*, int> selected;
+            for (wxWindow* control : ControlsOf(window))
+                if (auto* list = dynamic_cast<ListView*>(control))
+                {
+                    list->SelectRow(-1);
+                    selected[list] = -1;
+                }
+            Focus(TabStops(window).front());
+            for (std::size_t i = 0; i < TabStops(window).size(); ++i)
+            {
+                wxUIActionSimulator().Char(WXK_TAB);
+                Settle();
+            }
+            for (const auto& [list, row] : selected)
+                EXPECT_EQ(list->SelectedRow(), row) << list->GetName();
+        });
+}
+
+// Characters
+
+TEST_F(Keyboard, ACharacterTypedInAListDoesNothing)
+{
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            if (auto* lecturers =
+                    dynamic_cast<wxListBox*>(wxWindow::FindWindowByName("lstNastavnici", &window)))
+                Click(lecturers, 0); // whose courses fill the lists
+            const MessageAnswers none;
+            for (wxWindow* control : ControlsOf(window))
+            {
+                auto* list = dynamic_cast<ListView*>(control);
+                if (list == nullptr)
+                    continue;
+                ASSERT_GT(list->RowCount(), 3) << list->GetName();
+                const ModalSession editor([](wxTopLevelWindow&) {});
+                Focus(list);
+                list->SelectRow(2);
+                const std::string first = list->CellText(0, 0).utf8_string();
+                for (const std::string& text :
+                     {std::string(" "), first.substr(0, 1), std::string("1"), std::string("uz")})
+                {
+                    Type(list, text.c_str());
+                    EXPECT_EQ(list->SelectedRow(), 2) << list->GetName() << ", '" << text << "'";
+                    EXPECT_THROW(editor.Check(), std::runtime_error) << "no dialog opens";
+                }
+                PressKey(list, WXK_DOWN);
+                EXPECT_EQ(list->SelectedRow(), 3) << "the next key is the list's, not a search box's";
             }
         });
 }
@@ -243,7 +289,7 @@ TEST_F(Keyboard, AnAccessKeyWorksInEveryKindOfControl)
             const char key = AccessKey(last);
             for (wxWindow* stop : KindsOfTabStops(window))
             {
-                if (key == 0 || !TakesAccessKeys(stop))
+                if (key == 0)
                     continue;
                 Focus(stop);
                 wxUIActionSimulator().Char(key, wxMOD_ALT);

@@ -19,25 +19,35 @@ std::size_t Index(int i)
     return static_cast<std::size_t>(i);
 }
 
+/// Whether a key types a character. With Ctrl or Alt it is a command.
+bool IsCharacter(const wxKeyEvent& key)
+{
+    const wxChar character = key.GetUnicodeKey();
+    return character >= WXK_SPACE && character != WXK_DELETE && !key.HasModifiers();
+}
+
 } // namespace
 
 ListView::ListView(wxWindow* parent, const wxString& name, std::string_view spokenName)
 {
-    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | NativeContainerStyle(), name);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxTAB_TRAVERSAL, name);
     Native = CreateNativeList(
-        *this, {.ColumnClicked =
-                    [this](int column)
-                {
-                    if (ColumnClicked)
-                        ColumnClicked(column);
-                },
-                .Activated =
-                    [this](int)
-                {
-                    if (Activated)
-                        Activated();
-                },
-                .KeyPressed = [this](const wxKeyEvent& key) { return KeyPressed && KeyPressed(key); }});
+        *this,
+        {.ColumnClicked =
+             [this](int column)
+         {
+             if (ColumnClicked)
+                 ColumnClicked(column);
+         },
+         .Activated =
+             [this](int)
+         {
+             if (Activated)
+                 Activated();
+         },
+         // Characters have no meaning in a list: the system must not search for them, nor activate a row.
+         .KeyPressed = [this](const wxKeyEvent& key)
+         { return (KeyPressed && KeyPressed(key)) || IsCharacter(key); }});
     SetSpokenName(*Native->Window(), spokenName);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(Native->Window(), wxSizerFlags(1).Expand());

@@ -1,7 +1,9 @@
 // The list on GTK: a wxDataViewCtrl over a virtual model.
 
 #include "ui/controls/ListView.h"
+#include "ui/controls/NativeFunction_gtk.h"
 #include "ui/controls/NativeList.h"
+#include "ui/controls/TreeCursor_gtk.h"
 
 #include <wx/dataview.h>
 
@@ -53,6 +55,10 @@ public:
                                      wxDV_SINGLE | wxDV_ROW_LINES | wxDV_HORIZ_RULES | wxDV_VERT_RULES))
     {
         Control->AssociateModel(Rows.get());
+        // GTK's own search box would open at a character that no key event announces.
+        if (const auto enableSearch =
+                NativeFunction<void (*)(GtkWidget*, int)>("gtk_tree_view_set_enable_search"))
+            enableSearch(Control->GtkGetTreeView(), 0);
         Control->Bind(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK,
                       [this](wxDataViewEvent& event)
                       {
@@ -92,7 +98,15 @@ public:
         return Control->GetColumn(static_cast<unsigned>(column))->GetWidth();
     }
 
-    void ShowNewRows(int count) override { Rows->Reset(static_cast<unsigned>(count)); }
+    void ShowNewRows(int count) override
+    {
+        Rows->Reset(static_cast<unsigned>(count));
+        if (count == 0)
+            return;
+        // Without a current row the focus would select the first one.
+        SetTreeCursor(Control->GtkGetTreeView(), 0);
+        Control->UnselectAll();
+    }
 
     // The model has no memory of cells: repainting shows what stands where now. A reset would scroll to the
     // top.
@@ -100,6 +114,8 @@ public:
 
     void ShowSortArrow(int column, bool descending) override
     {
+        if (wxDataViewColumn* former = Control->GetSortingColumn())
+            former->UnsetAsSortKey();
         Control->GetColumn(static_cast<unsigned>(column))->SetSortOrder(!descending);
     }
 
@@ -116,10 +132,8 @@ public:
             Control->UnselectAll();
             return;
         }
-        const wxDataViewItem item = Rows->GetItem(static_cast<unsigned>(row));
-        Control->SetCurrentItem(item);
-        Control->Select(item);
-        Control->EnsureVisible(item);
+        SetTreeCursor(Control->GtkGetTreeView(), row);
+        Control->EnsureVisible(Rows->GetItem(static_cast<unsigned>(row)));
     }
 
     void ClickColumn(int column) override
@@ -147,11 +161,6 @@ private:
 };
 
 } // namespace
-
-long NativeContainerStyle()
-{
-    return wxTAB_TRAVERSAL;
-}
 
 std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener)
 {

@@ -9,6 +9,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 namespace
 {
 
@@ -95,6 +97,15 @@ public:
     }
 
 protected:
+    bool MSWOnNotify(int control, WXLPARAM data, WXLPARAM* result) override
+    {
+        // The system asks for the row that begins with the characters typed; there is no such search here.
+        if (reinterpret_cast<const NMHDR*>(data)->code != LVN_ODFINDITEM)
+            return wxListCtrl::MSWOnNotify(control, data, result);
+        *result = NoRow;
+        return true;
+    }
+
     wxString OnGetItemText(long row, long column) const override
     {
         return IsShown(row) ? View.CellText(static_cast<int>(row), static_cast<int>(column)) : wxString();
@@ -119,6 +130,7 @@ protected:
 
 private:
     static constexpr int NoImage = -1;
+    static constexpr int NoRow = -1;
 
     /// While the rows are replaced by fewer, the control still asks for some that are gone.
     bool IsShown(long row) const { return row < View.RowCount(); }
@@ -130,15 +142,14 @@ private:
 
 } // namespace
 
-long NativeContainerStyle()
-{
-    return 0; // a container that handles keys by itself would keep the access keys of the window from working
-}
-
 std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener)
 {
-    // The way in for the Tab key, without that style.
+    auto list = std::make_unique<MswList>(view, std::move(listener));
+    // A container that handles the navigation keys by itself also ends the system's search for an access key,
+    // so the window around it has to handle them. The toolkit sets the style whenever a child is made.
+    view.SetWindowStyleFlag(view.GetWindowStyleFlag() & ~wxTAB_TRAVERSAL);
+    // The way in for the Tab key, which goes with that style.
     const LONG_PTR style = GetWindowLongPtrW(view.GetHWND(), GWL_EXSTYLE);
     SetWindowLongPtrW(view.GetHWND(), GWL_EXSTYLE, style | WS_EX_CONTROLPARENT);
-    return std::make_unique<MswList>(view, std::move(listener));
+    return list;
 }

@@ -47,8 +47,5 @@ public:
     virtual void ActivateRow(int row) = 0;
 };
 
-/// The style of the window around the list with which the Tab key and the access keys find their way.
-long NativeContainerStyle();
-
 /// Creates the list of this system.
 std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener);
