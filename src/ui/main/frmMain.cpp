@@ -211,28 +211,24 @@ void frmMain::BindEvents()
 {
     cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboRazina_Click(); });
     cboProgram->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboProgram_Click(); });
-    cboSmjer->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { RefreshGrids(); });
-    cboSemestar->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { RefreshGrids(); });
-    txtSearch->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { RefreshGrids(); });
-    txtSearch->Bind(wxEVT_KEY_DOWN, &frmMain::txtSearch_KeyDown, this);
-
-    lvwKolegiji->OnColumnClick([this](int column) { SortListViewByColumn(*lvwKolegiji, column); });
-    lvwKolegiji->OnActivate([this] { cmdEdit_Click(); });
+    cboSmjer->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboSmjer_Click(); });
+    cboSemestar->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboSemestar_Click(); });
+    txtSearch->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { txtSearch_Change(); });
+    txtSearch->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& key) { key.Skip(!txtSearch_KeyDown(key)); });
+    lvwKolegiji->OnColumnClick([this](int column) { lvwKolegiji_ColumnClick(column); });
+    lvwKolegiji->OnActivate([this] { lvwKolegiji_DblClick(); });
     lvwKolegiji->OnKey([this](const wxKeyEvent& key) { return lvwKolegiji_KeyDown(key); });
-    lvwStatistika->OnColumnClick([this](int column) { SortListViewByColumn(*lvwStatistika, column); });
-
-    const auto onPress = [this](wxButton* button, void (frmMain::*handler)())
-    { button->Bind(wxEVT_BUTTON, [this, handler](wxCommandEvent&) { (this->*handler)(); }); };
-    onPress(cmdAdd, &frmMain::cmdAdd_Click);
-    onPress(cmdEdit, &frmMain::cmdEdit_Click);
-    onPress(cmdDelete, &frmMain::cmdDelete_Click);
-    onPress(cmdStatNositelji, &frmMain::cmdStatNositelji_Click);
-    onPress(cmdStatZavodi, &frmMain::cmdStatZavodi_Click);
-    onPress(cmdExport, &frmMain::cmdExport_Click);
-    onPress(cmdExportVarlo, &frmMain::cmdExportVarlo_Click);
-    onPress(cmdECTSCalc, &frmMain::cmdECTSCalc_Click);
-    onPress(cmdAbout, &frmMain::cmdAbout_Click);
-    onPress(cmdExit, &frmMain::cmdExit_Click);
+    lvwStatistika->OnColumnClick([this](int column) { lvwStatistika_ColumnClick(column); });
+    cmdAdd->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdAdd_Click(); });
+    cmdEdit->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdEdit_Click(); });
+    cmdDelete->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdDelete_Click(); });
+    cmdStatNositelji->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdStatNositelji_Click(); });
+    cmdStatZavodi->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdStatZavodi_Click(); });
+    cmdExport->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExport_Click(); });
+    cmdExportVarlo->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportVarlo_Click(); });
+    cmdECTSCalc->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdECTSCalc_Click(); });
+    cmdAbout->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdAbout_Click(); });
+    cmdExit->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExit_Click(); });
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Form_Unload(); });
 }
 
@@ -343,15 +339,43 @@ void frmMain::cboProgram_Click()
     RefreshGrids();
 }
 
-void frmMain::txtSearch_KeyDown(wxKeyEvent& key)
+void frmMain::cboSmjer_Click()
+{
+    RefreshGrids();
+}
+
+void frmMain::cboSemestar_Click()
+{
+    RefreshGrids();
+}
+
+void frmMain::txtSearch_Change()
+{
+    RefreshGrids();
+}
+
+bool frmMain::txtSearch_KeyDown(const wxKeyEvent& key)
 {
     if (key.GetKeyCode() != WXK_ESCAPE)
-    {
-        key.Skip();
-        return;
-    }
+        return false;
     txtSearch->SetValue("");
     RefreshGrids();
+    return true;
+}
+
+void frmMain::lvwKolegiji_ColumnClick(int column)
+{
+    SortListViewByColumn(*lvwKolegiji, column);
+}
+
+void frmMain::lvwStatistika_ColumnClick(int column)
+{
+    SortListViewByColumn(*lvwStatistika, column);
+}
+
+void frmMain::lvwKolegiji_DblClick()
+{
+    cmdEdit_Click(); // which needs a selected row
 }
 
 bool frmMain::lvwKolegiji_KeyDown(const wxKeyEvent& key)

@@ -51,11 +51,17 @@ private:
     void RefreshStatistika();
     void RefreshGrids();
 
-    // Events
+    // Events; those of keys return whether the key is dealt with
     void cboRazina_Click();
     void cboProgram_Click();
-    void txtSearch_KeyDown(wxKeyEvent& key);
+    void cboSmjer_Click();
+    void cboSemestar_Click();
+    void txtSearch_Change();
+    bool txtSearch_KeyDown(const wxKeyEvent& key);
+    void lvwKolegiji_ColumnClick(int column);
+    void lvwKolegiji_DblClick();
     bool lvwKolegiji_KeyDown(const wxKeyEvent& key);
+    void lvwStatistika_ColumnClick(int column);
     void cmdAdd_Click();
     void cmdEdit_Click();
     void cmdDelete_Click();
