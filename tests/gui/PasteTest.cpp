@@ -36,10 +36,11 @@ std::string TextOf(wxWindow* box)
     return dynamic_cast<wxTextEntry&>(*box).GetValue().utf8_string();
 }
 
-/// Empties a box, does what pastes into it, and waits for the text.
+/// Goes into a box, empties it, does what pastes into it, and waits for the text.
 template<typename Action>
 std::string Pasted(wxWindow* box, const Action& paste)
 {
+    Focus(box);
     dynamic_cast<wxTextEntry&>(*box).ChangeValue("");
     paste();
     for (const wxStopWatch watch; TextOf(box).empty() && watch.Time() < 1000;)
@@ -59,7 +60,7 @@ TEST_F(Paste, EveryOneLineBoxTakesATextUpToItsFirstLineBreak)
                 box->Enable(); // some wait for an option
                 for (const std::string breaks : {"\r\n", "\n", "\r"})
                 {
-                    PutOnClipboard("Uvod u" + breaks + "žičano" + breaks);
+                    PutOnClipboard(std::string("Uvod u").append(breaks).append("žičano").append(breaks));
                     EXPECT_EQ(Pasted(box, [box] { PressKey(box, 'V', wxMOD_CONTROL); }), "Uvod u")
                         << box->GetName() << ", code " << static_cast<int>(breaks.front());
                 }
@@ -116,11 +117,12 @@ TEST_F(Paste, TheMiddleButtonPastesOneLineToo)
                  for (const char* name : {"txtNaziv", "cboObvezniIzborni"})
                  {
                      auto* box = Find<wxWindow>(&editor, name);
-                     PutOnClipboard("Uvod u\nlov", true);
                      const wxPoint inText(box->FromDIP(12), box->GetSize().y / 2);
                      EXPECT_EQ(Pasted(box,
                                       [&]
                                       {
+                                          // The box marked its own text when it got the focus.
+                                          PutOnClipboard("Uvod u\nlov", true);
                                           wxUIActionSimulator simulator;
                                           simulator.MouseMove(box->ClientToScreen(inText));
                                           Settle();

@@ -167,7 +167,7 @@ inline std::vector<wxWindow*> ControlsOf(wxTopLevelWindow& window)
 {
     std::vector<wxWindow*> controls;
     for (wxWindow* child : ControlParent(window)->GetChildren())
-        if (dynamic_cast<wxStaticBox*>(child) == nullptr && !child->IsTopLevel())
+        if (!child->IsTopLevel() && dynamic_cast<wxStaticBox*>(child) == nullptr)
             controls.push_back(child);
     return controls;
 }
@@ -176,6 +176,7 @@ inline std::vector<wxWindow*> ControlsOf(wxTopLevelWindow& window)
 inline std::vector<std::string> NamesOf(const std::vector<wxWindow*>& controls)
 {
     std::vector<std::string> names;
+    names.reserve(controls.size());
     for (const wxWindow* control : controls)
         names.push_back(control->GetName().utf8_string());
     return names;

@@ -31,7 +31,7 @@ void WriteOverSelection(wxWindow& box, const wxString& text)
 
 void PasteFirstLineOnly(wxTextEntry& box)
 {
-    // The system's own box ends at CR LF, but takes other line breaks in.
+    // The system's own box ends at CR LF, but not at every other line break.
     auto& window = dynamic_cast<wxWindow&>(box);
     window.Bind(wxEVT_TEXT_PASTE,
                 [&window](wxClipboardTextEvent& event)
