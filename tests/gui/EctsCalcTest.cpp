@@ -526,6 +526,29 @@ TEST_F(EctsCalc, WarnsOfOneThingAtATimeInTheirOrder)
     expectWarning(NoWarning);
 }
 
+TEST_F(EctsCalc, DoesNotComputeInsideAComputation)
+{
+    auto* warning = Find<wxStaticText>(Window, "lblUpozorenje");
+    auto* button = Find<wxButton>(Window, "cmdIzracunaj");
+    int computations = 0;
+    // The size of the warning changes when the computation shows it.
+    warning->Bind(wxEVT_SIZE,
+                  [&](wxSizeEvent& size)
+                  {
+                      size.Skip();
+                      ++computations;
+                      Field("txtOstaleMetode(0)")->ChangeValue("7");
+                      wxCommandEvent press(wxEVT_BUTTON, button->GetId());
+                      button->GetEventHandler()->SafelyProcessEvent(press);
+                  });
+    Field("txtLitStranice(0)")->ChangeValue("100");
+    wxCommandEvent press(wxEVT_BUTTON, button->GetId());
+    button->GetEventHandler()->SafelyProcessEvent(press);
+    EXPECT_EQ(computations, 1);
+    EXPECT_EQ(Warning(), NoWrittenExtent);
+    EXPECT_EQ(Shown("txtOstaleMetodeUkupno"), Figure("0,0"));
+}
+
 // Clearing
 
 TEST_F(EctsCalc, ClearEmptiesEverythingButTheHoursOfAPoint)
