@@ -6,7 +6,7 @@
 ;   /S            installs without a window and puts nothing into the data folder
 ;   /DATA=demo    chooses the demo catalogue, silently or as the page's proposal
 ;   /DATA=empty   chooses seven tables with header lines only
-;   /D=FOLDER     (last, unquoted) installs elsewhere
+;   /D=FOLDER     (last, unquoted) installs elsewhere; an installed program moves there
 ; The exit code is 0, 2 when the program could not be installed, 3 when the catalogue could not be put there.
 ;
 ; The data folder belongs to the user: tables go only where not one of the seven is and no interrupted save
@@ -28,9 +28,9 @@ ManifestSupportedOS all
 
 Name "${PRODUCT}"
 OutFile "${OUTPUT}"
-InstallDir "$LOCALAPPDATA\Programs\${PRODUCT}"
 BrandingText "${PRODUCT} ${VERSION}"
 
+Var FormerFolder   ; where the program is installed already, or nothing
 Var DataFolder
 Var CatalogueFound ; 1 when at least one of the seven tables is in the data folder, or a complete set of them
 Var Data           ; what to put there: demo, empty, or nothing
@@ -130,6 +130,18 @@ Function FindCatalogue
 FunctionEnd
 
 Function .onInit
+    ; An upgrade goes where the program is.
+    ReadRegStr $FormerFolder HKCU "${UNINSTALL_KEY}" "InstallLocation"
+    ${IfNot} ${FileExists} "$FormerFolder\varlostudiji.exe"
+        StrCpy $FormerFolder ""
+    ${EndIf}
+    ${If} $INSTDIR == ""
+        StrCpy $INSTDIR "$LOCALAPPDATA\Programs\${PRODUCT}"
+        ${If} $FormerFolder != ""
+            StrCpy $INSTDIR $FormerFolder
+        ${EndIf}
+    ${EndIf}
+
     ; The program goes by the variable, so its installer does too.
     ReadEnvStr $DataFolder LOCALAPPDATA
     ${If} $DataFolder == ""
@@ -206,6 +218,28 @@ FunctionEnd
 
 ; --- Installing ---
 
+; What the installer writes into a folder beside the program itself.
+!macro RemoveFiles folder
+    Delete "${folder}\LICENSE.txt"
+    Delete "${folder}\uninstall.exe"
+    RMDir "${folder}" ; with anything else in it, it stays
+!macroend
+
+; Removes the program from the folder that it has moved from.
+Function RemoveFormerProgram
+    ; The two folders may be one by two names. Then the new program has gone too, and comes back.
+    Rename "$FormerFolder\varlostudiji.exe" "$FormerFolder\varlostudiji.old"
+    ${If} ${FileExists} "$INSTDIR\varlostudiji.exe"
+        ClearErrors
+        Delete "$FormerFolder\varlostudiji.old"
+        ${IfNot} ${Errors}
+            !insertmacro RemoveFiles "$FormerFolder"
+            Return
+        ${EndIf}
+    ${EndIf}
+    Rename "$FormerFolder\varlostudiji.old" "$FormerFolder\varlostudiji.exe"
+FunctionEnd
+
 Section
     SetOutPath "$INSTDIR"
     SetOverwrite on
@@ -216,6 +250,10 @@ Section
     ${If} ${Errors}
         MessageBox MB_OK|MB_ICONSTOP "$(ProgramFailed)" /SD IDOK
         Abort "$(ProgramFailed)"
+    ${EndIf}
+    ${If} $FormerFolder != ""
+    ${AndIf} $FormerFolder != $INSTDIR
+        Call RemoveFormerProgram
     ${EndIf}
     CreateShortcut "$SMPROGRAMS\${PRODUCT}.lnk" "$INSTDIR\varlostudiji.exe"
 
@@ -267,9 +305,8 @@ Section "Uninstall"
         MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(ProgramOpen)" /SD IDCANCEL IDRETRY retry
         Abort "$(ProgramOpen)"
     ${EndIf}
-    Delete "$INSTDIR\LICENSE.txt"
-    Delete "$INSTDIR\uninstall.exe"
-    RMDir "$INSTDIR" ; with anything else in it, it stays
+    !insertmacro RemoveFiles "$INSTDIR"
+    RMDir "$LOCALAPPDATA\Programs" ; empty, it was made by the installer
     Delete "$SMPROGRAMS\${PRODUCT}.lnk"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
 SectionEnd
