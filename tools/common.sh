@@ -2,13 +2,35 @@
 # What the commands of this folder share. To be sourced by a script that has gone to the repository's root.
 
 version=$(<VERSION) # "1.0." and the day of the release
+release_day=${version: -8:4}-${version: -4:2}-${version: -2}
 
 build_packages=(g++ cmake ninja-build libwxgtk3.2-dev)
 test_packages=(libgtest-dev locales python3)
 display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
+lint_packages=(clang-format clang-tidy shellcheck)
+long_packages=(clang gcovr valgrind)
+deb_packages=(dpkg-dev librsvg2-bin)
+deb_test_packages=(appstream desktop-file-utils devscripts lintian x11-utils)
+windows_packages=(
+    g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 cmake ninja-build # the build
+    dpkg-dev xz-utils googletest                                           # the toolkit's sources
+    wine wine64 fonts-wine xvfb xauth                                      # the tests
+)
+setup_packages=(xauth zip nsis librsvg2-bin imagemagick)
 
 say() { echo "== $*" >&2; }
 fail() { echo "$*" >&2; exit 1; }
+
+# as_root COMMAND...: runs a command as root, through sudo where need be; fails where neither is to be had.
+as_root() {
+    if [[ $EUID -eq 0 ]]; then "$@"; else sudo "$@"; fi
+}
+
+# Fetches the system's package lists anew. A source that fails is no reason to stop: what is needed may be in the
+# others, or in the lists that are there.
+update_lists() {
+    as_root apt-get update -q >&2 || say "apt-get update failed; going on with the lists that there are"
+}
 
 # Installs those of the system's packages that are missing, as root or through sudo.
 need_packages() {
@@ -19,14 +41,12 @@ need_packages() {
     done
     [[ ${#missing[@]} -gt 0 ]] || return 0
 
-    local root=()
-    if [[ $EUID -ne 0 ]]; then
-        command -v sudo >/dev/null || fail "These packages are missing and only root can install them: ${missing[*]}"
-        root=(sudo)
-    fi
+    [[ $EUID -eq 0 ]] || command -v sudo >/dev/null ||
+        fail "These packages are missing and only root can install them: ${missing[*]}"
     say "installing ${missing[*]}"
-    "${root[@]}" apt-get update -q >&2
-    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" >&2
+    update_lists
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" >&2 ||
+        fail "These packages could not be installed: ${missing[*]}"
 }
 
 # build PRESET [TARGET...]: configures and builds.
@@ -34,14 +54,38 @@ build() {
     local preset=$1
     shift
     say "building ($preset)"
-    cmake --preset "$preset" >&2
+    # With VARLO_WERROR=ON a warning is an error.
+    cmake --preset "$preset" -DCMAKE_COMPILE_WARNING_AS_ERROR="${VARLO_WERROR:-OFF}" >&2
     cmake --build --preset "$preset" ${1:+--target "$@"} >&2
+}
+
+# build_windows [TARGET...]: the same for Windows, with the toolkit that it needs.
+build_windows() {
+    VARLO_WINDOWS_TOOLKIT=$(tools/windows-toolkit) || return 1
+    export VARLO_WINDOWS_TOOLKIT
+    build windows "$@"
+}
+
+# Sets up what makes a package come out the same wherever and whenever it is made: the rights of new files, and the time
+# that all files get.
+prepare_packing() {
+    umask 022
+    SOURCE_DATE_EPOCH=$(date --utc --date="$release_day" +%s)
+    export SOURCE_DATE_EPOCH
+}
+
+# settle FOLDER: gives all that is in it the time of the release, and rights that are not those of a checkout.
+settle() {
+    chmod -R u=rwX,go=rX "$1"
+    find "$1" -exec touch --no-dereference --date="@$SOURCE_DATE_EPOCH" {} +
 }
 
 # Runs a command on a display of its own.
 on_virtual_display() {
     # The accessibility bus would only be missed in warnings, and a Wayland desktop must not take the windows.
-    env -u WAYLAND_DISPLAY NO_AT_BRIDGE=1 xvfb-run -a -s "-screen 0 1280x800x24 -nolisten tcp" "$@"
+    # Two that start at once could take the same free number, hence a number by chance to begin with.
+    env -u WAYLAND_DISPLAY NO_AT_BRIDGE=1 xvfb-run -a -n $((100 + RANDOM % 900)) \
+        -s "-screen 0 1280x800x24 -nolisten tcp" "$@"
 }
 
 # use_wine FOLDER: lets Wine work in a folder of its own, set up anew, and without its own remarks.
