@@ -173,6 +173,11 @@ void Save(const CatalogueOnDisk& files, const FillFolder& fill)
     Finish(files);
 }
 
+std::optional<std::string> CompleteSet(const CatalogueOnDisk& files)
+{
+    return IsSetComplete(files) ? std::optional(SetOf(files)) : std::nullopt;
+}
+
 void FinishAtStart(const CatalogueOnDisk& files)
 {
     if (IsSetComplete(files))

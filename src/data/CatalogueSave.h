@@ -2,6 +2,9 @@
 
 #include "data/CatalogueOnDisk.h"
 
+#include <optional>
+#include <string>
+
 /// Saves the catalogue whole or not at all:
 ///   1. write the new files into a set beside the catalogue, "spremanje", and flush them;
 ///   2. mark the set complete: this is the moment of saving;
@@ -16,6 +19,9 @@ namespace CatalogueSave
 /// @throws FileError, and what `fill` throws, before step 2: the catalogue is untouched
 /// @throws SaveNotFinished after it: the set is kept, and the next start or save goes on
 void Save(const CatalogueOnDisk& files, const FillFolder& fill);
+
+/// The folder of a complete set of an earlier save; nothing when there is none. @throws FileError
+std::optional<std::string> CompleteSet(const CatalogueOnDisk& files);
 
 /// Finishes a complete set of an earlier save. @throws SaveNotFinished
 void FinishAtStart(const CatalogueOnDisk& files);

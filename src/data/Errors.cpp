@@ -9,27 +9,6 @@ namespace
 
 constexpr std::string_view LongRange = "od -2147483648 do 2147483647";
 
-/// A value that a message box can show: at most 60 characters, control characters as "\x00".
-std::string Shown(std::string_view value)
-{
-    constexpr int maxCharacters = 60;
-    const auto digit = [](char32_t number)
-    { return static_cast<char>(number < 10 ? '0' + number : 'a' + number - 10); };
-    std::string shown;
-    for (int count = 0; !value.empty(); ++count)
-    {
-        if (count == maxCharacters)
-            return shown + "…";
-        const char32_t character = TakeCodePoint(value);
-        const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
-        if (isControl)
-            shown.append({'\\', 'x', digit(character / 16), digit(character % 16)});
-        else
-            AppendCodePoint(shown, character);
-    }
-    return shown;
-}
-
 std::string Quoted(std::string_view text)
 {
     return std::string("\"").append(text).append("\"");
@@ -94,14 +73,23 @@ const FileFault& FaultOf(std::error_code cause)
 
 RuntimeError::RuntimeError(int number, std::string description)
     : ErrorNumber(number),
-      ErrorDescription(std::move(description))
+      ErrorDescription(std::move(description)),
+      FaultSize(ErrorDescription.size())
+{
+}
+
+RuntimeError::RuntimeError(int number, std::string_view fault, const FieldPlace& place)
+    : ErrorNumber(number),
+      ErrorDescription(std::string(fault) + InPlace(place)),
+      FaultSize(fault.size()),
+      FaultyField(place)
 {
 }
 
 TypeMismatch::TypeMismatch(std::string_view value) : RuntimeError(13, NotANumber(value) + ".") {}
 
 TypeMismatch::TypeMismatch(std::string_view value, const FieldPlace& place)
-    : RuntimeError(13, NotANumber(value) + InPlace(place))
+    : RuntimeError(13, NotANumber(value), place)
 {
 }
 
@@ -109,13 +97,12 @@ Overflow::Overflow() : RuntimeError(6, "Zbroj je izvan dopuštenog raspona " + s
 
 Overflow::Overflow(std::string_view value) : RuntimeError(6, TooLarge(value) + ".") {}
 
-Overflow::Overflow(std::string_view value, const FieldPlace& place)
-    : RuntimeError(6, TooLarge(value) + InPlace(place))
+Overflow::Overflow(std::string_view value, const FieldPlace& place) : RuntimeError(6, TooLarge(value), place)
 {
 }
 
 SubscriptOutOfRange::SubscriptOutOfRange(const FieldPlace& place)
-    : RuntimeError(9, "Redak ima premalo polja" + InPlace(place))
+    : RuntimeError(9, "Redak ima premalo polja", place)
 {
 }
 

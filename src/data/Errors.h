@@ -10,8 +10,10 @@
 struct FieldPlace
 {
     std::string_view FileName;
-    std::size_t Line; ///< From 1, the header's; 0 for a row that no file holds yet.
+    std::size_t Line = 0; ///< From 1, the header's; 0 for a row that no file holds yet.
     std::string_view Column;
+
+    bool operator==(const FieldPlace&) const = default;
 };
 
 /// An error with the number and the description (Croatian, UTF-8) that the user is shown.
@@ -20,13 +22,23 @@ class RuntimeError : public std::exception
 public:
     RuntimeError(int number, std::string description);
 
+    /// An error of a field: the description is the fault and the place.
+    RuntimeError(int number, std::string_view fault, const FieldPlace& place);
+
     int Number() const { return ErrorNumber; }
     const std::string& Description() const { return ErrorDescription; }
     const char* what() const noexcept override { return ErrorDescription.c_str(); }
 
+    /// The description without the place.
+    std::string_view Fault() const { return std::string_view(ErrorDescription).substr(0, FaultSize); }
+    /// The field that is at fault; no file name where the error is none of a field.
+    const FieldPlace& Place() const { return FaultyField; }
+
 private:
     int ErrorNumber;
     std::string ErrorDescription;
+    std::size_t FaultSize;
+    FieldPlace FaultyField;
 };
 
 /// A text that is not a number stands where a number is needed.

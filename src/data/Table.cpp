@@ -53,7 +53,7 @@ std::string TableLayout::Header() const
 
 void Row::ThrowTooShort(std::size_t column) const
 {
-    throw SubscriptOutOfRange({Layout->FileName, LineNumber, Layout->Columns[column]});
+    throw SubscriptOutOfRange(Place(column));
 }
 
 std::int32_t Row::Number(std::size_t column, Conversion conversion) const
@@ -64,9 +64,9 @@ std::int32_t Row::Number(std::size_t column, Conversion conversion) const
     std::int32_t value = 0;
     const NumberReading reading = ReadLong(text, value);
     if (reading == NumberReading::NotNumeric)
-        throw TypeMismatch(text, {Layout->FileName, LineNumber, Layout->Columns[column]});
+        throw TypeMismatch(text, Place(column));
     if (reading == NumberReading::TooLarge)
-        throw Overflow(text, {Layout->FileName, LineNumber, Layout->Columns[column]});
+        throw Overflow(text, Place(column));
     return value;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/ColumnIndex.h"
+#include "data/Errors.h"
 #include "data/Numbers.h"
 
 #include <array>
@@ -44,6 +45,12 @@ public:
     /// A field as a whole number. @throws SubscriptOutOfRange when the row is too short, and where the
     /// conversion is strict TypeMismatch and Overflow, each naming the place
     std::int32_t Number(std::size_t column, Conversion conversion = Conversion::Strict) const;
+
+    /// Where a field of one of the layout's columns is.
+    FieldPlace Place(std::size_t column) const
+    {
+        return {Layout->FileName, LineNumber, Layout->Columns[column]};
+    }
 
 private:
     friend class Table;

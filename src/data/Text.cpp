@@ -167,3 +167,22 @@ std::string Joined(const std::vector<std::string>& texts, std::string_view separ
         joined.append(i == 0 ? std::string_view() : separator).append(texts[i]);
     return joined;
 }
+
+std::string Shown(std::string_view text, std::size_t maxCharacters)
+{
+    const auto digit = [](char32_t number)
+    { return static_cast<char>(number < 10 ? '0' + number : 'a' + number - 10); };
+    std::string shown;
+    for (std::size_t count = 0; !text.empty(); ++count)
+    {
+        if (count == maxCharacters)
+            return shown + "…";
+        const char32_t character = TakeCodePoint(text);
+        const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
+        if (isControl)
+            shown.append({'\\', 'x', digit(character / 16), digit(character % 16)});
+        else
+            AppendCodePoint(shown, character);
+    }
+    return shown;
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,3 +29,6 @@ void AppendJoined(std::string& list, std::string_view separator, std::string_vie
 
 /// The texts with the separator between them, after empty ones too.
 std::string Joined(const std::vector<std::string>& texts, std::string_view separator);
+
+/// A text as a message shows it: not longer than so many characters, control characters as "\x00".
+std::string Shown(std::string_view text, std::size_t maxCharacters = 60);

@@ -35,8 +35,6 @@ constexpr TableLayout KolegijLayout = {"db_kolegij.csv", KolegijColumns};
 constexpr TableLayout KolegijSmjerLayout = {"db_kolegij_smjer.csv", KolegijSmjerColumns};
 constexpr TableLayout KolegijNastavnikLayout = {"db_kolegij_nastavnik.csv", KolegijNastavnikColumns};
 
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
-
 /// The folder that the save operations write into; empty: each replaces its own file.
 std::string SetFolder;
 
@@ -159,9 +157,9 @@ bool ReadsAs(const Table* table)
 /// The text of a file that is to be brought to windows-1250; nothing for any other file.
 std::optional<std::string> MarkedText(std::string_view path)
 {
-    if (ReadFile(path, Utf8Mark.size()) != Utf8Mark)
+    if (ReadFile(path, modData::Utf8Mark.size()) != modData::Utf8Mark)
         return std::nullopt;
-    return ReadFile(path).substr(Utf8Mark.size());
+    return ReadFile(path).substr(modData::Utf8Mark.size());
 }
 
 /// Whether letters become "?" when a file is brought to windows-1250.
@@ -199,7 +197,7 @@ std::array<Table*, 7> AllTables()
     return {&Zavodi, &Nastavnici, &Studiji, &Smjerovi, &Kolegiji, &KolegijSmjerovi, &KolegijNastavnici};
 }
 
-std::string GetDataFolder()
+std::string DataFolderPath()
 {
     const std::string separator(System::PathSeparator);
     std::string base = System::EnvironmentVariable("LOCALAPPDATA");
@@ -208,8 +206,12 @@ std::string GetDataFolder()
                "Application Data";
     if (base.empty())
         return System::ProgramFolder();
+    return base + separator + "Varlostudiji";
+}
 
-    std::string folder = base + separator + "Varlostudiji";
+std::string GetDataFolder()
+{
+    std::string folder = DataFolderPath();
     try
     {
         MakeFolders(folder);
@@ -228,13 +230,25 @@ void NormalizeFileEncoding(std::string_view path)
         ConvertFile(path, ToWindows1250(*text));
 }
 
+std::string NormalizedContent(std::string content)
+{
+    if (!content.starts_with(Utf8Mark))
+        return content;
+    return ToWindows1250(std::string_view(content).substr(Utf8Mark.size()));
+}
+
 Table LoadTable(std::string_view path, const TableLayout& layout)
 {
-    const std::string content = FromWindows1250(ReadFile(path));
+    const std::string content = ReadFile(path);
     if (content.empty())
         throw InputPastEnd(path);
+    return ParseTable(content, layout);
+}
 
+Table ParseTable(std::string_view bytes, const TableLayout& layout)
+{
     Table table(layout);
+    const std::string content = FromWindows1250(bytes);
     std::string_view rest = content;
     TakeLine(rest); // the header, whatever it says
     for (std::uint32_t lineNumber = 2; !rest.empty(); ++lineNumber)

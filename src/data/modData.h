@@ -104,8 +104,14 @@ extern Table Kolegiji;
 extern Table KolegijSmjerovi;
 extern Table KolegijNastavnici;
 
-/// The seven tables, in the order in which their files are loaded and saved.
+/// The seven tables in the order in which they are loaded and saved.
 std::array<Table*, 7> AllTables();
+
+/// The mark that a UTF-8 file may begin with.
+inline constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
+/// The path of the data folder, which need not exist.
+std::string DataFolderPath();
 
 /// The folder of the seven files, without a separator behind it: "Varlostudiji" in %LOCALAPPDATA%, or in the
 /// user profile where that is not set. It is created when missing; a failure to do so is ignored.
@@ -116,9 +122,15 @@ std::string GetDataFolder();
 /// at its end; it replaces one of an earlier run. @throws FileError
 void NormalizeFileEncoding(std::string_view path);
 
+/// What NormalizeFileEncoding makes of a file's content.
+std::string NormalizedContent(std::string content);
+
 /// Reads the rows of a windows-1250 file: ";" between fields, CR LF or CR behind lines, the first line and
 /// blank lines passed over, no field changed. @throws FileError, InputPastEnd when there is no first line
 Table LoadTable(std::string_view path, const TableLayout& layout);
+
+/// The table that a file with these bytes holds.
+Table ParseTable(std::string_view bytes, const TableLayout& layout);
 
 /// Writes a header and the rows. A separator comes only after what is already on the line, so that leading
 /// empty fields leave none. @throws FileError, and the old content stays

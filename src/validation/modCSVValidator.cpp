@@ -23,10 +23,16 @@ bool IsDuplicate(const Table& table, const Row& row, std::int32_t id)
     return table.FindPosition(0, id) < table.PositionOf(row);
 }
 
-/// "Table: column ne postoji › value", the value as it stands in the file.
-std::string Missing(std::string_view what, std::string_view value)
+/// Whether a row's reference leads to a row of a table.
+using Exists = bool (*)(std::int32_t id);
+
+/// "Table: column ne postoji › value" where a reference leads to no row; the value as it stands in the file.
+void CheckReference(const Row& row, std::size_t column, Exists exists, std::string_view what,
+                    Messages& messages)
 {
-    return std::string(what) + " ne postoji › " + std::string(value);
+    if (!exists(row.Number(column)))
+        messages.push_back(
+            {std::string(what) + " ne postoji › " + std::string(row.Field(column)), row.Place(column)});
 }
 
 std::string Invalid(std::string_view what, std::string_view value, std::string_view where)
@@ -34,7 +40,83 @@ std::string Invalid(std::string_view what, std::string_view value, std::string_v
     return std::string(what) + " (" + std::string(value) + ") " + std::string(where);
 }
 
+void CheckNastavnik(const Row& row, Messages& messages)
+{
+    const std::int32_t id = row.Number(Nastavnik::ID);
+    if (IsDuplicate(modData::Nastavnici, row, id))
+        messages.push_back(
+            {"Nastavnici: dupli ID_nastavnik = " + std::to_string(id), row.Place(Nastavnik::ID)});
+    if (TrimBlanks(row.Field(Nastavnik::PrezimeIme)).empty())
+        messages.push_back(
+            {"Nastavnici: prazno ime za ID " + std::to_string(id), row.Place(Nastavnik::PrezimeIme)});
+    CheckReference(row, Nastavnik::ZavodID, ZavodExists, "Nastavnici: ID_zavod", messages);
+}
+
+void CheckKolegij(const Row& row, Messages& messages)
+{
+    const std::int32_t id = row.Number(Kolegij::ID);
+    if (IsDuplicate(modData::Kolegiji, row, id))
+        messages.push_back({"Kolegiji: dupli ID_kolegij = " + std::to_string(id), row.Place(Kolegij::ID)});
+
+    // The conversion comes first on purpose: a semester that is no number ends the check as an error,
+    // not as a message.
+    const std::int32_t semestar = row.Number(Kolegij::Semestar);
+    const std::string_view text = row.Field(Kolegij::Semestar);
+    if (!IsNumeric(text) || semestar > LastSemestar || semestar < FirstSemestar)
+        messages.push_back({Invalid("Kolegiji: neispravan semestar", text, "za ID " + std::to_string(id)),
+                            row.Place(Kolegij::Semestar)});
+
+    CheckReference(row, Kolegij::StudijID, StudijExists, "Kolegiji: ID_studij", messages);
+}
+
+void CheckKolegijNastavnik(const Row& row, Messages& messages)
+{
+    using namespace KolegijNastavnik;
+    CheckReference(row, KolegijID, KolegijExists, "KolegijNastavnik: ID_kolegij", messages);
+    CheckReference(row, NastavnikID, NastavnikExists, "KolegijNastavnik: ID_nastavnik", messages);
+
+    const std::int32_t redoslijed = row.Number(Redoslijed);
+    if (redoslijed > LastRedoslijed || redoslijed < FirstRedoslijed)
+        messages.push_back({Invalid("KolegijNastavnik: neispravan redoslijed", row.Field(Redoslijed),
+                                    "za kolegij " + std::string(row.Field(KolegijID))),
+                            row.Place(Redoslijed)});
+}
+
+void CheckKolegijSmjer(const Row& row, Messages& messages)
+{
+    CheckReference(row, KolegijSmjer::KolegijID, KolegijExists, "KolegijSmjer: ID_kolegij", messages);
+    CheckReference(row, KolegijSmjer::SmjerID, SmjerExists, "KolegijSmjer: ID_smjer", messages);
+}
+
+void CheckSmjer(const Row& row, Messages& messages)
+{
+    CheckReference(row, Smjer::StudijID, StudijExists, "Smjerovi: ID_studij", messages);
+}
+
+void CheckStudij(const Row& row, Messages& messages)
+{
+    const std::string_view razina = row.Field(Studij::Razina);
+    if (razina != modData::Preddiplomski && razina != modData::Diplomski)
+        messages.push_back(
+            {"Studiji: neispravna razina › " + std::string(razina), row.Place(Studij::Razina)});
+}
+
+void CheckEach(const Table& table, void (*checkRow)(const Row&, Messages&), Messages& messages)
+{
+    for (const Row& row : table)
+        checkRow(row, messages);
+}
+
 } // namespace
+
+const std::array<RowCheck, 6> RowChecks = {{
+    {modData::Nastavnici, CheckNastavnik},
+    {modData::Kolegiji, CheckKolegij},
+    {modData::KolegijNastavnici, CheckKolegijNastavnik},
+    {modData::KolegijSmjerovi, CheckKolegijSmjer},
+    {modData::Smjerovi, CheckSmjer},
+    {modData::Studiji, CheckStudij},
+}};
 
 bool ZavodExists(std::int32_t id)
 {
@@ -63,83 +145,32 @@ bool KolegijExists(std::int32_t id)
 
 void CheckNastavnici(Messages& messages)
 {
-    for (const Row& row : modData::Nastavnici)
-    {
-        const std::int32_t id = row.Number(Nastavnik::ID);
-        if (IsDuplicate(modData::Nastavnici, row, id))
-            messages.push_back("Nastavnici: dupli ID_nastavnik = " + std::to_string(id));
-        if (TrimBlanks(row.Field(Nastavnik::PrezimeIme)).empty())
-            messages.push_back("Nastavnici: prazno ime za ID " + std::to_string(id));
-        if (!ZavodExists(row.Number(Nastavnik::ZavodID)))
-            messages.push_back(Missing("Nastavnici: ID_zavod", row.Field(Nastavnik::ZavodID)));
-    }
+    CheckEach(modData::Nastavnici, CheckNastavnik, messages);
 }
 
 void CheckKolegiji(Messages& messages)
 {
-    for (const Row& row : modData::Kolegiji)
-    {
-        const std::int32_t id = row.Number(Kolegij::ID);
-        if (IsDuplicate(modData::Kolegiji, row, id))
-            messages.push_back("Kolegiji: dupli ID_kolegij = " + std::to_string(id));
-
-        // The conversion comes first on purpose: a semester that is no number ends the check as an error,
-        // not as a message.
-        const std::int32_t semestar = row.Number(Kolegij::Semestar);
-        if (!IsNumeric(row.Field(Kolegij::Semestar)) || semestar > LastSemestar || semestar < FirstSemestar)
-            messages.push_back(Invalid("Kolegiji: neispravan semestar", row.Field(Kolegij::Semestar),
-                                       "za ID " + std::to_string(id)));
-
-        if (!StudijExists(row.Number(Kolegij::StudijID)))
-            messages.push_back(Missing("Kolegiji: ID_studij", row.Field(Kolegij::StudijID)));
-    }
+    CheckEach(modData::Kolegiji, CheckKolegij, messages);
 }
 
 void CheckKolegijNastavnici(Messages& messages)
 {
-    for (const Row& row : modData::KolegijNastavnici)
-    {
-        if (!KolegijExists(row.Number(KolegijNastavnik::KolegijID)))
-            messages.push_back(
-                Missing("KolegijNastavnik: ID_kolegij", row.Field(KolegijNastavnik::KolegijID)));
-        if (!NastavnikExists(row.Number(KolegijNastavnik::NastavnikID)))
-            messages.push_back(
-                Missing("KolegijNastavnik: ID_nastavnik", row.Field(KolegijNastavnik::NastavnikID)));
-
-        const std::int32_t redoslijed = row.Number(KolegijNastavnik::Redoslijed);
-        if (redoslijed > LastRedoslijed || redoslijed < FirstRedoslijed)
-            messages.push_back(Invalid("KolegijNastavnik: neispravan redoslijed",
-                                       row.Field(KolegijNastavnik::Redoslijed),
-                                       "za kolegij " + std::string(row.Field(KolegijNastavnik::KolegijID))));
-    }
+    CheckEach(modData::KolegijNastavnici, CheckKolegijNastavnik, messages);
 }
 
 void CheckKolegijSmjerovi(Messages& messages)
 {
-    for (const Row& row : modData::KolegijSmjerovi)
-    {
-        if (!KolegijExists(row.Number(KolegijSmjer::KolegijID)))
-            messages.push_back(Missing("KolegijSmjer: ID_kolegij", row.Field(KolegijSmjer::KolegijID)));
-        if (!SmjerExists(row.Number(KolegijSmjer::SmjerID)))
-            messages.push_back(Missing("KolegijSmjer: ID_smjer", row.Field(KolegijSmjer::SmjerID)));
-    }
+    CheckEach(modData::KolegijSmjerovi, CheckKolegijSmjer, messages);
 }
 
 void CheckSmjerovi(Messages& messages)
 {
-    for (const Row& row : modData::Smjerovi)
-        if (!StudijExists(row.Number(Smjer::StudijID)))
-            messages.push_back(Missing("Smjerovi: ID_studij", row.Field(Smjer::StudijID)));
+    CheckEach(modData::Smjerovi, CheckSmjer, messages);
 }
 
 void CheckStudiji(Messages& messages)
 {
-    for (const Row& row : modData::Studiji)
-    {
-        const std::string_view razina = row.Field(Studij::Razina);
-        if (razina != modData::Preddiplomski && razina != modData::Diplomski)
-            messages.push_back("Studiji: neispravna razina › " + std::string(razina));
-    }
+    CheckEach(modData::Studiji, CheckStudij, messages);
 }
 
 Messages AllMessages()

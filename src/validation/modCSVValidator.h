@@ -1,5 +1,8 @@
 #pragma once
 
+#include "data/Table.h"
+
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -10,7 +13,14 @@
 namespace modCSVValidator
 {
 
-using Messages = std::vector<std::string>;
+/// A test that a row fails, and the field that it is about.
+struct Message
+{
+    std::string Text;
+    FieldPlace Place;
+};
+
+using Messages = std::vector<Message>;
 
 bool ZavodExists(std::int32_t id);
 bool NastavnikExists(std::int32_t id);
@@ -26,6 +36,14 @@ void CheckKolegijNastavnici(Messages& messages);
 void CheckKolegijSmjerovi(Messages& messages);
 void CheckSmjerovi(Messages& messages);
 void CheckStudiji(Messages& messages);
+
+/// The same tests for a single row of a table.
+struct RowCheck
+{
+    const Table& Rows;
+    void (*Check)(const Row& row, Messages& messages);
+};
+extern const std::array<RowCheck, 6> RowChecks;
 
 /// The messages of all checks over the loaded tables, in a fixed order.
 Messages AllMessages();

@@ -79,6 +79,15 @@ TEST(Errors, ALongValueIsCutAndItsControlCharactersAreVisible)
                     .starts_with("Broj \"" + std::string(60, '9') + "…\" je izvan"));
 }
 
+TEST(Errors, TheFaultAndThePlaceCanBeHadApart)
+{
+    const FieldPlace place = {"db_smjer.csv", 12, "StudijID"};
+    EXPECT_EQ(TypeMismatch("x", place).Fault(), "Vrijednost \"x\" nije broj");
+    EXPECT_EQ(TypeMismatch("x", place).Place(), place);
+    EXPECT_EQ(InputPastEnd("x").Fault(), InputPastEnd("x").Description());
+    EXPECT_EQ(InputPastEnd("x").Place(), FieldPlace());
+}
+
 TEST(Errors, ARowThatNoFileHoldsHasNoLine)
 {
     EXPECT_EQ(SubscriptOutOfRange({"db_smjer.csv", 0, "ID"}).Description(),

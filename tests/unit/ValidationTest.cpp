@@ -9,15 +9,19 @@ using namespace modCSVValidator;
 namespace
 {
 
-Messages MessagesOf(const Catalogue& catalogue)
+using Texts = std::vector<std::string>;
+
+Texts MessagesOf(const Catalogue& catalogue)
 {
     catalogue.Use();
-    const Messages messages = AllMessages();
-    EXPECT_EQ(ValidateAll(), messages.empty());
-    return messages;
+    Texts texts;
+    for (const Message& message : AllMessages())
+        texts.push_back(message.Text);
+    EXPECT_EQ(ValidateAll(), texts.empty());
+    return texts;
 }
 
-Messages With(void (*change)(Catalogue&))
+Texts With(void (*change)(Catalogue&))
 {
     Catalogue catalogue = SmallCatalogue();
     change(catalogue);
@@ -26,8 +30,8 @@ Messages With(void (*change)(Catalogue&))
 
 TEST(Validation, EmptyTablesAndACleanCataloguePass)
 {
-    EXPECT_EQ(MessagesOf({}), Messages{});
-    EXPECT_EQ(MessagesOf(SmallCatalogue()), Messages{});
+    EXPECT_EQ(MessagesOf({}), Texts{});
+    EXPECT_EQ(MessagesOf(SmallCatalogue()), Texts{});
 }
 
 TEST(Validation, EveryFurtherRowWithALecturersIDIsADuplicate)
@@ -36,13 +40,13 @@ TEST(Validation, EveryFurtherRowWithALecturersIDIsADuplicate)
                   [](Catalogue& c) {
                       c.Nastavnici.insert(c.Nastavnici.end(), {"03;B;;1", " 3 ;C;;1"});
                   }),
-              (Messages{"Nastavnici: dupli ID_nastavnik = 3", "Nastavnici: dupli ID_nastavnik = 3"}));
+              (Texts{"Nastavnici: dupli ID_nastavnik = 3", "Nastavnici: dupli ID_nastavnik = 3"}));
 }
 
 TEST(Validation, ALecturerNeedsANameAndADepartment)
 {
     EXPECT_EQ(With([](Catalogue& c) { c.Nastavnici.push_back("07;   ;;99 "); }),
-              (Messages{"Nastavnici: prazno ime za ID 7", "Nastavnici: ID_zavod ne postoji › 99 "}));
+              (Texts{"Nastavnici: prazno ime za ID 7", "Nastavnici: ID_zavod ne postoji › 99 "}));
 }
 
 TEST(Validation, ACourseNeedsItsOwnIDASemesterAndAStudy)
@@ -51,8 +55,8 @@ TEST(Validation, ACourseNeedsItsOwnIDASemesterAndAStudy)
                   [](Catalogue& c) {
                       c.Kolegiji.insert(c.Kolegiji.end(), {"5;A;;;;;;0;1", "6;B;;;;;;7;9", "7;C;;;;;;6;1"});
                   }),
-              (Messages{"Kolegiji: dupli ID_kolegij = 5", "Kolegiji: neispravan semestar (0) za ID 5",
-                        "Kolegiji: neispravan semestar (7) za ID 6", "Kolegiji: ID_studij ne postoji › 9"}));
+              (Texts{"Kolegiji: dupli ID_kolegij = 5", "Kolegiji: neispravan semestar (0) za ID 5",
+                     "Kolegiji: neispravan semestar (7) za ID 6", "Kolegiji: ID_studij ne postoji › 9"}));
 }
 
 TEST(Validation, ALecturersLinkNeedsACourseALecturerAndAPlace)
@@ -63,17 +67,16 @@ TEST(Validation, ALecturersLinkNeedsACourseALecturerAndAPlace)
                       c.KolegijNastavnici.insert(c.KolegijNastavnici.end(),
                                                  {"99;98;;1", "1;2;;4", "1;2;;0", "1;2;whatever;3"});
                   }),
-              (Messages{"KolegijNastavnik: ID_kolegij ne postoji › 99",
-                        "KolegijNastavnik: ID_nastavnik ne postoji › 98",
-                        "KolegijNastavnik: neispravan redoslijed (4) za kolegij 1",
-                        "KolegijNastavnik: neispravan redoslijed (0) za kolegij 1"}));
+              (Texts{"KolegijNastavnik: ID_kolegij ne postoji › 99",
+                     "KolegijNastavnik: ID_nastavnik ne postoji › 98",
+                     "KolegijNastavnik: neispravan redoslijed (4) za kolegij 1",
+                     "KolegijNastavnik: neispravan redoslijed (0) za kolegij 1"}));
 }
 
 TEST(Validation, ADirectionsLinkNeedsACourseAndADirection)
 {
-    EXPECT_EQ(
-        With([](Catalogue& c) { c.KolegijSmjerovi.push_back("99;98"); }),
-        (Messages{"KolegijSmjer: ID_kolegij ne postoji › 99", "KolegijSmjer: ID_smjer ne postoji › 98"}));
+    EXPECT_EQ(With([](Catalogue& c) { c.KolegijSmjerovi.push_back("99;98"); }),
+              (Texts{"KolegijSmjer: ID_kolegij ne postoji › 99", "KolegijSmjer: ID_smjer ne postoji › 98"}));
 }
 
 TEST(Validation, ADirectionNeedsAStudyAndAStudyALevel)
@@ -84,8 +87,8 @@ TEST(Validation, ADirectionNeedsAStudyAndAStudyALevel)
                       c.Smjerovi.push_back("9;X;X;99;whatever");
                       c.Studiji.insert(c.Studiji.end(), {"8;X;X;diplomski", "8;X;X;Diplomski "});
                   }),
-              (Messages{"Smjerovi: ID_studij ne postoji › 99", "Studiji: neispravna razina › diplomski",
-                        "Studiji: neispravna razina › Diplomski "}));
+              (Texts{"Smjerovi: ID_studij ne postoji › 99", "Studiji: neispravna razina › diplomski",
+                     "Studiji: neispravna razina › Diplomski "}));
 }
 
 TEST(Validation, WhatIsNotCheckedPasses)
@@ -99,12 +102,12 @@ TEST(Validation, WhatIsNotCheckedPasses)
                       c.Kolegiji.push_back("6;Bez ičega;x;-1;;abc;whatever;1;1");
                       c.KolegijSmjerovi.insert(c.KolegijSmjerovi.end(), {"1;3", "1;3"});
                   }),
-              Messages{});
+              Texts{});
 }
 
 TEST(Validation, ATableIsSearchedOnlyToTheMatch)
 {
-    EXPECT_EQ(With([](Catalogue& c) { c.Zavodi.push_back("x;bad;"); }), Messages{});
+    EXPECT_EQ(With([](Catalogue& c) { c.Zavodi.push_back("x;bad;"); }), Texts{});
     Catalogue catalogue = SmallCatalogue();
     catalogue.Zavodi.insert(catalogue.Zavodi.begin(), "x;bad;");
     catalogue.Use();
@@ -134,7 +137,7 @@ TEST(Validation, WhatIsNoNumberOrMissingIsAnErrorNotAMessage)
 
 TEST(Validation, TheChecksSpeakInAFixedOrder)
 {
-    const Messages messages = With(
+    const Texts messages = With(
         [](Catalogue& c)
         {
             c.Studiji.push_back("9;X;X;x");
@@ -144,35 +147,34 @@ TEST(Validation, TheChecksSpeakInAFixedOrder)
             c.Kolegiji.push_back("9;A;;;;;;1;97");
             c.Nastavnici.push_back("9;A;;96");
         });
-    EXPECT_EQ(
-        messages,
-        (Messages{"Nastavnici: ID_zavod ne postoji › 96", "Kolegiji: ID_studij ne postoji › 97",
-                  "KolegijNastavnik: ID_kolegij ne postoji › 98", "KolegijSmjer: ID_kolegij ne postoji › 99",
-                  "Smjerovi: ID_studij ne postoji › 99", "Studiji: neispravna razina › x"}));
+    EXPECT_EQ(messages, (Texts{"Nastavnici: ID_zavod ne postoji › 96", "Kolegiji: ID_studij ne postoji › 97",
+                               "KolegijNastavnik: ID_kolegij ne postoji › 98",
+                               "KolegijSmjer: ID_kolegij ne postoji › 99",
+                               "Smjerovi: ID_studij ne postoji › 99", "Studiji: neispravna razina › x"}));
 }
 
 TEST(Validation, OneRowCanFailEveryTestOfItsCheckInTheirOrder)
 {
     EXPECT_EQ(With([](Catalogue& c) { c.Nastavnici.push_back("1;;;99"); }),
-              (Messages{"Nastavnici: dupli ID_nastavnik = 1", "Nastavnici: prazno ime za ID 1",
-                        "Nastavnici: ID_zavod ne postoji › 99"}));
+              (Texts{"Nastavnici: dupli ID_nastavnik = 1", "Nastavnici: prazno ime za ID 1",
+                     "Nastavnici: ID_zavod ne postoji › 99"}));
     EXPECT_EQ(With([](Catalogue& c) { c.Kolegiji.push_back("1;A;;;;;;9;99"); }),
-              (Messages{"Kolegiji: dupli ID_kolegij = 1", "Kolegiji: neispravan semestar (9) za ID 1",
-                        "Kolegiji: ID_studij ne postoji › 99"}));
+              (Texts{"Kolegiji: dupli ID_kolegij = 1", "Kolegiji: neispravan semestar (9) za ID 1",
+                     "Kolegiji: ID_studij ne postoji › 99"}));
     EXPECT_EQ(With([](Catalogue& c) { c.KolegijNastavnici.push_back("99;98;;9"); }),
-              (Messages{"KolegijNastavnik: ID_kolegij ne postoji › 99",
-                        "KolegijNastavnik: ID_nastavnik ne postoji › 98",
-                        "KolegijNastavnik: neispravan redoslijed (9) za kolegij 99"}));
+              (Texts{"KolegijNastavnik: ID_kolegij ne postoji › 99",
+                     "KolegijNastavnik: ID_nastavnik ne postoji › 98",
+                     "KolegijNastavnik: neispravan redoslijed (9) za kolegij 99"}));
 }
 
 TEST(Validation, AMessageQuotesTheFieldAsItStandsAndTheIDAsANumber)
 {
     EXPECT_EQ(With([](Catalogue& c) { c.Kolegiji.push_back(" 08,0;A;;;;;; 07 ;1"); }),
-              Messages{"Kolegiji: neispravan semestar ( 07 ) za ID 8"});
+              Texts{"Kolegiji: neispravan semestar ( 07 ) za ID 8"});
     EXPECT_EQ(With([](Catalogue& c) { c.KolegijNastavnici.push_back(" 01;1;; 4,0"); }),
-              Messages{"KolegijNastavnik: neispravan redoslijed ( 4,0) za kolegij  01"});
+              Texts{"KolegijNastavnik: neispravan redoslijed ( 4,0) za kolegij  01"});
     EXPECT_EQ(With([](Catalogue& c) { c.KolegijSmjerovi.push_back("1;+99"); }),
-              Messages{"KolegijSmjer: ID_smjer ne postoji › +99"});
+              Texts{"KolegijSmjer: ID_smjer ne postoji › +99"});
 }
 
 TEST(Validation, TheFirstAndTheLastSemesterAndPlacePass)
@@ -183,16 +185,35 @@ TEST(Validation, TheFirstAndTheLastSemesterAndPlacePass)
                       c.Kolegiji.insert(c.Kolegiji.end(), {"6;A;;;;;;1;1", "7;B;;;;;;6;1", "8;C;;;;;;6,5;1"});
                       c.KolegijNastavnici.insert(c.KolegijNastavnici.end(), {"6;1;;1", "6;1;;3"});
                   }),
-              Messages{})
+              Texts{})
         << "6,5 is rounded to 6";
 }
 
 TEST(Validation, ANegativeSemesterOrPlaceIsOutOfRange)
 {
     EXPECT_EQ(With([](Catalogue& c) { c.Kolegiji.push_back("6;A;;;;;;-1;1"); }),
-              Messages{"Kolegiji: neispravan semestar (-1) za ID 6"});
+              Texts{"Kolegiji: neispravan semestar (-1) za ID 6"});
     EXPECT_EQ(With([](Catalogue& c) { c.KolegijNastavnici.push_back("1;1;;-1"); }),
-              Messages{"KolegijNastavnik: neispravan redoslijed (-1) za kolegij 1"});
+              Texts{"KolegijNastavnik: neispravan redoslijed (-1) za kolegij 1"});
+}
+
+TEST(Validation, AMessageNamesTheFieldThatItIsAbout)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Nastavnici.push_back("1;;;99");
+    catalogue.Studiji.push_back("9;X;X;x");
+    catalogue.KolegijNastavnici.push_back("98;97;;9");
+    catalogue.Use();
+    std::vector<FieldPlace> places;
+    for (const Message& message : AllMessages())
+        places.push_back(message.Place);
+    EXPECT_EQ(places, (std::vector<FieldPlace>{{"db_nastavnici.csv", 5, "ID"},
+                                               {"db_nastavnici.csv", 5, "PrezimeIme"},
+                                               {"db_nastavnici.csv", 5, "ZavodID"},
+                                               {"db_kolegij_nastavnik.csv", 8, "KolegijID"},
+                                               {"db_kolegij_nastavnik.csv", 8, "NastavnikID"},
+                                               {"db_kolegij_nastavnik.csv", 8, "Redoslijed"},
+                                               {"db_studij.csv", 5, "Razina"}}));
 }
 
 TEST(Validation, ReferencesAreComparedAsNumbers)
@@ -205,7 +226,7 @@ TEST(Validation, ReferencesAreComparedAsNumbers)
                       c.KolegijNastavnici.push_back("06;+4;;2.0");
                       c.KolegijSmjerovi.push_back(" 6;04");
                   }),
-              Messages{});
+              Texts{});
 }
 
 } // namespace
