@@ -1,4 +1,5 @@
 #include "differential/Comparison.h"
+#include "differential/RandomRun.h"
 #include "support/Catalogue.h"
 #include "support/LoadChecks.h"
 #include "support/TestFolder.h"
@@ -26,35 +27,6 @@ namespace
 {
 
 constexpr std::uint64_t FewCatalogues = 300; // what a run of all tests has the time for
-
-std::uint64_t Setting(const char* variable, std::uint64_t otherwise)
-{
-    const std::string value = System::EnvironmentVariable(variable);
-    return value.empty() ? otherwise : std::stoull(value);
-}
-
-/// While it lives, nothing waits for the disk: thousands of files are written here, and none need survive.
-class HastyFiles
-{
-public:
-    HastyFiles()
-    {
-        System::Files.Flush = [](FileOperations::Handle) { return std::error_code(); };
-        System::Files.FlushFolder = [](const std::filesystem::path&) { return std::error_code(); };
-        System::Files.Rename = [](const std::filesystem::path& from, const std::filesystem::path& to)
-        {
-            // Some file systems wait for the disk where a file takes another's place, so there must be none.
-            System::OwnFiles.RemoveFile(to);
-            return System::OwnFiles.Rename(from, to);
-        };
-    }
-    ~HastyFiles() { System::Files = Former; }
-    HastyFiles(const HastyFiles&) = delete;
-    HastyFiles& operator=(const HastyFiles&) = delete;
-
-private:
-    FileOperations Former = System::Files;
-};
 
 /// The first difference that files bring up, with the choices that the seed makes.
 std::optional<Difference> DifferenceOf(const CatalogueFiles& files, std::uint64_t seed)

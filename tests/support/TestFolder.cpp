@@ -88,6 +88,11 @@ std::string ExpectedFile(std::string_view name)
     return ReadBytes(fs::path(VARLO_SOURCE_DIR) / "tests" / "expected" / name);
 }
 
+std::string SpoiledFile(std::string_view folder, std::string_view name)
+{
+    return ReadBytes(fs::path(VARLO_SOURCE_DIR) / "tests" / "data" / "spoiled" / folder / name);
+}
+
 std::vector<std::string> EntriesOf(const fs::path& folder)
 {
     std::vector<std::string> names;

@@ -46,6 +46,9 @@ void CopyDemo(const TestFolder& folder);
 /// The bytes of a file in tests/expected, which scripts of their own have made.
 std::string ExpectedFile(std::string_view name);
 
+/// The bytes of a file in tests/data/spoiled, whose README says which program has made it.
+std::string SpoiledFile(std::string_view folder, std::string_view name);
+
 /// The names of the entries of a folder, sorted.
 std::vector<std::string> EntriesOf(const std::filesystem::path& folder);
 

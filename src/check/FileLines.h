@@ -1,0 +1,74 @@
+#pragma once
+
+#include "data/Errors.h"
+#include "data/Table.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace Check
+{
+
+/// A line of a file as an editor shows it: CR LF, CR or LF ends it.
+struct FileLine
+{
+    std::size_t Number; ///< From 1.
+    std::string_view Text;
+    std::string_view End; ///< Empty at the end of a file without one.
+};
+
+/// Takes the first line off. The bytes are not empty.
+FileLine TakeFileLine(std::string_view& bytes, std::size_t number);
+
+/// Calls `visit` with each line.
+template<typename Visit>
+void ForEachLine(std::string_view bytes, const Visit& visit)
+{
+    for (std::size_t number = 1; !bytes.empty(); ++number)
+        visit(TakeFileLine(bytes, number));
+}
+
+/// Calls `visit` with each field of a line and its position, from 0. Every ";" splits.
+template<typename Visit>
+void ForEachField(std::string_view line, const Visit& visit)
+{
+    for (std::size_t position = 0;; ++position)
+    {
+        const std::size_t end = std::min(line.find(';'), line.size());
+        visit(line.substr(0, end), position);
+        if (end == line.size())
+            return;
+        line.remove_prefix(end + 1);
+    }
+}
+
+std::size_t FieldCount(std::string_view line);
+
+/// Whether a line has a separator and blanks, and nothing else.
+bool IsSeparatorsOnly(std::string_view line);
+
+/// Turns the places that a table gives into those that an editor shows: the table does not count a lone LF
+/// as the end of a line.
+class EditorLines
+{
+public:
+    EditorLines(std::string_view bytes, const TableLayout& layout);
+
+    FieldPlace Shown(FieldPlace place) const;
+
+private:
+    struct Start
+    {
+        std::size_t Offset;
+        std::size_t Number;
+    };
+
+    std::string_view Bytes;
+    const TableLayout& Layout;
+    std::vector<Start> Starts; // of the table's lines; none where both count alike
+};
+
+} // namespace Check

@@ -1,0 +1,156 @@
+#include "check/FileRules.h"
+
+#include "check/FileLines.h"
+#include "check/Letters.h"
+#include "check/Quotes.h"
+#include "check/Values.h"
+#include "data/Numbers.h"
+#include "data/Windows1250.h"
+#include "data/modData.h"
+
+namespace Check
+{
+
+namespace
+{
+
+constexpr std::string_view WordsOfUtf16 =
+    "datoteka je u zapisu UTF-16, iz kojeg program ne može čitati podatke";
+constexpr std::string_view WordsOfUtf8 =
+    "datoteka je u zapisu UTF-8 bez oznake: umjesto svakog našeg slova program čita dva pogrešna znaka";
+constexpr std::string_view WordsOfUtf8Line =
+    "redak je u zapisu UTF-8, a drugi redci u zapisu windows-1250: program u njemu čita pogrešna slova";
+constexpr std::string_view WordsOfMark =
+    "na početku je oznaka UTF-8, a slova su u zapisu windows-1250: program bi ih zamijenio upitnicima";
+constexpr std::string_view WordsOfQuotes =
+    "cijelo je polje u navodnicima, kako ga piše tablični kalkulator: ";
+constexpr std::string_view WordsOfQuotedEnd = "polje u navodnicima sadrži točku-zarez ili prijelom retka: ";
+
+/// One pass over a file, from its first byte to the last.
+class FileRules
+{
+public:
+    FileRules(std::string_view bytes, const TableLayout& layout, Findings& findings)
+        : Bytes(bytes),
+          Layout(layout),
+          Found(findings),
+          Written(WritingOf(bytes))
+    {
+    }
+
+    void Run()
+    {
+        if (Written.In == Letters::Utf16)
+            return Add(Group::Danger, 0, WordsOfUtf16);
+        if (Written.HasMark)
+            Bytes.remove_prefix(modData::Utf8Mark.size());
+        if (Written.HasMark && Written.In != Letters::Utf8)
+            Add(Group::Danger, 1, WordsOfMark);
+        FindHeader();
+        ForEachLine(Bytes, [this](const FileLine& line) { FindInLine(line); });
+        AddLoneLF();
+    }
+
+private:
+    void Add(Group group, std::size_t line, std::string_view text, std::string_view column = {})
+    {
+        Found.push_back({group, {Layout.FileName, line, column}, std::string(text)});
+    }
+
+    std::string_view ColumnAt(std::size_t position) const
+    {
+        return position < Layout.Columns.size() ? Layout.Columns[position] : std::string_view();
+    }
+
+    /// Bytes of the file as text.
+    std::string Decoded(std::string_view bytes) const
+    {
+        return Written.In == Letters::Utf8 ? std::string(bytes) : FromWindows1250(bytes);
+    }
+
+    void FindHeader()
+    {
+        std::string_view bytes = Bytes;
+        const std::string_view line = bytes.empty() ? bytes : TakeFileLine(bytes, 1).Text;
+        const std::string header = Layout.Header();
+        if (line == header)
+            return;
+        for (const Table* table : modData::AllTables())
+            if (line == table->Layout().Header())
+                return Add(Group::Danger, 1,
+                           "zaglavlje je od datoteke " + std::string(table->Layout().FileName) + ": " +
+                               InQuotes(line) + " umjesto " + InQuotes(header));
+        if (IsNumeric(line.substr(0, line.find(';'))))
+            return Add(Group::Danger, 1,
+                       "nedostaje zaglavlje " + InQuotes(header) +
+                           "; program ovaj redak preskače: " + InQuotes(Decoded(line)));
+        Add(Group::Danger, 1, "zaglavlje je " + InQuotes(Decoded(line)) + " umjesto " + InQuotes(header));
+    }
+
+    void FindInLine(const FileLine& line)
+    {
+        if (line.End == "\n" && LoneLFs++ == 0)
+            FirstLoneLF = line.Number;
+        if (!Written.HasMark && Written.In == Letters::Mixed && IsBeyondAsciiUtf8(line.Text))
+            Add(Group::Danger, line.Number, WordsOfUtf8Line);
+        if (!Written.HasMark && Written.In == Letters::Utf8 && !IsUtf8Told && IsBeyondAsciiUtf8(line.Text))
+        {
+            Add(Group::Danger, line.Number, WordsOfUtf8);
+            IsUtf8Told = true;
+        }
+        ForEachField(line.Text,
+                     [&](std::string_view field, std::size_t position) {
+                         FindInField(field, {Layout.FileName, line.Number, ColumnAt(position)});
+                     });
+        if (line.Text.find('"') != std::string_view::npos)
+            FindQuotedEnd(line);
+    }
+
+    void FindInField(std::string_view field, const FieldPlace& place)
+    {
+        if (field.find('\0') != std::string_view::npos)
+            Found.push_back({Group::Danger, place, "polje sadrži znak NUL: " + InQuotes(Decoded(field))});
+        if (Written.In == Letters::Utf8)
+            if (const std::string lost = LettersLost(field); !lost.empty())
+                Found.push_back({Group::Danger, place,
+                                 "u zapisu windows-1250 nema ovih znakova, program bi ih zamijenio "
+                                 "upitnicima: " +
+                                     Shown(lost)});
+        if (field.starts_with('"') && IsQuoted(field))
+            Found.push_back({Group::Note, place, std::string(WordsOfQuotes) + Shown(Decoded(field))});
+    }
+
+    void FindQuotedEnd(const FileLine& line)
+    {
+        const std::string_view rest = Bytes.substr(static_cast<std::size_t>(line.Text.data() - Bytes.data()));
+        if (const std::size_t size = QuotedRecordSize(rest, Layout.Columns.size()); size > 0)
+            Add(Group::Note, line.Number,
+                std::string(WordsOfQuotedEnd) + Shown(Decoded(rest.substr(0, size))));
+    }
+
+    void AddLoneLF()
+    {
+        if (LoneLFs > 0)
+            Add(Group::Danger, FirstLoneLF,
+                "kraj retka je samo LF umjesto CR LF, pa program redak i sljedeći čita kao jedan (takvih: " +
+                    std::to_string(LoneLFs) + ")");
+    }
+
+    std::string_view Bytes;
+    const TableLayout& Layout;
+    Findings& Found;
+    Writing Written;
+    std::size_t LoneLFs = 0;
+    std::size_t FirstLoneLF = 0;
+    bool IsUtf8Told = false;
+};
+
+} // namespace
+
+void FindInFile(std::string_view bytes, const TableLayout& layout, Findings& findings)
+{
+    if (!bytes.empty())
+        FileRules(bytes, layout, findings).Run();
+}
+
+} // namespace Check

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "check/Finding.h"
+#include "data/Table.h"
+
+#include <string_view>
+
+namespace Check
+{
+
+/// What the bytes of a table's file show before anything is read as a number.
+void FindInFile(std::string_view bytes, const TableLayout& layout, Findings& findings);
+
+} // namespace Check

@@ -1,0 +1,96 @@
+#include "check/Letters.h"
+
+#include "check/FileLines.h"
+#include "data/Text.h"
+#include "data/Windows1250.h"
+#include "data/modData.h"
+
+#include <algorithm>
+
+namespace Check
+{
+
+namespace
+{
+
+bool IsAscii(std::string_view bytes)
+{
+    TakeAscii(bytes);
+    return bytes.empty();
+}
+
+/// Whether the mark of UTF-16 begins the bytes, or one byte of the first letter is 0: a header is ASCII.
+bool IsUtf16(std::string_view bytes)
+{
+    return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
+           (bytes.size() >= 2 && (bytes[0] == '\0') != (bytes[1] == '\0'));
+}
+
+bool IsInWindows1250(std::string_view character)
+{
+    return ToWindows1250(character) != "?";
+}
+
+/// Calls `visit` with each character beyond ASCII and with whether it is one, until it answers false.
+template<typename Visit>
+void ForEachBeyondAscii(std::string_view text, const Visit& visit)
+{
+    while (!text.empty())
+    {
+        TakeAscii(text);
+        if (text.empty())
+            return;
+        const std::string_view before = text;
+        const bool isReplaced = TakeCodePoint(text) == U'\uFFFD';
+        const std::string_view character = before.substr(0, before.size() - text.size());
+        if (!visit(character, !isReplaced || character.size() > 1))
+            return;
+    }
+}
+
+} // namespace
+
+bool IsBeyondAsciiUtf8(std::string_view bytes)
+{
+    bool isUtf8 = false;
+    ForEachBeyondAscii(bytes, [&](std::string_view, bool isCharacter) { return isUtf8 = isCharacter; });
+    return isUtf8;
+}
+
+bool HasSharedLetter(std::string_view text)
+{
+    bool isShared = false;
+    ForEachBeyondAscii(text, [&](std::string_view character, bool)
+                       { return !(isShared = IsInWindows1250(character)); });
+    return isShared;
+}
+
+std::string LettersLost(std::string_view text)
+{
+    std::string lost;
+    ForEachBeyondAscii(text,
+                       [&](std::string_view character, bool)
+                       {
+                           if (!IsInWindows1250(character) && lost.find(character) == std::string::npos)
+                               lost += character;
+                           return true;
+                       });
+    return lost;
+}
+
+Writing WritingOf(std::string_view bytes)
+{
+    if (IsUtf16(bytes))
+        return {false, Letters::Utf16};
+    const bool hasMark = bytes.starts_with(modData::Utf8Mark);
+    if (hasMark)
+        bytes.remove_prefix(modData::Utf8Mark.size());
+    if (IsAscii(bytes) || IsBeyondAsciiUtf8(bytes))
+        return {hasMark, hasMark || !IsAscii(bytes) ? Letters::Utf8 : Letters::Windows1250};
+    bool isMixed = false;
+    ForEachLine(bytes, [&](const FileLine& line)
+                { isMixed = isMixed || (IsBeyondAsciiUtf8(line.Text) && HasSharedLetter(line.Text)); });
+    return {hasMark, isMixed ? Letters::Mixed : Letters::Windows1250};
+}
+
+} // namespace Check

@@ -1,0 +1,217 @@
+#include "check/Mend.h"
+
+#include "check/FileLines.h"
+#include "check/Letters.h"
+#include "check/Quotes.h"
+#include "check/Values.h"
+#include "data/Windows1250.h"
+#include "data/modData.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+namespace Check
+{
+
+namespace
+{
+
+constexpr std::string_view LoneLF = "\n";
+
+/// Splits bytes into lines. A record with a line break in quotes is a line.
+std::vector<FileLine> RecordsOf(std::string_view bytes, std::size_t columns)
+{
+    std::vector<FileLine> records;
+    for (std::size_t number = 1; !bytes.empty();)
+    {
+        const std::size_t quoted = QuotedRecordSize(bytes, columns);
+        const std::string_view text = bytes.substr(0, quoted);
+        bytes.remove_prefix(quoted);
+        FileLine rest = TakeFileLine(bytes, number);
+        if (quoted > 0)
+            rest.Text = text;
+        records.push_back(rest);
+        ForEachLine(rest.Text, [&](const FileLine& line) { number += line.End.empty() ? 0 : 1; });
+        ++number;
+    }
+    return records;
+}
+
+bool IsWholeRow(const FileLine& record, std::size_t columns)
+{
+    return IsSeparatorsOnly(record.Text) || FieldCount(record.Text) == columns ||
+           record.Text.find_first_not_of(' ') == std::string_view::npos ||
+           QuotedRecordSize(record.Text, columns) > 0;
+}
+
+/// Mends the records of a file whose letters are in order.
+class RecordMender
+{
+public:
+    RecordMender(const TableLayout& layout, bool isUtf8, Mended& result)
+        : Layout(layout),
+          Columns(layout.Columns.size()),
+          IsUtf8(isUtf8),
+          Result(result)
+    {
+    }
+
+    void Run(std::string_view bytes)
+    {
+        const std::vector<FileLine> records = RecordsOf(bytes, Columns);
+        if (records.empty())
+            return;
+        HeaderIsQuoted = IsQuotedThroughout(records.front().Text);
+        HasCR =
+            std::ranges::any_of(records, [](const FileLine& record) { return record.End.starts_with('\r'); });
+        for (auto begin = records.begin(); begin != records.end();)
+        {
+            // As the table reads them: lone LFs do not end a line.
+            auto end = std::find_if(begin, records.end(),
+                                    [](const FileLine& record) { return record.End != LoneLF; });
+            end = end == records.end() ? end : end + 1;
+            MendTableLine({begin, end});
+            begin = end;
+        }
+        if (LoneLFs > 0)
+            Tell(Result.Changes, FirstLoneLF, {},
+                 "krajevi redaka LF zamijenjeni su s CR LF (takvih: " + std::to_string(LoneLFs) + ")");
+    }
+
+private:
+    void Tell(std::vector<Change>& changes, std::size_t line, std::string_view column, std::string text)
+    {
+        changes.push_back({{Layout.FileName, line, column}, std::move(text)});
+    }
+
+    std::string Quoted(std::string_view bytes) const
+    {
+        return InQuotes(IsUtf8 ? std::string(bytes) : FromWindows1250(bytes));
+    }
+
+    /// Where other lines end in CR, a lone LF may be part of a field: it is mended where whole rows are on
+    /// both of its sides.
+    void MendTableLine(std::span<const FileLine> records)
+    {
+        const bool hasLoneLF = records.front().End == LoneLF;
+        const bool isClear = !hasLoneLF || !HasCR ||
+                             std::ranges::all_of(records, [this](const FileLine& record)
+                                                 { return IsWholeRow(record, Columns); });
+        if (!isClear)
+            Tell(Result.Left, records.front().Number, {},
+                 "LF usred retka nije zamijenjen, jer nije jasno gdje redak završava");
+        for (const FileLine& record : records)
+            if (isClear)
+                MendRecord(record);
+            else
+                Result.Bytes.append(record.Text).append(record.End);
+    }
+
+    void MendRecord(const FileLine& record)
+    {
+        const bool isHeader = record.Number == 1;
+        if (!isHeader && IsSeparatorsOnly(record.Text))
+            return Tell(Result.Changes, record.Number, {}, "uklonjen je redak samih razdjelnika");
+        if (record.End == LoneLF && LoneLFs++ == 0)
+            FirstLoneLF = record.Number;
+        MendQuotes(record);
+        Result.Bytes += record.End == LoneLF ? "\r\n" : record.End;
+    }
+
+    void MendQuotes(const FileLine& record)
+    {
+        if (QuotedRecordSize(record.Text, Columns) > 0)
+            Tell(Result.Left, record.Number, {},
+                 "navodnici oko točke-zareza ili prijeloma retka nisu uklonjeni: " + Quoted(record.Text));
+        if (FieldCount(record.Text) != Columns || QuotedRecordSize(record.Text, Columns) > 0)
+        {
+            Result.Bytes += record.Text;
+            return;
+        }
+        ForEachField(record.Text,
+                     [&](std::string_view field, std::size_t position)
+                     {
+                         if (position > 0)
+                             Result.Bytes += ';';
+                         Result.Bytes +=
+                             MendedField(field, {Layout.FileName, record.Number, Layout.Columns[position]});
+                     });
+    }
+
+    /// Quotes may be part of a name. A doubled one inside or a quoted header shows that a spreadsheet put
+    /// them.
+    std::string MendedField(std::string_view field, const FieldPlace& place)
+    {
+        if (!IsQuoted(field) ||
+            !(HeaderIsQuoted || field.substr(1, field.size() - 2).find('"') != std::string_view::npos))
+            return std::string(field);
+        std::string text = Unquoted(field);
+        Result.Changes.push_back(
+            {place, "uklonjeni su navodnici: " + Quoted(field) + " je sada " + Quoted(text)});
+        return text;
+    }
+
+    const TableLayout& Layout;
+    std::size_t Columns;
+    bool IsUtf8;
+    Mended& Result;
+    bool HeaderIsQuoted = false;
+    bool HasCR = false;
+    std::size_t LoneLFs = 0;
+    std::size_t FirstLoneLF = 0;
+};
+
+/// Why the letters of a file cannot be mended without a decision; empty when they can.
+std::string WhyLettersStay(std::string_view bytes, const Writing& writing)
+{
+    if (writing.In == Letters::Utf16)
+        return "datoteka u zapisu UTF-16 nije mijenjana";
+    if (writing.In == Letters::Mixed)
+        return "datoteka nije mijenjana, jer su slova jednog dijela redaka u zapisu UTF-8, a drugih u "
+               "windows-1250";
+    if (writing.In == Letters::Utf8)
+        if (const std::string lost = LettersLost(bytes); !lost.empty())
+            return "datoteka nije mijenjana, jer windows-1250 nema ovih znakova: " + Shown(lost);
+    return {};
+}
+
+Mended MendOnce(std::string_view bytes, const TableLayout& layout)
+{
+    const auto told = [&](std::string text) {
+        return std::vector<Change>{{{layout.FileName, 0, {}}, std::move(text)}};
+    };
+    const Writing writing = WritingOf(bytes);
+    const std::string_view unmarked = bytes.substr(writing.HasMark ? modData::Utf8Mark.size() : 0);
+    if (std::string reason = WhyLettersStay(unmarked, writing); !reason.empty())
+        return {std::string(bytes), {}, told(std::move(reason))};
+
+    Mended result;
+    std::string text(unmarked);
+    const bool staysUtf8 = writing.HasMark && writing.In == Letters::Utf8; // the program converts it itself
+    if (staysUtf8)
+        result.Bytes = modData::Utf8Mark;
+    else if (writing.HasMark)
+        result.Changes = told("uklonjena je oznaka UTF-8 ispred slova u zapisu windows-1250");
+    else if (writing.In == Letters::Utf8)
+    {
+        text = ToWindows1250(text);
+        result.Changes = told("zapis UTF-8 bez oznake pretvoren je u windows-1250");
+    }
+    RecordMender(layout, staysUtf8, result).Run(text);
+    return result;
+}
+
+} // namespace
+
+Mended Mend(std::string_view bytes, const TableLayout& layout)
+{
+    Mended mended = MendOnce(bytes, layout);
+    if (mended.Changes.empty() || MendOnce(mended.Bytes, layout).Changes.empty())
+        return mended;
+    return {std::string(bytes),
+            {},
+            {{{layout.FileName, 0, {}}, "datoteka nije mijenjana, jer se može popraviti na više načina"}}};
+}
+
+} // namespace Check

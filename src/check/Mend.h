@@ -1,0 +1,31 @@
+#pragma once
+
+#include "check/Finding.h"
+#include "data/Table.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Check
+{
+
+/// Something that was mended, or that needs a decision and was left.
+struct Change
+{
+    FieldPlace Place;
+    std::string Text;
+};
+
+struct Mended
+{
+    std::string Bytes;
+    std::vector<Change> Changes; ///< From the file's bytes to these.
+    std::vector<Change> Left;
+};
+
+/// Mends in a table's file what needs no decision: lone LFs, UTF-8 without a mark, a mark before windows-1250
+/// text, a spreadsheet's quotes around a whole field, rows of separators. Mending again changes nothing.
+Mended Mend(std::string_view bytes, const TableLayout& layout);
+
+} // namespace Check

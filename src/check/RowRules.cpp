@@ -1,0 +1,239 @@
+#include "check/RowRules.h"
+
+#include "check/Values.h"
+#include "data/Text.h"
+#include "data/modData.h"
+
+#include <algorithm>
+#include <limits>
+#include <span>
+#include <unordered_set>
+
+namespace Check
+{
+
+namespace
+{
+
+using namespace modData;
+
+constexpr std::size_t HourColumns[] = {Kolegij::P, Kolegij::S, Kolegij::V, Kolegij::ECTS};
+
+// The columns that are read as numbers and must be some.
+constexpr std::size_t ZavodNumbers[] = {Zavod::ID};
+constexpr std::size_t NastavnikNumbers[] = {Nastavnik::ID, Nastavnik::ZavodID};
+constexpr std::size_t StudijNumbers[] = {Studij::ID};
+constexpr std::size_t SmjerNumbers[] = {Smjer::ID, Smjer::StudijID};
+constexpr std::size_t KolegijNumbers[] = {Kolegij::ID,   Kolegij::P,        Kolegij::S,       Kolegij::V,
+                                          Kolegij::ECTS, Kolegij::Semestar, Kolegij::StudijID};
+constexpr std::size_t KolegijSmjerNumbers[] = {KolegijSmjer::KolegijID, KolegijSmjer::SmjerID};
+constexpr std::size_t KolegijNastavnikNumbers[] = {KolegijNastavnik::KolegijID, KolegijNastavnik::NastavnikID,
+                                                   KolegijNastavnik::Redoslijed};
+
+/// What the program needs of a row.
+struct RowNeeds
+{
+    const Table& Rows;
+    std::size_t Fields; ///< With fewer, the validation or a window ends in an error.
+    std::span<const std::size_t> Numbers;
+};
+
+const RowNeeds Needs[] = {
+    {Zavodi, Zavod::Naziv + 1, ZavodNumbers},
+    {Nastavnici, Nastavnik::ZavodID + 1, NastavnikNumbers},
+    {Studiji, Studij::Razina + 1, StudijNumbers},
+    {Smjerovi, Smjer::StudijID + 1, SmjerNumbers},
+    {Kolegiji, Kolegij::StudijID + 1, KolegijNumbers},
+    {KolegijSmjerovi, KolegijSmjer::SmjerID + 1, KolegijSmjerNumbers},
+    {KolegijNastavnici, KolegijNastavnik::Redoslijed + 1, KolegijNastavnikNumbers},
+};
+
+std::string Counted(std::size_t count, std::size_t expected)
+{
+    return "polja: " + std::to_string(count) + " umjesto " + std::to_string(expected);
+}
+
+FieldPlace LinePlace(const Row& row)
+{
+    FieldPlace place = row.Place(0);
+    place.Column = {};
+    return place;
+}
+
+bool IsBlank(const Row& row)
+{
+    for (std::size_t i = 0; i < row.FieldCount(); ++i)
+        if (!TrimBlanks(row.Field(i)).empty())
+            return false;
+    return true;
+}
+
+void FindFieldCount(const Row& row, const RowNeeds& needs, Findings& findings)
+{
+    const std::size_t columns = needs.Rows.Layout().Columns.size();
+    const std::size_t count = row.FieldCount();
+    if (count > columns)
+        findings.push_back({Group::Danger, LinePlace(row),
+                            "redak ima previše " + Counted(count, columns) +
+                                "; možda je u nazivu točka-zarez: " + InQuotes(row.Field(1))});
+    else if (count < columns)
+        findings.push_back({count < needs.Fields ? Group::Danger : Group::Note, row.Place(count),
+                            "redak ima premalo " + Counted(count, columns)});
+}
+
+void FindUnreadNumbers(const Row& row, const RowNeeds& needs, Findings& findings)
+{
+    for (const std::size_t column : needs.Numbers)
+        if (column < row.FieldCount())
+            try
+            {
+                row.Number(column);
+            }
+            catch (const RuntimeError& error)
+            {
+                findings.push_back({Group::Danger, error.Place(), Shown(error.Fault(), 120)});
+            }
+}
+
+void FindInRow(const Row& row, const RowNeeds& needs, Findings& findings)
+{
+    if (IsBlank(row))
+    {
+        findings.push_back({Group::Note, LinePlace(row), "redak ima samo razdjelnike, bez podataka"});
+        return;
+    }
+    FindFieldCount(row, needs, findings);
+    if (row.Field(0).empty())
+        findings.push_back({Group::Danger, row.Place(0),
+                            "prvo je polje prazno: spremanje izostavlja njegov razdjelnik, pa se ostala "
+                            "polja pomaknu ulijevo"});
+    FindUnreadNumbers(row, needs, findings);
+}
+
+/// Runs a rule over the rows of a table. A row that cannot be read has been reported already.
+template<typename Rule>
+void ForEachReadable(const Table& table, const Rule& rule)
+{
+    for (const Row& row : table)
+        try
+        {
+            rule(row);
+        }
+        catch (const RuntimeError&)
+        {
+        }
+}
+
+/// Calls `tell` with each row whose key an earlier row has.
+template<typename Key, typename Tell>
+void ForEachRepeated(const Table& table, const Key& key, const Tell& tell)
+{
+    std::unordered_set<std::int64_t> seen;
+    seen.reserve(table.RowCount());
+    ForEachReadable(table,
+                    [&](const Row& row)
+                    {
+                        if (!seen.insert(key(row)).second)
+                            tell(row);
+                    });
+}
+
+void FindRepeatedIDs(const Table& table, Findings& findings)
+{
+    ForEachRepeated(
+        table, [](const Row& row) { return std::int64_t{row.Number(0)}; },
+        [&](const Row& row)
+        {
+            findings.push_back({Group::Note, row.Place(0),
+                                "ID " + std::to_string(row.Number(0)) +
+                                    " ima i jedan od prethodnih redaka, a program uvijek uzima prvi"});
+        });
+}
+
+void FindRepeatedLecturers(Findings& findings)
+{
+    using namespace KolegijNastavnik;
+    ForEachRepeated(
+        KolegijNastavnici,
+        [](const Row& row)
+        { return (std::int64_t{row.Number(KolegijID)} << 32) ^ std::uint32_t(row.Number(NastavnikID)); },
+        [&](const Row& row)
+        {
+            findings.push_back({Group::Note, row.Place(NastavnikID),
+                                "nastavnik " + std::to_string(row.Number(NastavnikID)) +
+                                    " već je naveden uz kolegij " + std::to_string(row.Number(KolegijID)) +
+                                    ", pa mu se taj kolegij broji dvaput"});
+        });
+}
+
+void FindHours(const Row& row, Findings& findings)
+{
+    for (const std::size_t column : HourColumns)
+    {
+        std::int32_t number = 0;
+        if (ReadLong(row.Field(column), number) == NumberReading::Whole && number < 0)
+            findings.push_back(
+                {Group::Note, row.Place(column), "broj je manji od nule: " + InQuotes(row.Field(column))});
+    }
+}
+
+void FindTip(const Row& row, Findings& findings)
+{
+    const std::string_view tip = row.Field(Kolegij::Tip);
+    if (!IsWord(tip, "OBVEZNI") && !IsWord(tip, "IZBORNI"))
+        findings.push_back(
+            {Group::Note, row.Place(Kolegij::Tip), "tip nije ni obvezni ni izborni: " + InQuotes(tip)});
+}
+
+void FindLastID(const Row& row, Findings& findings)
+{
+    if (row.Number(Kolegij::ID) == std::numeric_limits<std::int32_t>::max())
+        findings.push_back({Group::Danger, row.Place(Kolegij::ID),
+                            "za novi kolegij više nema broja, pa bi dodavanje završilo greškom"});
+}
+
+void FindMissingLink(const Row& row, const Table& links, std::string_view text, Findings& findings)
+{
+    constexpr std::size_t kolegijColumn = 0; // of both tables of links
+    if (links.FindFirst(kolegijColumn, row.Number(Kolegij::ID)) == nullptr)
+        findings.push_back(
+            {Group::Note, LinePlace(row), std::string(text) + ": " + InQuotes(row.Field(Kolegij::Naziv))});
+}
+
+void FindInKolegij(const Row& row, Findings& findings)
+{
+    FindHours(row, findings);
+    FindTip(row, findings);
+    FindLastID(row, findings);
+    FindMissingLink(row, KolegijSmjerovi, "kolegij nema smjera", findings);
+    FindMissingLink(row, KolegijNastavnici, "kolegij nema nositelja", findings);
+}
+
+void FindForeignSmjer(const Row& link, Findings& findings)
+{
+    const Row* kolegij = Kolegiji.FindFirst(Kolegij::ID, link.Number(KolegijSmjer::KolegijID));
+    const Row* smjer = Smjerovi.FindFirst(Smjer::ID, link.Number(KolegijSmjer::SmjerID));
+    if (kolegij != nullptr && smjer != nullptr &&
+        kolegij->Number(Kolegij::StudijID) != smjer->Number(Smjer::StudijID))
+        findings.push_back({Group::Note, link.Place(KolegijSmjer::SmjerID),
+                            "smjer " + InQuotes(smjer->Field(Smjer::Kratica)) +
+                                " je s drugog studija nego kolegij " +
+                                InQuotes(kolegij->Field(Kolegij::Naziv))});
+}
+
+} // namespace
+
+void FindInRows(Findings& findings)
+{
+    for (const RowNeeds& needs : Needs)
+        for (const Row& row : needs.Rows)
+            FindInRow(row, needs, findings);
+    for (const Table* table :
+         {&Zavodi, &Studiji, &Smjerovi}) // the validation looks for repeated IDs in others
+        FindRepeatedIDs(*table, findings);
+    ForEachReadable(Kolegiji, [&](const Row& row) { FindInKolegij(row, findings); });
+    ForEachReadable(KolegijSmjerovi, [&](const Row& row) { FindForeignSmjer(row, findings); });
+    FindRepeatedLecturers(findings);
+}
+
+} // namespace Check

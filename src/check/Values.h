@@ -1,0 +1,17 @@
+#pragma once
+
+#include "data/Text.h"
+
+#include <string>
+#include <string_view>
+
+namespace Check
+{
+
+/// A value, shown in quotes.
+inline std::string InQuotes(std::string_view value)
+{
+    return "\"" + Shown(value) + "\"";
+}
+
+} // namespace Check

@@ -1,0 +1,254 @@
+#include "check/Provjera.h"
+#include "data/CatalogueOnDisk.h"
+#include "support/Catalogue.h"
+#include "support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <vector>
+
+namespace
+{
+
+struct Outcome
+{
+    Check::ExitCode Code;
+    std::string Output;
+    int LinesRead = 0;
+};
+
+/// Runs the program; each line that it reads is the same.
+Outcome Provjera(const std::vector<std::string>& arguments, const std::string& line = "")
+{
+    Outcome run = {};
+    const auto readLine = [&]
+    {
+        ++run.LinesRead;
+        return line;
+    };
+    run.Code = Check::Provjera(arguments, {[&](std::string_view text) { run.Output += text; }, readLine});
+    return run;
+}
+
+std::map<std::string, std::string> FilesOf(const std::filesystem::path& folder)
+{
+    std::map<std::string, std::string> files;
+    for (const std::filesystem::directory_entry& entry :
+         std::filesystem::recursive_directory_iterator(folder))
+        if (entry.is_regular_file())
+            files[entry.path().lexically_relative(folder).string()] = ReadBytes(entry.path());
+    return files;
+}
+
+TEST(Provjera, AValidCatalogueEndsWithZero)
+{
+    const TestFolder folder;
+    SmallCatalogue().WriteTo(folder.Data());
+    const Outcome run = Provjera({});
+    EXPECT_EQ(run.Code, Check::Valid);
+    EXPECT_EQ(run.Output, "Katalog: " + folder.DataPath("").substr(0, folder.DataPath("").size() - 1) +
+                              "\n\n"
+                              "Greške: nema\n"
+                              "Opasno: nema\n"
+                              "Napomene: 1 (možda je tako i zamišljeno)\n"
+                              "  db_kolegij.csv, redak 6: kolegij nema smjera: \"Kolegij bez smjera\"\n");
+}
+
+TEST(Provjera, AnInvalidCatalogueEndsWithOneAndStaysAsItIs)
+{
+    const TestFolder folder;
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Studiji.push_back("9;X;X;x");
+    catalogue.WriteTo(folder.Data());
+    std::filesystem::remove(folder.Data() / "db_zavod.csv");
+    WriteBytes(folder.Data() / "db_smjer.csv", "\xEF\xBB\xBF" + ReadBytes(folder.Data() / "db_smjer.csv"));
+    const auto before = FilesOf(folder.Data());
+    EXPECT_EQ(Provjera({folder.PathOf("Varlostudiji")}).Code, Check::Invalid);
+    EXPECT_EQ(FilesOf(folder.Data()), before);
+}
+
+TEST(Provjera, AFolderThatCannotBeReadEndsWithTwoAndIsNotMade)
+{
+    const TestFolder folder;
+    std::filesystem::remove(folder.Data());
+    const Outcome run = Provjera({});
+    EXPECT_EQ(run.Code, Check::NotDone);
+    EXPECT_TRUE(run.Output.find("\nDatoteka ili mapa nije pronađena: ") != std::string::npos) << run.Output;
+    EXPECT_FALSE(std::filesystem::exists(folder.Data()));
+
+    WriteBytes(folder.Path() / "file", "");
+    EXPECT_EQ(Provjera({folder.PathOf("file")}).Code, Check::NotDone);
+}
+
+TEST(Provjera, HelpIsShownOnRequestAndForWrongArguments)
+{
+    const Outcome help = Provjera({"--help"});
+    EXPECT_EQ(help.Code, Check::Valid);
+    EXPECT_TRUE(help.Output.starts_with("varlostudiji-provjera [--popravi] [--cekaj] [MAPA]\n"))
+        << help.Output;
+    for (const std::vector<std::string>& wrong :
+         {std::vector<std::string>{"--sve"}, {"a", "b"}, {""}, {"--help", "-x"}})
+    {
+        const Outcome run = Provjera(wrong);
+        EXPECT_EQ(run.Code, Check::NotDone);
+        EXPECT_EQ(run.Output, help.Output);
+    }
+}
+
+TEST(Provjera, AtItsEndItWaitsForEnterWhereAskedTo)
+{
+    const TestFolder folder;
+    SmallCatalogue().WriteTo(folder.Data());
+    EXPECT_EQ(Provjera({}).LinesRead, 0);
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"--cekaj"},
+                                                      {"--cekaj", folder.PathOf("Varlostudiji")},
+                                                      {"--cekaj", "missing"}})
+    {
+        const Outcome run = Provjera(arguments);
+        EXPECT_EQ(run.LinesRead, 1);
+        EXPECT_TRUE(run.Output.ends_with("\nPritisnite Enter za kraj.")) << run.Output;
+    }
+}
+
+// --- The repair ---
+
+/// A catalogue with lone LFs in one file and a spreadsheet's quotes in another.
+void WriteBroken(const TestFolder& folder)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Zavodi.push_back("3;\"Lov \"\"i\"\" ribolov\";L");
+    catalogue.WriteTo(folder.Data());
+    const std::filesystem::path file = folder.Data() / "db_studij.csv";
+    std::string bytes = ReadBytes(file);
+    std::erase(bytes, '\r');
+    WriteBytes(file, bytes);
+}
+
+void ExpectRefused(const TestFolder& folder, std::string_view text)
+{
+    const auto before = FilesOf(folder.Data());
+    const Outcome run = Provjera({"--popravi"});
+    EXPECT_EQ(run.Code, Check::NotDone);
+    EXPECT_TRUE(run.Output.ends_with("\n\n" + std::string(text) + "\n")) << run.Output;
+    EXPECT_EQ(FilesOf(folder.Data()), before);
+}
+
+TEST(Provjera, ARepairMendsKeepsACopyAndTellsWhatItDid)
+{
+    const TestFolder folder;
+    WriteBroken(folder);
+    const auto before = FilesOf(folder.Data());
+    EXPECT_TRUE(Provjera({}).Output.ends_with("\n\nDio toga popravlja varlostudiji-provjera --popravi.\n"));
+
+    const Outcome run = Provjera({"--popravi"});
+    EXPECT_EQ(run.Code, Check::Valid);
+    EXPECT_TRUE(run.Output.find(
+                    "\nPopravljeno: 2\n"
+                    "  db_zavod.csv, redak 4, Naziv: uklonjeni su navodnici: \"\"Lov \"\"i\"\" ribolov\"\" "
+                    "je sada \"Lov \"i\" ribolov\"\n"
+                    "  db_studij.csv, redak 1: krajevi redaka LF zamijenjeni su s CR LF (takvih: 4)\n"
+                    "Prijašnje su datoteke u mapi kopije.\n\n"
+                    "Greške: nema\nOpasno: nema\n") != std::string::npos)
+        << run.Output;
+    EXPECT_EQ(ReadBytes(folder.Data() / "db_studij.csv"),
+              "ID;Naziv;Kratica;Razina\r\n1;Lovstvo;LOR;Preddiplomski\r\n2;Bevanda;BEV;Preddiplomski\r\n"
+              "3;Lovstvo;LOR;Diplomski\r\n");
+    EXPECT_TRUE(ReadBytes(folder.Data() / "db_zavod.csv").ends_with("\r\n3;Lov \"i\" ribolov;L\r\n"));
+    const auto copies = EntriesOf(folder.Data() / "kopije");
+    ASSERT_FALSE(copies.empty());
+    for (const std::string& copy : copies)
+        EXPECT_EQ(FilesOf(folder.Data() / "kopije" / copy), before);
+
+    const auto after = FilesOf(folder.Data());
+    EXPECT_TRUE(Provjera({"--popravi"}).Output.find("\nPopravljeno: ništa\n\n") != std::string::npos);
+    EXPECT_EQ(FilesOf(folder.Data()), after);
+    EXPECT_EQ(EntriesOf(folder.Data() / "kopije"), copies);
+}
+
+TEST(Provjera, ARepairLeavesMissingAndEmptyFilesAsTheyAre)
+{
+    const TestFolder folder;
+    WriteBroken(folder);
+    std::filesystem::remove(folder.Data() / "db_nastavnici.csv");
+    WriteBytes(folder.Data() / "db_smjer.csv", "");
+    EXPECT_EQ(Provjera({"--popravi"}).Code, Check::Invalid);
+    EXPECT_FALSE(std::filesystem::exists(folder.Data() / "db_nastavnici.csv"));
+    EXPECT_EQ(ReadBytes(folder.Data() / "db_smjer.csv"), "");
+    EXPECT_TRUE(ReadBytes(folder.Data() / "db_studij.csv").starts_with("ID;Naziv;Kratica;Razina\r\n"));
+}
+
+TEST(Provjera, ARepairIsRefusedWhileTheProgramHasTheCatalogueOpen)
+{
+    const TestFolder folder;
+    WriteBroken(folder);
+    const CatalogueLock running(folder.PathOf("Varlostudiji"), LockKind::Running);
+    ASSERT_TRUE(running.IsHeld());
+    ExpectRefused(folder, "Katalog je otvoren u programu. Zatvorite Varlostudije i pokušajte ponovno.");
+    EXPECT_EQ(Provjera({}).Code, Check::Invalid) << "a check goes on";
+}
+
+/// Leaves a complete set of an interrupted save: the small catalogue.
+void InterruptASave(const TestFolder& folder)
+{
+    const std::filesystem::path set = folder.Data() / "spremanje";
+    std::filesystem::create_directory(set);
+    SmallCatalogue().WriteTo(set);
+    WriteBytes(set / "gotovo", "2026-11-21_143005\r\n");
+}
+
+TEST(Provjera, ARepairIsRefusedWhileASaveIsPending)
+{
+    const TestFolder folder;
+    WriteBroken(folder);
+    InterruptASave(folder);
+    ExpectRefused(
+        folder, "Posljednje spremanje nije dovršeno. Pokrenite Varlostudije, koji će ga dovršiti, zatvorite "
+                "ih i pokušajte ponovno.");
+}
+
+TEST(Provjera, APendingSetIsJudgedInTheFilesStead)
+{
+    const TestFolder folder;
+    WriteBroken(folder);
+    EXPECT_EQ(Provjera({}).Code, Check::Invalid);
+    InterruptASave(folder);
+    const auto before = FilesOf(folder.Data());
+    const Outcome run = Provjera({});
+    EXPECT_EQ(run.Code, Check::Valid);
+    EXPECT_TRUE(run.Output.find(
+                    "\n\nPosljednje spremanje nije dovršeno: provjeravaju se datoteke koje će program pri "
+                    "pokretanju vratiti, iz mape " +
+                    folder.DataPath("spremanje") + "\n\nGreške: nema\n") != std::string::npos)
+        << run.Output;
+    EXPECT_EQ(FilesOf(folder.Data()), before);
+}
+
+TEST(Provjera, ARepairThatCannotKeepACopyChangesNothing)
+{
+    const TestFolder folder;
+    WriteBroken(folder);
+    WriteBytes(folder.Data() / "kopije", "");
+    const auto before = FilesOf(folder.Data());
+    EXPECT_EQ(Provjera({"--popravi"}).Code, Check::NotDone);
+    EXPECT_EQ(FilesOf(folder.Data()), before);
+}
+
+TEST(Provjera, WhereItWaitsARepairIsOffered)
+{
+    const TestFolder folder;
+    WriteBroken(folder);
+    const auto before = FilesOf(folder.Data());
+    EXPECT_EQ(Provjera({"--cekaj"}, "ne").Code, Check::Invalid);
+    EXPECT_EQ(FilesOf(folder.Data()), before);
+
+    const Outcome run = Provjera({"--cekaj"}, "da");
+    EXPECT_EQ(run.Code, Check::Valid);
+    EXPECT_EQ(run.LinesRead, 2);
+    EXPECT_TRUE(run.Output.find("Za popravak upišite da i pritisnite Enter: Popravljeno: 2\n") !=
+                std::string::npos)
+        << run.Output;
+    EXPECT_EQ(Provjera({"--cekaj"}, "da").LinesRead, 1) << "nothing is left to mend";
+}
+
+} // namespace
