@@ -23,6 +23,7 @@ ManifestSupportedOS all
 !include LogicLib.nsh
 
 !define PRODUCT "Varlostudiji"
+!define CHECK "Provjera kataloga"
 !define PUBLISHER "Varlostudiji tim"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${PRODUCT}"
 
@@ -220,6 +221,7 @@ FunctionEnd
 
 ; What the installer writes into a folder beside the program itself.
 !macro RemoveFiles folder
+    Delete "${folder}\varlostudiji-provjera.exe"
     Delete "${folder}\LICENSE.txt"
     Delete "${folder}\uninstall.exe"
     RMDir "${folder}" ; with anything else in it, it stays
@@ -245,6 +247,7 @@ Section
     SetOverwrite on
     ClearErrors
     File "${PROGRAM}\varlostudiji.exe"
+    File "${PROGRAM}\varlostudiji-provjera.exe"
     File "${PROGRAM}\LICENSE.txt"
     WriteUninstaller "$INSTDIR\uninstall.exe"
     ${If} ${Errors}
@@ -256,6 +259,8 @@ Section
         Call RemoveFormerProgram
     ${EndIf}
     CreateShortcut "$SMPROGRAMS\${PRODUCT}.lnk" "$INSTDIR\varlostudiji.exe"
+    CreateShortcut "$SMPROGRAMS\${CHECK}.lnk" "$INSTDIR\varlostudiji-provjera.exe" "--cekaj" \
+        "$INSTDIR\varlostudiji.exe"
 
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "${PRODUCT}"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
@@ -308,5 +313,6 @@ Section "Uninstall"
     !insertmacro RemoveFiles "$INSTDIR"
     RMDir "$LOCALAPPDATA\Programs" ; empty, it was made by the installer
     Delete "$SMPROGRAMS\${PRODUCT}.lnk"
+    Delete "$SMPROGRAMS\${CHECK}.lnk"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
 SectionEnd
