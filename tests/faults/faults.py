@@ -151,7 +151,7 @@ class Program:
             process.kill()
             process.communicate()
             raise
-        return process.returncode, output.decode("utf-8", "replace").replace("\r\n", "\n").strip()
+        return process.returncode, output.decode("utf-8", "replace").replace("\r", "").strip()
 
 
 def content(folder):
