@@ -1,28 +1,16 @@
 // The program itself, except that what its message boxes say goes to standard output and each is answered at
 // once, that the splash is dismissed at once, and that the main window is left as VARLO_LEAVE_BY says: by the
-// "exit" button, by its "close" box, or "not" at all. More variables, each for one kind of test:
+// "exit" button, by its "close" box, or "not" at all. More variables:
 //
 // VARLO_ASK: shows a question that the system's own box asks, prints its buttons and how numbers and texts
-// come
-//   out, and ends.
-// VARLO_WAIT=TEXT: says that the main window is there by a file "loaded.TEXT" in LOCALAPPDATA, and waits for
-// a
-//   file "leave" beside it.
-// VARLO_EDIT=FOLDER: makes the seven files in this folder of LOCALAPPDATA the program's tables.
-// VARLO_EXPORT_LOAD=NAME: opens a window of teaching load by this button of the main window, and exports to
-//   load.csv in VARLO_EXPORT_TO, or else in LOCALAPPDATA.
-// VARLO_HOLD=NAME: on Windows, opens no window, but this file of the data folder, which others may only read
-//   then; says so by a file "held" in LOCALAPPDATA, and waits for a file "release".
-// VARLO_KILL_AFTER=N: ends the program, as by a kill, after its N-th operation that changes the disk; the
-// number
-//   of them goes to the file "operations" in LOCALAPPDATA.
+// come out, and ends. VARLO_EXPORT_LOAD=NAME: opens a window of teaching load by this button of the main
+// window, and exports to load.csv in VARLO_EXPORT_TO, or else in LOCALAPPDATA. Those of
+// support/ProgramFaults.h.
 
-#include "data/FileOperations.h"
 #include "data/Files.h"
 #include "data/System.h"
-#include "data/modData.h"
 #include "support/MessageBoxOnScreen.h"
-#include "support/TestFolder.h"
+#include "support/ProgramFaults.h"
 #include "support/Windows.h"
 #include "ui/app/VarlostudijiApp.h"
 #include "ui/controls/Messages.h"
@@ -36,90 +24,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
-
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <csignal>
-#endif
 
 namespace
 {
-
-std::filesystem::path BaseFolder()
-{
-    return ToPath(System::EnvironmentVariable("LOCALAPPDATA"));
-}
-
-int Operations = 0;
-int LastOperation = 0; // 0: no end
-
-void CountOperation()
-{
-    if (++Operations != LastOperation)
-        return;
-#ifdef _WIN32
-    TerminateProcess(GetCurrentProcess(), 137);
-#else
-    std::raise(SIGKILL);
-#endif
-}
-
-/// An operation that ends the program when its turn has come.
-template<auto Operation>
-struct Counted;
-template<typename... Arguments, std::error_code (*FileOperations::*Operation)(Arguments...)>
-struct Counted<Operation>
-{
-    static std::error_code Run(Arguments... arguments)
-    {
-        const std::error_code result = (System::OwnFiles.*Operation)(arguments...);
-        CountOperation();
-        return result;
-    }
-};
-
-void CountOperations()
-{
-    const std::string number = System::EnvironmentVariable("VARLO_KILL_AFTER");
-    if (number.empty())
-        return;
-    LastOperation = std::stoi(number);
-    using Table = FileOperations;
-    System::Files.Open = Counted<&Table::Open>::Run;
-    System::Files.Write = Counted<&Table::Write>::Run;
-    System::Files.TakeAccess = Counted<&Table::TakeAccess>::Run;
-    System::Files.Flush = Counted<&Table::Flush>::Run;
-    System::Files.Rename = Counted<&Table::Rename>::Run;
-    System::Files.RemoveFile = Counted<&Table::RemoveFile>::Run;
-    System::Files.RemoveFolder = Counted<&Table::RemoveFolder>::Run;
-    System::Files.MakeFolder = Counted<&Table::MakeFolder>::Run;
-    System::Files.FlushFolder = Counted<&Table::FlushFolder>::Run;
-}
-
-void WaitFor(const std::filesystem::path& file)
-{
-    while (!std::filesystem::exists(file))
-        wxMilliSleep(1);
-}
-
-/// Whether this program was only to hold a file, which it has done then.
-bool HoldsAFile()
-{
-    const std::string name = System::EnvironmentVariable("VARLO_HOLD");
-    if (name.empty())
-        return false;
-#ifdef _WIN32
-    const std::filesystem::path path = ToPath(PathIn(modData::GetDataFolder(), name));
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    WriteBytes(BaseFolder() / "held", "");
-    WaitFor(BaseFolder() / "release");
-    CloseHandle(file);
-#endif
-    return true;
-}
 
 class PrintingAnswers : public MessageAnswers
 {
@@ -178,8 +85,7 @@ public:
 
     int OnExit() override
     {
-        if (Operations > 0)
-            WriteBytes(BaseFolder() / "operations", std::to_string(Operations));
+        WriteOperationCount();
         return VarlostudijiApp::OnExit();
     }
 
@@ -211,30 +117,11 @@ private:
         AskYesNo(FindOpen<frmSplash>(), "?", "Potvrda");
     }
 
-    static void WaitUntilTold()
-    {
-        const std::string name = System::EnvironmentVariable("VARLO_WAIT");
-        if (name.empty())
-            return;
-        WriteBytes(BaseFolder() / ToPath("loaded." + name), "");
-        WaitFor(BaseFolder() / "leave");
-    }
-
-    static void Edit()
-    {
-        const std::string folder = System::EnvironmentVariable("VARLO_EDIT");
-        if (folder.empty())
-            return;
-        for (Table* table : modData::AllTables())
-            *table = modData::LoadTable(
-                ToText(BaseFolder() / ToPath(folder) / ToPath(table->Layout().FileName)), table->Layout());
-    }
-
     void Leave()
     {
         FindOpen<frmSplash>()->CloseSplash();
         auto* window = FindOpen<frmMain>();
-        Edit();
+        EditTables();
         WaitUntilTold();
         const std::string load = System::EnvironmentVariable("VARLO_EXPORT_LOAD");
         if (!load.empty())

@@ -1,0 +1,37 @@
+// Loads the catalogue and saves it on the way out, twice, as the program does, but without a window: for the
+// tests that do so thousands of times. support/ProgramFaults.h has the variables.
+
+#include "data/Errors.h"
+#include "data/modData.h"
+#include "support/ProgramFaults.h"
+#include "validation/modCSVValidator.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+int main()
+{
+    if (HoldsAFile())
+        return EXIT_SUCCESS;
+    CountOperations();
+    try
+    {
+        modData::LoadAllTables();
+        EditTables();
+        WaitUntilTold();
+        if (!modCSVValidator::ValidateAll())
+        {
+            std::puts("invalid data");
+            return EXIT_FAILURE;
+        }
+        modData::SaveAllTables();
+        modData::SaveAllTables();
+    }
+    catch (const RuntimeError& error)
+    {
+        std::puts(error.what());
+        return EXIT_FAILURE;
+    }
+    WriteOperationCount();
+    return EXIT_SUCCESS;
+}
