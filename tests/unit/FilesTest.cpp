@@ -11,7 +11,9 @@
 
 #include <chrono>
 
-#ifndef _WIN32 // devices, and limits on the size of files
+#ifdef _WIN32
+#include <windows.h>
+#else // devices, and limits on the size of files
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -372,6 +374,54 @@ TEST_F(Files, AFileKeepsItsOwnerWhereThatIsPermitted)
 }
 
 #endif
+
+TEST_F(Files, ATemporaryNameHoldsTheProcessNumberAndIsNoLongerThanALongName)
+{
+#ifdef _WIN32
+    const std::string number = std::to_string(GetCurrentProcessId());
+#else
+    const std::string number = std::to_string(::getpid());
+#endif
+    EXPECT_EQ(TemporaryNameFor(Folder.Path() / "a.csv"), Folder.Path() / ("a.csv." + number + ".tmp"));
+    for (const std::size_t length : {101U, 255U})
+    {
+        const std::string name = TemporaryNameFor(std::string(length, 'x')).string();
+        EXPECT_EQ(name.size(), length);
+        EXPECT_TRUE(name.ends_with("x." + number + ".tmp")) << name;
+    }
+    EXPECT_EQ(TemporaryNameFor(std::string(100, 'x')).string(),
+              std::string(100, 'x') + "." + number + ".tmp");
+}
+
+// The system's own operations
+
+TEST_F(Files, ARenameThatTheSystemRefusesSaysSo)
+{
+    fs::create_directories(Folder.Path() / "full" / "inner");
+    WriteBytes(File, "old");
+    EXPECT_TRUE(System::OwnFiles.Rename(File, Folder.Path() / "full"));
+    EXPECT_TRUE(System::OwnFiles.Rename(Folder.Path() / "missing", File));
+    EXPECT_EQ(ReadBytes(File), "old");
+}
+
+TEST_F(Files, ARemovalOfWhatIsMissingIsNone)
+{
+    EXPECT_FALSE(System::OwnFiles.RemoveFile(Folder.Path() / "missing"));
+    EXPECT_FALSE(System::OwnFiles.RemoveFolder(Folder.Path() / "missing"));
+    fs::create_directories(Folder.Path() / "full" / "inner");
+    EXPECT_TRUE(System::OwnFiles.RemoveFolder(Folder.Path() / "full"));
+    EXPECT_TRUE(System::OwnFiles.RemoveFile(Folder.Path() / "full"));
+    EXPECT_TRUE(System::OwnFiles.MakeFolder(Folder.Path() / "full")) << "it exists";
+}
+
+TEST_F(Files, AFileIsNotCreatedOverAnother)
+{
+    WriteBytes(File, "old");
+    FileOperations::Handle handle = 0;
+    EXPECT_TRUE(System::OwnFiles.Open(File, OpenFor::NewFile, handle));
+    EXPECT_THROW(WriteNewFile(Path, "new", ""), FileError);
+    EXPECT_EQ(ReadBytes(File), "old");
+}
 
 // Bringing a file to windows-1250
 

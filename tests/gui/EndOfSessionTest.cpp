@@ -1,12 +1,10 @@
-// The system or a terminal asks the program to end by a signal, which only Linux does.
+// The system asks the program to end: Linux, or a terminal, by a signal, Windows by messages.
 
-#ifndef _WIN32
-
-#include "ui/app/LeaveSignals.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/TestFolder.h"
 #include "support/Windows.h"
+#include "ui/app/LeaveSignals.h"
 #include "ui/course_editor/frmKolegij.h"
 #include "ui/main/frmMain.h"
 #include "ui/startup/frmSplash.h"
@@ -16,17 +14,17 @@
 
 #include <csignal>
 
+#ifdef _WIN32
+#include <wx/msw/wrapwin.h>
+#endif
+
 namespace
 {
 
-class LeaveSignals : public testing::Test
+class EndOfSession : public testing::Test
 {
 protected:
-    LeaveSignals()
-    {
-        [[maybe_unused]] static const bool isListening = (LeaveOnSignals(), true);
-        SmallCatalogue().WriteTo(Folder.Data());
-    }
+    EndOfSession() { SmallCatalogue().WriteTo(Folder.Data()); }
 
     void TearDown() override { CloseAllWindows(); }
 
@@ -49,6 +47,27 @@ protected:
         EXPECT_TRUE(wxTopLevelWindows.empty());
     }
 
+    TestFolder Folder;
+    frmMain* Main = nullptr;
+};
+
+#ifdef _WIN32
+
+TEST_F(EndOfSession, SavesByTheMessagesOfWindows)
+{
+    Open();
+    EXPECT_TRUE(SendMessageW(Main->GetHWND(), WM_QUERYENDSESSION, 0, 0));
+    WaitForNoWindow();
+    EXPECT_TRUE(IsSaved());
+}
+
+#else
+
+class LeaveSignals : public EndOfSession
+{
+protected:
+    LeaveSignals() { [[maybe_unused]] static const bool isListening = (LeaveOnSignals(), true); }
+
     /// Opens a dialog by a button; the signal comes when it is there.
     void SignalWhileOpen(const char* button)
     {
@@ -59,9 +78,6 @@ protected:
         WaitForNoWindow();
         EXPECT_TRUE(IsSaved());
     }
-
-    TestFolder Folder;
-    frmMain* Main = nullptr;
 };
 
 TEST_F(LeaveSignals, LeaveByTheCloseBox)
@@ -134,6 +150,6 @@ TEST_F(LeaveSignals, WithInvalidDataSayWhatTheCloseBoxSays)
     EXPECT_FALSE(IsSaved());
 }
 
-} // namespace
-
 #endif
+
+} // namespace
