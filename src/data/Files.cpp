@@ -215,6 +215,22 @@ void ReplaceFile(std::string_view path, std::string_view content)
     WriteBesideAndReplace(file, TemporaryNameFor(file), content, path, Unused::Removed);
 }
 
+void CheckWritable(std::string_view path)
+{
+    constexpr std::size_t longestName = 255; // bytes on Linux, UTF-16 units on Windows
+    const fs::path file = ResolveSymlinks(ToPath(path));
+    if (file.filename().native().size() > longestName)
+        throw FileError(std::make_error_code(std::errc::filename_too_long), path);
+    const FileFacts facts = FactsOf(file, path);
+    RequireWritable(file, facts, path);
+    if (facts.Type == FileType::Other)
+        return;
+    const fs::path temporary = TemporaryNameFor(file);
+    Require(Files.RemoveFile(temporary), path); // of an earlier run
+    WriteNew(temporary, "", file, path);
+    Files.RemoveFile(temporary);
+}
+
 void ConvertFile(std::string_view path, std::string_view content)
 {
     const fs::path file = ResolveSymlinks(ToPath(path));

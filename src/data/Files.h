@@ -28,6 +28,10 @@ void MakeFolders(std::string_view path);
 /// @throws FileError, also for a file or folder that is read-only
 void ReplaceFile(std::string_view path, std::string_view content);
 
+/// Checks that ReplaceFile can write to a path, by making its temporary file and removing it. @throws
+/// FileError
+void CheckWritable(std::string_view path);
+
 /// The temporary file of ReplaceFile. It holds the process number, so that two copies of the program do not
 /// share one. Never longer than the file's own name, which the system accepts.
 std::filesystem::path TemporaryNameFor(std::filesystem::path file);

@@ -1,14 +1,13 @@
 #include "ects/frmECTSCalc.h"
 
-#include "data/Text.h"
 #include "ects/EctsReport.h"
 #include "ects/WorkloadLabels.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/DecimalSeparator.h"
+#include "ui/controls/ExportCommand.h"
 #include "ui/controls/Messages.h"
 #include "ui/controls/NativeFields.h"
-#include "ui/controls/SaveDialog.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -18,10 +17,15 @@
 #include <wx/textbuf.h>
 #include <wx/textctrl.h>
 
-#include <optional>
-
 namespace
 {
+
+constexpr ExportTexts ReportTexts = {.DialogTitle = "Spremi CSV izvještaj",
+                                     .Success = "CSV izvještaj je uspješno spremljen.",
+                                     .ErrorPrefix = "Greška kod izvoza: ",
+                                     .MessageTitle = "Export",
+                                     .SuccessNamesFile = false,
+                                     .ShowError = ShowWarning};
 
 /// The text of a box; line breaks of the user's are CR LF, as they are to be in a file.
 std::string ShownText(const wxTextCtrl& box)
@@ -231,24 +235,9 @@ void frmECTSCalc::cmdOcisti_Click()
 void frmECTSCalc::cmdExport_Click()
 {
     Recalculate();
-    try
-    {
-        SaveDialogOptions options;
-        options.Title = "Spremi CSV izvještaj";
-        options.ProposedName = EctsReportFileName(Fields.NazivKolegija);
-        options.OverwritePrompt = false;
-        options.PathMustExist = false;
-        const std::optional<std::string> chosen = ShowSaveDialog(this, options);
-        const std::string path(TrimBlanks(chosen.value_or("")));
-        if (path.empty())
-            return;
-        WriteEctsReport(path, Fields);
-        ShowInformation(this, "CSV izvještaj je uspješno spremljen.", "Export");
-    }
-    catch (const std::exception& error)
-    {
-        ShowWarning(this, std::string("Greška kod izvoza: ") + error.what(), "Export");
-    }
+    RunExport(
+        this, cdl1, ReportTexts, [this] { return EctsReportFileName(Fields.NazivKolegija); },
+        [this](const std::string& path) { WriteEctsReport(path, Fields); });
 }
 
 void frmECTSCalc::cmdClose_Click()

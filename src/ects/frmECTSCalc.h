@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ects/WorkloadModel.h"
+#include "ui/controls/SaveDialog.h"
 
 #include <wx/frame.h>
 
@@ -119,4 +120,6 @@ private:
     wxButton* cmdOcisti;
     wxButton* cmdExport;
     wxButton* cmdClose;
+    SaveDialogOptions cdl1{
+        .OverwritePrompt = false, .PathMustExist = false, .FileToWrite = WithoutBlanksAround};
 };

@@ -1,7 +1,6 @@
 #include "statistics/LoadExport.h"
 
 #include "data/Files.h"
-#include "data/Text.h"
 
 void AddLoadHeader(TextFile& file, std::string_view firstColumn)
 {
@@ -19,12 +18,4 @@ void AddLoadBlock(TextFile& file, std::string_view name, const std::vector<LoadL
         file.AddLine(text);
     }
     file.AddLine("");
-}
-
-std::string WithCsvEnding(std::string path)
-{
-    constexpr std::string_view ending = ".CSV";
-    if (path.size() < ending.size() || UpperCase(path.substr(path.size() - ending.size())) != ending)
-        path += ".csv";
-    return path;
 }

@@ -16,6 +16,3 @@ void AddLoadHeader(TextFile& file, std::string_view firstColumn);
 /// The table of one lecturer or department, the name before each line, and an empty line behind the last.
 /// Nothing is quoted: a ";" in a name stays as it is.
 void AddLoadBlock(TextFile& file, std::string_view name, const std::vector<LoadLine>& lines);
-
-/// The path with ".csv" behind it, unless it ends so in any case.
-std::string WithCsvEnding(std::string path);

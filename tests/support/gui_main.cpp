@@ -1,6 +1,7 @@
 // The application of the window tests.
 
 #include "data/Errors.h"
+#include "support/TestFolder.h"
 #include "support/Windows.h"
 
 #include <wx/app.h>
@@ -72,6 +73,8 @@ public:
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
+    // The system's dialogs must not change the user's settings.
+    SetEnvironment("GSETTINGS_BACKEND", "memory");
     wxApp::SetInstance(new TestApp);
     return wxEntry(argc, argv);
 }

@@ -142,6 +142,19 @@ TEST_F(Files, ANameMayBeAsLongAsTheSystemTakes)
     EXPECT_EQ(EntriesOf(Folder.Path()).size(), 2U);
 }
 
+TEST_F(Files, ACheckForWritingSaysWhatWouldFailAndLeavesNoTrace)
+{
+    EXPECT_NO_THROW(CheckWritable(Path));
+    EXPECT_FALSE(fs::exists(File));
+    WriteBytes(File, "old");
+    EXPECT_NO_THROW(CheckWritable(Path));
+    EXPECT_EQ(ReadBytes(File), "old");
+    for (const std::string& path : {Folder.PathOf("missing") + "/file.csv", Folder.PathOf("Varlostudiji"),
+                                    Folder.PathOf(std::string(300, 'a')), Path + "/file.csv"})
+        EXPECT_THROW(CheckWritable(path), FileError) << path;
+    EXPECT_EQ(EntriesOf(Folder.Path()), (std::vector<std::string>{"Varlostudiji", "file.csv"}));
+}
+
 TEST_F(Files, AFolderInTheTemporaryFilesPlaceIsAnErrorAndStays)
 {
     WriteBytes(File, "old");

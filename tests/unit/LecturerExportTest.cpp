@@ -3,7 +3,6 @@
 #include "data/Errors.h"
 #include "data/Files.h"
 #include "data/modData.h"
-#include "statistics/LoadExport.h"
 #include "support/Catalogue.h"
 #include "support/LoadChecks.h"
 
@@ -294,26 +293,6 @@ TEST_F(FailingLecturerExport, NoErrorReplacesTheOlderFileWhole)
     ExportAllLecturers(Folder.PathOf("older.csv"), All);
     EXPECT_EQ(FileLines(ReadBytes(Folder.Path() / "older.csv")).size(), 17U);
     EXPECT_EQ(EntriesOf(Folder.Path()), (Texts{"Varlostudiji", "older.csv"}));
-}
-
-// The ".csv" ending
-
-TEST(LoadExport, AppendsCsvToANameThatDoesNotEndSo)
-{
-    EXPECT_EQ(WithCsvEnding("a.csv"), "a.csv");
-    EXPECT_EQ(WithCsvEnding("a.CSV"), "a.CSV");
-    EXPECT_EQ(WithCsvEnding("a.cSv"), "a.cSv");
-    EXPECT_EQ(WithCsvEnding("a.csv.csv"), "a.csv.csv");
-    EXPECT_EQ(WithCsvEnding(".csv"), ".csv");
-    EXPECT_EQ(WithCsvEnding("a.txt"), "a.txt.csv");
-    EXPECT_EQ(WithCsvEnding("a.csv "), "a.csv .csv");
-    EXPECT_EQ(WithCsvEnding("acsv"), "acsv.csv");
-    EXPECT_EQ(WithCsvEnding("a.csv.txt"), "a.csv.txt.csv");
-    EXPECT_EQ(WithCsvEnding("a"), "a.csv");
-    EXPECT_EQ(WithCsvEnding("a."), "a..csv");
-    EXPECT_EQ(WithCsvEnding("csv"), "csv.csv");
-    EXPECT_EQ(WithCsvEnding("čšž"), "čšž.csv");
-    EXPECT_EQ(WithCsvEnding("mapa.csv/žć"), "mapa.csv/žć.csv");
 }
 
 } // namespace

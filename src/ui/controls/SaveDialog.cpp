@@ -1,12 +1,16 @@
 #include "ui/controls/SaveDialog.h"
 
 #include "data/Files.h"
+#include "data/Text.h"
 #include "ui/controls/Messages.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/filedlg.h>
+#include <wx/filename.h>
 
-#include <filesystem>
+#include <algorithm>
+#include <exception>
+#include <string_view>
 #include <utility>
 
 namespace
@@ -14,18 +18,75 @@ namespace
 
 SaveDialogChooser Chooser;
 
-std::string WithDefaultExtension(std::string path, const std::string& extension)
+/// A name that every system takes: with "_" for each character that a file name cannot hold on one of them.
+std::string AsFileName(std::string text)
 {
-    if (!ToPath(path).has_extension() && !extension.empty())
-        path += "." + extension;
-    return path;
+    static constexpr std::string_view forbidden = "\\/:*?\"<>|";
+    const auto isForbidden = [](char c)
+    { return forbidden.find(c) != std::string_view::npos || static_cast<unsigned char>(c) < ' '; };
+    std::ranges::replace_if(text, isForbidden, '_');
+    return text;
 }
 
-/// Some systems' dialogs leave the extension to the program, and so have not asked about the file it names.
-bool MayReplace(wxWindow* parent, const std::string& path, const std::string& chosen)
+wxString NameIn(const wxString& path)
 {
-    return path == chosen || !std::filesystem::exists(ToPath(path)) ||
+    return path.AfterLast(wxFILE_SEP_PATH);
+}
+
+/// Some systems' dialogs leave the default extension to the program. A name with a dot has an extension,
+/// ".csv" too.
+std::string WithDefaultExtension(const wxString& path, const std::string& extension)
+{
+    const bool addExtension = !NameIn(path).Contains(".") && !extension.empty();
+    return ToUtf8(path) + (addExtension ? "." + extension : "");
+}
+
+std::string FileToWrite(const std::string& chosen, const SaveDialogOptions& options)
+{
+    return options.FileToWrite == nullptr || chosen.empty() ? chosen : options.FileToWrite(chosen);
+}
+
+/// False when no file can be written there, which the user is told.
+bool CanWrite(wxWindow* parent, const std::string& path)
+{
+    try
+    {
+        CheckWritable(path);
+        return true;
+    }
+    catch (const std::exception& error)
+    {
+        ShowWarning(parent,
+                    std::string("Ovdje se ne može spremiti. Odaberite drugu mapu ili drugo ime.\r\n") +
+                        error.what());
+        return false;
+    }
+}
+
+bool MayReplace(wxWindow* parent, const std::string& path)
+{
+    return !wxFileName::Exists(ToWx(path)) ||
            AskYesNo(parent, "Datoteka već postoji. Želite li je zamijeniti?\r\n" + path, "Potvrda");
+}
+
+bool Accepts(wxWindow* parent, const std::string& path, const SaveDialogOptions& options)
+{
+    return (!options.PathMustExist || CanWrite(parent, path)) &&
+           (!options.OverwritePrompt || MayReplace(parent, path));
+}
+
+/// Shows the system's dialog once; empty when the user cancels. It neither checks the path nor asks about the
+/// file, since only the program knows the name that will be written.
+wxString Choose(wxWindow* parent, const SaveDialogOptions& options, const wxString& folder,
+                const wxString& name)
+{
+    const bool isPath = name.Contains(wxFILE_SEP_PATH);
+    wxFileDialog dialog(parent, ToWx(options.Title), folder, isPath ? name : wxString(), ToWx(options.Filter),
+                        wxFD_SAVE);
+    dialog.SetFilterIndex(options.FilterIndex - 1);
+    if (!isPath) // the constructor would add an extension to ".csv"
+        dialog.SetFilename(name);
+    return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
 }
 
 } // namespace
@@ -33,23 +94,43 @@ bool MayReplace(wxWindow* parent, const std::string& path, const std::string& ch
 std::optional<std::string> ShowSaveDialog(wxWindow* parent, const SaveDialogOptions& options)
 {
     if (Chooser)
-        return Chooser(options);
-
-    const long style = wxFD_SAVE | (options.OverwritePrompt ? wxFD_OVERWRITE_PROMPT : 0);
-    wxFileDialog dialog(parent, ToWx(options.Title), ToWx(options.InitialFolder), ToWx(options.ProposedName),
-                        ToWx(options.Filter), style);
-    dialog.SetFilterIndex(options.FilterIndex - 1);
-    while (dialog.ShowModal() == wxID_OK)
     {
-        const std::string chosen = ToUtf8(dialog.GetPath());
-        const std::string path = WithDefaultExtension(chosen, options.DefaultExtension);
-        if (!options.OverwritePrompt || MayReplace(parent, path, chosen))
-            return path;
+        const std::optional<std::string> chosen = Chooser(options);
+        return chosen ? std::optional(FileToWrite(*chosen, options)) : std::nullopt;
     }
-    return std::nullopt;
+
+    wxString folder = ToWx(options.InitialFolder);
+    wxString name = ToWx(AsFileName(options.ProposedName));
+    for (;;)
+    {
+        const wxString chosen = Choose(parent, options, folder, name);
+        if (chosen.empty())
+            return std::nullopt;
+        const std::string path = FileToWrite(WithDefaultExtension(chosen, options.DefaultExtension), options);
+        if (Accepts(parent, path, options))
+            return path;
+        // What was chosen is proposed again. A missing folder cannot be opened, so its path goes with the
+        // name.
+        const bool isFolderThere = wxFileName::DirExists(wxPathOnly(chosen));
+        folder = isFolderThere ? wxPathOnly(chosen) : wxString();
+        name = isFolderThere ? NameIn(chosen) : chosen;
+    }
 }
 
 void SetSaveDialogChooser(SaveDialogChooser chooser)
 {
     Chooser = std::move(chooser);
+}
+
+std::string WithCsvEnding(std::string path)
+{
+    constexpr std::string_view ending = ".CSV";
+    if (path.size() < ending.size() || UpperCase(path.substr(path.size() - ending.size())) != ending)
+        path += ".csv";
+    return path;
+}
+
+std::string WithoutBlanksAround(std::string path)
+{
+    return std::string(TrimBlanks(path));
 }

@@ -5,8 +5,8 @@
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
+#include "ui/controls/ExportCommand.h"
 #include "ui/controls/ListView.h"
-#include "ui/controls/LoadExportCommand.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
 
@@ -26,8 +26,9 @@ constexpr ListColumn StatColumns[] = {
     {"Semestar", 1400}, {"Tip", 1400}, {"P", 900}, {"S", 900}, {"V", 900}, {"ECTS", 1000}, {"Kolegija", 1400},
 };
 
-constexpr LoadExportTexts ExportTexts = {"Spremi statistiku zavoda", "statistika_svi_zavodi.csv",
-                                         "Statistika za sve zavode je eksportirana u:"};
+constexpr ExportTexts AllStatTexts = {.DialogTitle = "Spremi statistiku zavoda",
+                                      .Success = "Statistika za sve zavode je eksportirana u:",
+                                      .MessageTitle = "Izvoz završen"};
 
 const wxSize InitialSize = {980, 740}; // at 96 dots to the inch
 const wxSize SmallestSize = {680, 480};
@@ -163,8 +164,9 @@ void frmStatZavodi::lvwStatZavod_ColumnClick(int column)
 
 void frmStatZavodi::cmdExportAllStat_Click()
 {
-    RunLoadExport(this, ExportTexts,
-                  [this](const std::string& path) { ExportAllDepartments(path, CurrentFilter()); });
+    RunExport(
+        this, cdlSave, AllStatTexts, [] { return "statistika_svi_zavodi.csv"; },
+        [this](const std::string& path) { ExportAllDepartments(path, CurrentFilter()); });
 }
 
 void frmStatZavodi::cmdClose_Click()

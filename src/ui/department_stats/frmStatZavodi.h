@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/System.h"
+#include "ui/controls/SaveDialog.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 
 #include <wx/frame.h>
@@ -51,4 +53,5 @@ private:
     ListView* lvwStatZavod;
     wxButton* cmdExportAllStat;
     wxButton* cmdClose;
+    SaveDialogOptions cdlSave{.InitialFolder = System::ProgramFolder(), .FileToWrite = WithCsvEnding};
 };

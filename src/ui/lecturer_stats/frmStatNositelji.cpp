@@ -5,8 +5,8 @@
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
+#include "ui/controls/ExportCommand.h"
 #include "ui/controls/ListView.h"
-#include "ui/controls/LoadExportCommand.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
 
@@ -28,8 +28,9 @@ constexpr ListColumn StatColumns[] = {
     {"ECTS", 900},     {"Broj kolegija", 1200},
 };
 
-constexpr LoadExportTexts ExportTexts = {"Spremi statistiku nastavnika", "statistika_svi_nastavnici.csv",
-                                         "Statistika za sve nastavnike je eksportirana u:"};
+constexpr ExportTexts AllStatTexts = {.DialogTitle = "Spremi statistiku nastavnika",
+                                      .Success = "Statistika za sve nastavnike je eksportirana u:",
+                                      .MessageTitle = "Izvoz završen"};
 
 const wxSize InitialSize = {980, 740}; // at 96 dots to the inch
 const wxSize SmallestSize = {680, 480};
@@ -155,8 +156,9 @@ void frmStatNositelji::lvwStat_ColumnClick(int column)
 
 void frmStatNositelji::cmdExportAllStat_Click()
 {
-    RunLoadExport(this, ExportTexts,
-                  [this](const std::string& path) { ExportAllLecturers(path, CurrentFilter()); });
+    RunExport(
+        this, cdlSave, AllStatTexts, [] { return "statistika_svi_nastavnici.csv"; },
+        [this](const std::string& path) { ExportAllLecturers(path, CurrentFilter()); });
 }
 
 void frmStatNositelji::cmdClose_Click()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/System.h"
+#include "ui/controls/SaveDialog.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
 
 #include <wx/frame.h>
@@ -54,4 +56,5 @@ private:
     ListView* lvwStat;
     wxButton* cmdExportAllStat;
     wxButton* cmdClose;
+    SaveDialogOptions cdlSave{.InitialFolder = System::ProgramFolder(), .FileToWrite = WithCsvEnding};
 };

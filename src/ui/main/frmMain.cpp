@@ -13,7 +13,6 @@
 #include "ui/controls/ExportCommand.h"
 #include "ui/controls/ListView.h"
 #include "ui/controls/Messages.h"
-#include "ui/controls/SaveDialog.h"
 #include "ui/controls/SharedWindow.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
@@ -35,8 +34,8 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <functional>
-#include <utility>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace
@@ -55,45 +54,15 @@ constexpr ListColumn StatistikaColumns[] = {
 const wxSize InitialSize = {1120, 720}; // at 96 dots to the inch
 const wxSize SmallestSize = {760, 560};
 
-/// What a Save command of this window asks and says.
-struct ExportTexts
-{
-    std::string_view DialogTitle;
-    std::string_view Success;
-    std::string_view ErrorPrefix;
-};
-
-constexpr ExportTexts StatistikaTexts = {"Spremi statistiku (CSV)",
-                                         "Statistika exportirana u:", "Greška pri izvozu: "};
-constexpr ExportTexts KolegijiTexts = {"Spremi export (CSV)", "Export završen:", "Greška pri exportu: "};
+constexpr ExportTexts StatistikaTexts = {.DialogTitle = "Spremi statistiku (CSV)",
+                                         .Success = "Statistika exportirana u:",
+                                         .ErrorPrefix = "Greška pri izvozu: "};
+constexpr ExportTexts KolegijiTexts = {.DialogTitle = "Spremi export (CSV)",
+                                       .Success = "Export završen:",
+                                       .ErrorPrefix = "Greška pri exportu: "};
 
 constexpr std::string_view InvalidData =
     "CSV podaci nisu ispravni. Ispravite greške prije izvoza statistike.";
-
-/// Asks for a path, writes by `write` and says where; nothing when the user cancels.
-void SaveAndTell(wxWindow* parent, const ExportTexts& texts, std::string proposedName,
-                 const std::function<void(const std::string& path)>& write)
-{
-    SaveDialogOptions options;
-    options.Title = texts.DialogTitle;
-    options.ProposedName = std::move(proposedName);
-    const std::optional<std::string> path = ShowSaveDialog(parent, options);
-    if (path)
-        WriteAndTell(parent, *path, write, texts.Success);
-}
-
-/// Runs a whole export command; an error met anywhere in it is told to the user, and the program goes on.
-void RunTrapped(wxWindow* parent, const ExportTexts& texts, const std::function<void()>& command)
-{
-    try
-    {
-        command();
-    }
-    catch (const RuntimeError& error)
-    {
-        ShowCritical(parent, std::string(texts.ErrorPrefix) + error.Description());
-    }
-}
 
 } // namespace
 
@@ -458,23 +427,22 @@ void frmMain::cmdAbout_Click()
 
 void frmMain::cmdExport_Click()
 {
-    RunTrapped(this, StatistikaTexts,
-               [this]
-               {
-                   if (!modCSVValidator::ValidateAll())
-                   {
-                       ShowCritical(this, InvalidData);
-                       return;
-                   }
-                   SaveAndTell(this, StatistikaTexts, StatistikaFileName(ShownFilters()),
-                               [this](const std::string& path) { ExportStatistika_SelectedToCSV(path); });
-               });
+    RunExport(
+        this, cdlSave, StatistikaTexts,
+        [this]() -> std::optional<std::string>
+        {
+            if (modCSVValidator::ValidateAll())
+                return StatistikaFileName(ShownFilters());
+            ShowCritical(this, InvalidData);
+            return std::nullopt;
+        },
+        [this](const std::string& path) { ExportStatistika_SelectedToCSV(path); });
 }
 
 void frmMain::cmdExportVarlo_Click()
 {
-    RunTrapped(this, KolegijiTexts,
-               [this] { SaveAndTell(this, KolegijiTexts, "kolegiji_export.csv", ExportKolegijiToCSV); });
+    RunExport(
+        this, cdlSave, KolegijiTexts, [] { return "kolegiji_export.csv"; }, ExportKolegijiToCSV);
 }
 
 void frmMain::ExportStatistika_SelectedToCSV(std::string_view path)

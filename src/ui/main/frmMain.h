@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/controls/SaveDialog.h"
 #include "ui/main/CourseList.h"
 #include "ui/main/StatistikaExport.h"
 
@@ -101,4 +102,5 @@ private:
     wxButton* cmdECTSCalc;
     wxButton* cmdAbout;
     wxButton* cmdExit;
+    SaveDialogOptions cdlSave;
 };

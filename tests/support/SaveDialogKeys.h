@@ -1,0 +1,49 @@
+#pragma once
+
+#include <wx/filedlg.h>
+#include <wx/modalhook.h>
+#include <wx/stopwatch.h>
+#include <wx/timer.h>
+#include <wx/uiaction.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// While it lives, the system's own Save dialog is driven by keys: each time it opens, the next text is put
+/// in its name box and Enter pressed. After the last text Escape cancels it. A message of the dialog's own is
+/// closed by Escape, and the next text follows.
+class SaveDialogKeys : public wxModalDialogHook
+{
+public:
+    explicit SaveDialogKeys(std::vector<std::string> texts);
+    ~SaveDialogKeys() override;
+
+    /// What the name box held each time before a text was put there.
+    const std::vector<std::string>& Proposed() const { return ProposedNames; }
+
+protected:
+    int Enter(wxDialog* dialog) override;
+    void Exit(wxDialog* dialog) override;
+
+private:
+    enum class Step
+    {
+        Opening,
+        Filling,
+        Closing
+    };
+
+    void Work();
+    void Fill();
+
+    std::vector<std::string> Texts;
+    std::vector<std::string> ProposedNames;
+    wxFileDialog* Dialog = nullptr;
+    Step Now = Step::Opening;
+    wxStopWatch SinceStep;
+    wxTimer Timer;
+    wxUIActionSimulator Simulator;
+    bool Busy = false; ///< True while keys are pressed: the timer may fire again meanwhile.
+};
