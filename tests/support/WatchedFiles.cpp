@@ -166,6 +166,15 @@ const char* NameOf(FileOperation::Kind what)
     return names[what];
 }
 
+std::size_t FailingStep([[maybe_unused]] std::size_t count)
+{
+#ifdef _WIN32
+    return count / 40 + 1;
+#else
+    return 1;
+#endif
+}
+
 WatchedFiles::WatchedFiles(std::size_t failing, After after, int error)
     : Failing(failing),
       Then(after),

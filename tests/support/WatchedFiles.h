@@ -39,6 +39,10 @@ struct FileOperation
 /// "write", "flush folder" and so on.
 const char* NameOf(FileOperation::Kind what);
 
+/// A test that lets each of `count` operations fail in turn goes on by this many: natively by one. Under an
+/// emulator each operation is slow, so that only about forty of the same operations fail there.
+std::size_t FailingStep(std::size_t count);
+
 /// While it lives, the program's operations on files are recorded, and one of them fails in the way that
 /// hurts most: a write does half of its work first, a close closes. Nothing waits for the disk.
 class WatchedFiles
