@@ -12,7 +12,7 @@
 #include <chrono>
 
 #ifdef _WIN32
-#include <windows.h>
+#include <process.h>
 #else // devices, and limits on the size of files
 #include <csignal>
 #include <sys/resource.h>
@@ -391,7 +391,7 @@ TEST_F(Files, AFileKeepsItsOwnerWhereThatIsPermitted)
 TEST_F(Files, ATemporaryNameHoldsTheProcessNumberAndIsNoLongerThanALongName)
 {
 #ifdef _WIN32
-    const std::string number = std::to_string(GetCurrentProcessId());
+    const std::string number = std::to_string(::_getpid());
 #else
     const std::string number = std::to_string(::getpid());
 #endif
