@@ -468,7 +468,8 @@ TEST_F(MainWindow, AnErrorWhileSavingGoesUncaught)
     std::filesystem::remove_all(Folder.Data());
     WriteBytes(Folder.Data(), "a file where the folder was");
     Press(Window, "cmdExit");
-    EXPECT_NE(TakeUncaughtError().find("db_zavod.csv"), std::string::npos);
+    const std::string error = TakeUncaughtError();
+    EXPECT_NE(error.find(Folder.PathOf("Varlostudiji")), std::string::npos) << error;
 }
 
 // Keyboard
