@@ -149,9 +149,17 @@ void Keep(const CatalogueOnDisk& files, std::string_view name)
 {
     if (!IsAnyFileThere(files))
         return;
-    MakeCopiesFolder(files);
-    MakeWholeFolder(files, FolderOf(files, name),
-                    [&](const std::string& folder) { CopyFiles(files, folder); });
+    try
+    {
+        MakeCopiesFolder(files);
+        MakeWholeFolder(files, FolderOf(files, name),
+                        [&](const std::string& folder) { CopyFiles(files, folder); });
+    }
+    catch (const FileError&)
+    {
+        Files.RemoveFolder(ToPath(CopiesOf(files))); // if it is empty: a full disk needs the room
+        throw;
+    }
 }
 
 void KeepAnother(const CatalogueOnDisk& files)
