@@ -75,7 +75,7 @@ wxComboBox* NewComboBox(wxWindow* parent, std::string_view name, int characters)
                                wxCB_DROPDOWN, wxDefaultValidator, ToWx(name));
     PasteFirstLineOnly(*box);
     KeepTabOffArrow(*box);
-    box->SetMinSize({WidthForText(*box, characters), box->GetBestSize().y});
+    UseTextSize(*box, characters);
     return box;
 }
 
@@ -84,7 +84,7 @@ int WidthForText(const wxControl& control, int characters)
     return control.GetSizeFromTextSize(control.GetTextExtent(wxString('n', characters)).x).x;
 }
 
-void UseTextSize(wxTextCtrl& box, int characters)
+void UseTextSize(wxControl& box, int characters)
 {
     const wxSize padding = box.FromDIP(wxSize(0, 4)); // the least that the themes leave around a line
     box.SetMinSize(

@@ -43,9 +43,9 @@ wxComboBox* NewComboBox(wxWindow* parent, std::string_view name, int characters)
 /// The width that a control needs to show `characters` of text.
 int WidthForText(const wxControl& control, int characters);
 
-/// Makes a one-line text box wide enough for `characters`, and high enough for large text: some systems' own
+/// Makes a text box or combo box wide enough for `characters`, and high enough for large text: some systems' own
 /// height is too little for it.
-void UseTextSize(wxTextCtrl& box, int characters);
+void UseTextSize(wxControl& box, int characters);
 
 /// A list box of which one entry can be selected, or with another style more.
 wxListBox* NewListBox(wxWindow* parent, std::string_view name, long style = wxLB_SINGLE);
