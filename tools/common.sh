@@ -26,7 +26,7 @@ as_root() {
     if [[ $EUID -eq 0 ]]; then "$@"; else sudo "$@"; fi
 }
 
-# Fetches the system's package lists anew. A source that fails is no reason to stop: what is needed may be in the
+# Fetches the system's package lists again. A source that fails is no reason to stop: what is needed may be in the
 # others, or in the lists that are there.
 update_lists() {
     as_root apt-get update -q >&2 || say "apt-get update failed; going on with the lists that there are"

@@ -88,7 +88,7 @@ void Validate(Findings& findings)
         }
 }
 
-/// Leaves out what is told twice: an error that many rows meet at one place, and a danger there as well.
+/// Leaves out repeated findings: an error that many rows meet at one place, and a danger there as well.
 void RemoveRepeated(Findings& findings)
 {
     std::set<std::pair<Position, std::string>> errors;

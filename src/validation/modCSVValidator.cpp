@@ -26,7 +26,7 @@ bool IsDuplicate(const Table& table, const Row& row, std::int32_t id)
 /// Whether a row's reference leads to a row of a table.
 using Exists = bool (*)(std::int32_t id);
 
-/// "Table: column ne postoji › value" where a reference leads to no row; the value as it stands in the file.
+/// "Table: column ne postoji › value" where a reference leads to no row; the value is the text in the file.
 void CheckReference(const Row& row, std::size_t column, Exists exists, std::string_view what,
                     Messages& messages)
 {

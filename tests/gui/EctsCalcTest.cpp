@@ -65,7 +65,7 @@ std::string Figure(std::string text)
     return comma == std::string::npos ? text : text.replace(comma, 1, SystemDecimalSeparator());
 }
 
-/// Presses a key in whatever has the focus.
+/// Presses a key in the control that has the focus.
 void PressHere(int keyCode, int modifiers = 0)
 {
     wxUIActionSimulator().Char(keyCode, modifiers);

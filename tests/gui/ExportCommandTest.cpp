@@ -1,4 +1,4 @@
-// What becomes of an export's errors, of whatever type, and the name that the Save dialog makes of a typed
+// What becomes of an export's errors, whatever their type, and the name that the Save dialog makes of a typed
 // one.
 
 #include "ui/controls/ExportCommand.h"

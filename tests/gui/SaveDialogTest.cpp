@@ -152,7 +152,7 @@ TEST_F(RealSaveDialog, RefusesAFolderThatIsMissingAndAsksAgain)
 
 TEST_F(RealSaveDialog, RefusesAFolderThatMayNotBeWrittenAndAsksAgain)
 {
-    // The kernel's own folder lets nobody make a file in it.
+    // Not even root can make a file in the kernel's own folder.
 #ifdef _WIN32
     const std::string forbidden = "Z:\\proc\\n.csv";
 #else

@@ -46,7 +46,7 @@ std::string FileToWrite(const std::string& chosen, const SaveDialogOptions& opti
     return options.FileToWrite == nullptr || chosen.empty() ? chosen : options.FileToWrite(chosen);
 }
 
-/// False when no file can be written there, which the user is told.
+/// Whether a file can be written there. When not, a message tells the user why.
 bool CanWrite(wxWindow* parent, const std::string& path)
 {
     try
