@@ -15,10 +15,22 @@ target_include_directories(wx_windows SYSTEM INTERFACE
 target_compile_definitions(wx_windows INTERFACE __WXMSW__ UNICODE _UNICODE wxUSE_GUI=1)
 target_link_libraries(wx_windows INTERFACE
     ${libraries}/libwxmsw32u_core.a ${libraries}/libwxbase32u.a
-    # The parts of Windows that they call. (uuid goes before oleacc: both define some of the same names, and
-    # the linker minds only in the other order.)
-    comctl32 comdlg32 gdi32 gdiplus msimg32 ole32 oleaut32 rpcrt4 shell32 shlwapi uuid uxtheme version winmm
-    winspool oleacc)
+    # The parts of Windows that they call.
+    comctl32 comdlg32 gdi32 gdiplus msimg32 ole32 oleaut32 rpcrt4 shell32 shlwapi uuid winmm winspool)
+
+# Windows would look for these libraries beside the program first. They are loaded when they are first called; by
+# then the program has ruled that out (src/main_msw.cpp). The lists hold the functions that wxWidgets and the tests
+# call; linking fails when one is missing there.
+foreach(library oleacc uxtheme version)
+    set(list ${CMAKE_SOURCE_DIR}/packaging/windows/delayed/${library}.def)
+    set(delayed ${CMAKE_BINARY_DIR}/lib${library}_delayed.a)
+    add_custom_command(OUTPUT ${delayed}
+        COMMAND ${CMAKE_DLLTOOL} --input-def ${list} --output-delaylib ${delayed}
+        DEPENDS ${list})
+    add_custom_target(delayed_${library} DEPENDS ${delayed})
+    add_dependencies(wx_windows delayed_${library})
+    target_link_libraries(wx_windows INTERFACE ${delayed})
+endforeach()
 
 # What the resources need to know. A part of the numeric version holds 16 bits, too few for the date, hence the
 # year and the day apart.
