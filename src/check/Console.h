@@ -11,7 +11,8 @@ namespace Console
 /// The arguments of the program without its name.
 std::vector<std::string> Arguments(int count, char* const* values);
 
-/// Writes to the standard output: a console shows the right letters under any code page; elsewhere the output is UTF-8.
+/// Writes to the standard output: a console shows the right letters under any code page; elsewhere the output
+/// is UTF-8.
 void Write(std::string_view text);
 
 /// Waits for Enter and answers with what was typed before it; empty when there is no more input.

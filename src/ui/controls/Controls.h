@@ -43,8 +43,8 @@ wxComboBox* NewComboBox(wxWindow* parent, std::string_view name, int characters)
 /// The width that a control needs to show `characters` of text.
 int WidthForText(const wxControl& control, int characters);
 
-/// Makes a text box or combo box wide enough for `characters`, and high enough for large text: some systems' own
-/// height is too little for it.
+/// Makes a text box or combo box wide enough for `characters`, and high enough for large text: some systems'
+/// own height is too little for it.
 void UseTextSize(wxControl& box, int characters);
 
 /// A list box of which one entry can be selected, or with another style more.
