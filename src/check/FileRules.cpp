@@ -8,6 +8,8 @@
 #include "data/Windows1250.h"
 #include "data/modData.h"
 
+#include <utility>
+
 namespace Check
 {
 
@@ -45,7 +47,9 @@ public:
         if (Written.HasMark)
             Bytes.remove_prefix(modData::Utf8Mark.size());
         if (Written.HasMark && Written.In != Letters::Utf8)
-            Add(Group::Danger, 1, WordsOfMark);
+            AddMendable(Group::Danger, {Layout.FileName, 1, {}}, std::string(WordsOfMark));
+        HasQuotes = Bytes.find('"') != std::string_view::npos;
+        HasNuls = Bytes.find('\0') != std::string_view::npos;
         FindHeader();
         ForEachLine(Bytes, [this](const FileLine& line) { FindInLine(line); });
         AddLoneLF();
@@ -55,6 +59,11 @@ private:
     void Add(Group group, std::size_t line, std::string_view text, std::string_view column = {})
     {
         Found.push_back({group, {Layout.FileName, line, column}, std::string(text)});
+    }
+
+    void AddMendable(Group group, const FieldPlace& place, std::string text)
+    {
+        Found.push_back({group, place, std::move(text), true});
     }
 
     std::string_view ColumnAt(std::size_t position) const
@@ -91,18 +100,23 @@ private:
     {
         if (line.End == "\n" && LoneLFs++ == 0)
             FirstLoneLF = line.Number;
-        if (!Written.HasMark && Written.In == Letters::Mixed && IsBeyondAsciiUtf8(line.Text))
+        const FieldPlace place = {Layout.FileName, line.Number, {}};
+        if (line.Number > 1 && IsSeparatorsOnly(line.Text))
+            AddMendable(Group::Note, place, "redak ima samo razdjelnike, bez podataka");
+        if (!Written.HasMark && Written.In == Letters::Mixed && IsUtf8Text(line.Text))
             Add(Group::Danger, line.Number, WordsOfUtf8Line);
         if (!Written.HasMark && Written.In == Letters::Utf8 && !IsUtf8Told && IsBeyondAsciiUtf8(line.Text))
         {
-            Add(Group::Danger, line.Number, WordsOfUtf8);
+            AddMendable(Group::Danger, place, std::string(WordsOfUtf8));
             IsUtf8Told = true;
         }
-        ForEachField(line.Text,
-                     [&](std::string_view field, std::size_t position) {
-                         FindInField(field, {Layout.FileName, line.Number, ColumnAt(position)});
-                     });
-        if (line.Text.find('"') != std::string_view::npos)
+        const bool hasQuote = HasQuotes && line.Text.find('"') != std::string_view::npos;
+        if (hasQuote || HasNuls || Written.In == Letters::Utf8) // in most files nothing is to be found
+            ForEachField(line.Text,
+                         [&](std::string_view field, std::size_t position) {
+                             FindInField(field, {Layout.FileName, line.Number, ColumnAt(position)});
+                         });
+        if (hasQuote)
             FindQuotedEnd(line);
     }
 
@@ -117,7 +131,7 @@ private:
                                  "upitnicima: " +
                                      Shown(lost)});
         if (field.starts_with('"') && IsQuoted(field))
-            Found.push_back({Group::Note, place, std::string(WordsOfQuotes) + Shown(Decoded(field))});
+            AddMendable(Group::Note, place, std::string(WordsOfQuotes) + Shown(Decoded(field)));
     }
 
     void FindQuotedEnd(const FileLine& line)
@@ -131,7 +145,8 @@ private:
     void AddLoneLF()
     {
         if (LoneLFs > 0)
-            Add(Group::Danger, FirstLoneLF,
+            AddMendable(
+                Group::Danger, {Layout.FileName, FirstLoneLF, {}},
                 "kraj retka je samo LF umjesto CR LF, pa program redak i sljedeći čita kao jedan (takvih: " +
                     std::to_string(LoneLFs) + ")");
     }
@@ -143,6 +158,8 @@ private:
     std::size_t LoneLFs = 0;
     std::size_t FirstLoneLF = 0;
     bool IsUtf8Told = false;
+    bool HasQuotes = false;
+    bool HasNuls = false;
 };
 
 } // namespace

@@ -23,6 +23,7 @@ struct Finding
     Group In;
     FieldPlace Place;
     std::string Text;
+    bool MayBeMended = false; ///< Mend mends this kind where it needs no decision.
 };
 
 using Findings = std::vector<Finding>;

@@ -57,11 +57,12 @@ bool IsBeyondAsciiUtf8(std::string_view bytes)
     return isUtf8;
 }
 
-bool HasSharedLetter(std::string_view text)
+bool IsUtf8Text(std::string_view bytes)
 {
     bool isShared = false;
-    ForEachBeyondAscii(text, [&](std::string_view character, bool)
-                       { return !(isShared = IsInWindows1250(character)); });
+    if (IsBeyondAsciiUtf8(bytes))
+        ForEachBeyondAscii(bytes, [&](std::string_view character, bool)
+                           { return !(isShared = IsInWindows1250(character)); });
     return isShared;
 }
 
@@ -88,8 +89,7 @@ Writing WritingOf(std::string_view bytes)
     if (IsAscii(bytes) || IsBeyondAsciiUtf8(bytes))
         return {hasMark, hasMark || !IsAscii(bytes) ? Letters::Utf8 : Letters::Windows1250};
     bool isMixed = false;
-    ForEachLine(bytes, [&](const FileLine& line)
-                { isMixed = isMixed || (IsBeyondAsciiUtf8(line.Text) && HasSharedLetter(line.Text)); });
+    ForEachLine(bytes, [&](const FileLine& line) { isMixed = isMixed || IsUtf8Text(line.Text); });
     return {hasMark, isMixed ? Letters::Mixed : Letters::Windows1250};
 }
 

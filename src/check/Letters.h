@@ -26,9 +26,9 @@ Writing WritingOf(std::string_view bytes);
 /// Whether bytes are UTF-8 with at least one character beyond ASCII.
 bool IsBeyondAsciiUtf8(std::string_view bytes);
 
-/// Whether bytes that are UTF-8 hold a character that windows-1250 has too. In Croatian windows-1250 text no
-/// two letters in a row look like one.
-bool HasSharedLetter(std::string_view text);
+/// As IsBeyondAsciiUtf8, with at least one character that windows-1250 has too. In Croatian windows-1250 text
+/// no letters in a row look like one.
+bool IsUtf8Text(std::string_view bytes);
 
 /// The characters of a UTF-8 text that windows-1250 lacks, each once.
 std::string LettersLost(std::string_view text);

@@ -6,6 +6,7 @@
 #include "data/CatalogueSave.h"
 #include "data/modData.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace Check
@@ -76,10 +77,15 @@ Contents ContentsToCheck(const std::string& folder, const Terminal& terminal)
     return ReadContents(set.value_or(folder));
 }
 
-ExitCode CheckFolder(const std::string& folder, const Terminal& terminal)
+Findings CheckFolder(const std::string& folder, const Terminal& terminal)
 {
-    const Findings findings = FindingsOf(ContentsToCheck(folder, terminal));
+    Findings findings = FindingsOf(ContentsToCheck(folder, terminal));
     terminal.Write(ReportOf(findings));
+    return findings;
+}
+
+ExitCode CodeOf(const Findings& findings)
+{
     return HasErrors(findings) ? Invalid : Valid;
 }
 
@@ -106,21 +112,21 @@ ExitCode RepairFolder(const std::string& folder, const Terminal& terminal)
     if (!repair.Changes.empty())
         terminal.Write("Prijašnje su datoteke u mapi kopije.\n");
     terminal.Write("\n");
-    return CheckFolder(folder, terminal);
+    return CodeOf(CheckFolder(folder, terminal));
 }
 
-/// Offers the repair after a check that could do with one; `code` is the check's.
-ExitCode OfferRepair(const Options& options, const Terminal& terminal, ExitCode code)
+/// Offers the repair after a check that could do with one.
+ExitCode CheckAndOffer(const Options& options, const Terminal& terminal)
 {
-    if (!IsRepairable(options.Folder))
-        return code;
-    if (!options.Wait)
-    {
+    const Findings findings = CheckFolder(options.Folder, terminal);
+    const bool isOffered =
+        std::ranges::any_of(findings, &Finding::MayBeMended) && IsRepairable(options.Folder);
+    if (isOffered && !options.Wait)
         terminal.Write("\nDio toga popravlja varlostudiji-provjera --popravi.\n");
-        return code;
-    }
+    if (!isOffered || !options.Wait)
+        return CodeOf(findings);
     terminal.Write("\nDio toga može se popraviti odmah. Za popravak upišite da i pritisnite Enter: ");
-    return terminal.ReadLine() == "da" ? RepairFolder(options.Folder, terminal) : code;
+    return terminal.ReadLine() == "da" ? RepairFolder(options.Folder, terminal) : CodeOf(findings);
 }
 
 ExitCode Run(const Options& options, const Terminal& terminal)
@@ -130,7 +136,7 @@ ExitCode Run(const Options& options, const Terminal& terminal)
         terminal.Write("Katalog: " + options.Folder + "\n\n");
         if (options.Mend)
             return RepairFolder(options.Folder, terminal);
-        return OfferRepair(options, terminal, CheckFolder(options.Folder, terminal));
+        return CheckAndOffer(options, terminal);
     }
     catch (const RuntimeError& error)
     {
