@@ -18,6 +18,8 @@ windows_packages=(
 )
 setup_packages=(xauth zip nsis librsvg2-bin imagemagick)
 
+tests_at_once=$(($(nproc) + 3)) # more than processors, since the window tests mostly wait
+
 say() { echo "== $*" >&2; }
 fail() { echo "$*" >&2; exit 1; }
 
