@@ -468,7 +468,7 @@ TEST_F(MainWindow, AnErrorWhileSavingGoesUncaught)
     std::filesystem::remove_all(Folder.Data());
     WriteBytes(Folder.Data(), "a file where the folder was");
     Press(Window, "cmdExit");
-    EXPECT_EQ(TakeUncaughtError(), "57: Greška pri čitanju ili pisanju: " + Folder.Data());
+    EXPECT_EQ(TakeUncaughtError(), "57: Greška pri čitanju ili pisanju: " + Folder.PathOf("Varlostudiji"));
 }
 
 // Keyboard
