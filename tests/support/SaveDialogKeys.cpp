@@ -66,8 +66,8 @@ void SaveDialogKeys::Work()
         Now = cancel ? Step::Closing : Step::Filling;
         SinceStep.Start();
     }
-    else if (Now == Step::Filling && text == Texts[turn - 1])
-    {
+    else if (Now == Step::Filling && text && text->starts_with(Texts[turn - 1]))
+    { // GTK completes a typed name by that of a file
         Simulator.Char(WXK_RETURN);
         Now = Step::Closing;
         SinceStep.Start();
