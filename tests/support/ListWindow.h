@@ -54,10 +54,10 @@ inline std::vector<int> Arrows(const ListView* list)
     std::vector<int> columns;
     for (int column = 0; column < list->ColumnCount(); ++column)
     {
-        HDITEMW item = {};
-        item.mask = HDI_FORMAT;
-        SendMessageW(ListView_GetHeader(InnerList(list)->GetHWND()), HDM_GETITEMW,
-                     static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+        LVCOLUMNW item = {};
+        item.mask = LVCF_FMT;
+        SendMessageW(InnerList(list)->GetHWND(), LVM_GETCOLUMNW, static_cast<WPARAM>(column),
+                     reinterpret_cast<LPARAM>(&item));
         if ((item.fmt & (HDF_SORTUP | HDF_SORTDOWN)) != 0)
             columns.push_back(column);
     }

@@ -1,11 +1,13 @@
 #include "check/Provjera.h"
 #include "data/CatalogueOnDisk.h"
+#include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
+#include <memory>
 #include <vector>
 
 namespace
@@ -41,7 +43,26 @@ std::map<std::string, std::string> FilesOf(const std::filesystem::path& folder)
     return files;
 }
 
-TEST(Provjera, AValidCatalogueEndsWithZero)
+/// The program keeps its lock on the folder that it has loaded last, by the folder's number in the file
+/// system. When that folder is removed, a test's folder may get the number; so these tests load from a folder
+/// that stays.
+class ProvjeraRuns : public testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        Loaded = std::make_unique<TestFolder>();
+        SmallCatalogue().WriteTo(Loaded->Data());
+        modData::LoadAllTables();
+    }
+
+    static void TearDownTestSuite() { Loaded.reset(); }
+
+private:
+    static inline std::unique_ptr<TestFolder> Loaded;
+};
+
+TEST_F(ProvjeraRuns, AValidCatalogueEndsWithZero)
 {
     const TestFolder folder;
     SmallCatalogue().WriteTo(folder.Data());
@@ -55,7 +76,7 @@ TEST(Provjera, AValidCatalogueEndsWithZero)
                               "  db_kolegij.csv, redak 6: kolegij nema smjera: \"Kolegij bez smjera\"\n");
 }
 
-TEST(Provjera, AnInvalidCatalogueEndsWithOneAndStaysAsItIs)
+TEST_F(ProvjeraRuns, AnInvalidCatalogueEndsWithOneAndStaysAsItIs)
 {
     const TestFolder folder;
     Catalogue catalogue = SmallCatalogue();
@@ -68,7 +89,7 @@ TEST(Provjera, AnInvalidCatalogueEndsWithOneAndStaysAsItIs)
     EXPECT_EQ(FilesOf(folder.Data()), before);
 }
 
-TEST(Provjera, AFolderThatCannotBeReadEndsWithTwoAndIsNotMade)
+TEST_F(ProvjeraRuns, AFolderThatCannotBeReadEndsWithTwoAndIsNotMade)
 {
     const TestFolder folder;
     std::filesystem::remove(folder.Data());
@@ -81,7 +102,7 @@ TEST(Provjera, AFolderThatCannotBeReadEndsWithTwoAndIsNotMade)
     EXPECT_EQ(Provjera({folder.PathOf("file")}).Code, Check::NotDone);
 }
 
-TEST(Provjera, HelpIsShownOnRequestAndForWrongArguments)
+TEST_F(ProvjeraRuns, HelpIsShownOnRequestAndForWrongArguments)
 {
     const Outcome help = Provjera({"--help"});
     EXPECT_EQ(help.Code, Check::Valid);
@@ -96,7 +117,7 @@ TEST(Provjera, HelpIsShownOnRequestAndForWrongArguments)
     }
 }
 
-TEST(Provjera, AtItsEndItWaitsForEnterWhereAskedTo)
+TEST_F(ProvjeraRuns, AtItsEndItWaitsForEnterWhereAskedTo)
 {
     const TestFolder folder;
     SmallCatalogue().WriteTo(folder.Data());
@@ -134,7 +155,7 @@ void ExpectRefused(const TestFolder& folder, std::string_view text)
     EXPECT_EQ(FilesOf(folder.Data()), before);
 }
 
-TEST(Provjera, ARepairMendsKeepsACopyAndTellsWhatItDid)
+TEST_F(ProvjeraRuns, ARepairMendsKeepsACopyAndTellsWhatItDid)
 {
     const TestFolder folder;
     WriteBroken(folder);
@@ -166,7 +187,7 @@ TEST(Provjera, ARepairMendsKeepsACopyAndTellsWhatItDid)
     EXPECT_EQ(EntriesOf(folder.Data() / "kopije"), copies);
 }
 
-TEST(Provjera, ARepairLeavesMissingAndEmptyFilesAsTheyAre)
+TEST_F(ProvjeraRuns, ARepairLeavesMissingAndEmptyFilesAsTheyAre)
 {
     const TestFolder folder;
     WriteBroken(folder);
@@ -178,7 +199,7 @@ TEST(Provjera, ARepairLeavesMissingAndEmptyFilesAsTheyAre)
     EXPECT_TRUE(ReadBytes(folder.Data() / "db_studij.csv").starts_with("ID;Naziv;Kratica;Razina\r\n"));
 }
 
-TEST(Provjera, ARepairIsRefusedWhileTheProgramHasTheCatalogueOpen)
+TEST_F(ProvjeraRuns, ARepairIsRefusedWhileTheProgramHasTheCatalogueOpen)
 {
     const TestFolder folder;
     WriteBroken(folder);
@@ -197,7 +218,7 @@ void InterruptASave(const TestFolder& folder)
     WriteBytes(set / "gotovo", "2026-11-21_143005\r\n");
 }
 
-TEST(Provjera, ARepairIsRefusedWhileASaveIsPending)
+TEST_F(ProvjeraRuns, ARepairIsRefusedWhileASaveIsPending)
 {
     const TestFolder folder;
     WriteBroken(folder);
@@ -207,7 +228,7 @@ TEST(Provjera, ARepairIsRefusedWhileASaveIsPending)
                 "ih i pokušajte ponovno.");
 }
 
-TEST(Provjera, APendingSetIsJudgedInTheFilesStead)
+TEST_F(ProvjeraRuns, APendingSetIsJudgedInTheFilesStead)
 {
     const TestFolder folder;
     WriteBroken(folder);
@@ -224,7 +245,7 @@ TEST(Provjera, APendingSetIsJudgedInTheFilesStead)
     EXPECT_EQ(FilesOf(folder.Data()), before);
 }
 
-TEST(Provjera, ARepairThatCannotKeepACopyChangesNothing)
+TEST_F(ProvjeraRuns, ARepairThatCannotKeepACopyChangesNothing)
 {
     const TestFolder folder;
     WriteBroken(folder);
@@ -234,7 +255,7 @@ TEST(Provjera, ARepairThatCannotKeepACopyChangesNothing)
     EXPECT_EQ(FilesOf(folder.Data()), before);
 }
 
-TEST(Provjera, WhereItWaitsARepairIsOffered)
+TEST_F(ProvjeraRuns, WhereItWaitsARepairIsOffered)
 {
     const TestFolder folder;
     WriteBroken(folder);
