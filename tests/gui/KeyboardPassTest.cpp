@@ -2,8 +2,15 @@
 // after a command.
 
 #include "support/EveryWindow.h"
+#include "support/KeyAnswer.h"
+#include "support/SaveDialogKeys.h"
+#include "ui/course_editor/frmKolegij.h"
 
+#include <wx/bitmap.h>
 #include <wx/button.h>
+#include <wx/dcmemory.h>
+#include <wx/dcscreen.h>
+#include <wx/image.h>
 #include <wx/listbox.h>
 #include <wx/radiobut.h>
 #include <wx/stattext.h>
@@ -147,6 +154,28 @@ std::string FocusName(wxTopLevelWindow& window)
 {
     const wxWindow* control = ControlWith(window, wxWindow::FindFocus());
     return control == nullptr ? "none" : control->GetName().utf8_string();
+}
+
+/// What a button looks like at its left edge, halfway down; its caption is further in.
+std::vector<unsigned char> EdgeOf(const wxButton* button)
+{
+    constexpr int width = 6;
+    const wxRect place = button->GetScreenRect();
+    wxBitmap edge(width, 1);
+    wxMemoryDC copy(edge);
+    wxScreenDC screen;
+    copy.Blit(0, 0, width, 1, &screen, place.x, place.y + place.height / 2);
+    copy.SelectObject(wxNullBitmap);
+    const wxImage pixels = edge.ConvertToImage();
+    return {pixels.GetData(), pixels.GetData() + 3 * width};
+}
+
+/// Waits for the focus to come to a control of a window; the control that has it in the end.
+std::string FocusAfterAWhile(wxTopLevelWindow& window, const char* control)
+{
+    for (const wxStopWatch watch; watch.Time() < 1000 && FocusName(window) != control;)
+        Settle();
+    return FocusName(window);
 }
 
 // Tab
@@ -370,6 +399,18 @@ TEST_F(Keyboard, InTheOtherWindowsEnterAndEscapeInAFieldLoseNothing)
                  });
 }
 
+TEST_F(Keyboard, TheEditorsDefaultButtonIsDrawnAsOne)
+{
+    InWindow(EditorForm,
+             [](wxTopLevelWindow& window)
+             {
+                 Focus(Find<wxWindow>(&window, "txtNaziv"));
+                 EXPECT_NE(EdgeOf(Find<wxButton>(&window, "cmdSave")),
+                           EdgeOf(Find<wxButton>(&window, "cmdCancel")));
+             });
+    EXPECT_EQ(EdgeOf(Find<wxButton>(Main, "cmdAdd")), EdgeOf(Find<wxButton>(Main, "cmdDelete")));
+}
+
 // Where the focus is afterwards
 
 TEST_F(Keyboard, AfterTheEditorTheFocusIsWhereItWasOpenedFrom)
@@ -435,6 +476,27 @@ TEST_F(Keyboard, AfterAnExportTheFocusIsOnItsButton)
                      EXPECT_EQ(told.Shown().size(), 1U) << button;
                      EXPECT_EQ(FocusName(window), button);
                  });
+}
+
+TEST_F(Keyboard, AfterAMessageBoxTheKeysGoWhereTheyWentBefore)
+{
+    OpenMain();
+    auto* list = Find<ListView>(Main, "lvwKolegiji");
+    const int rows = list->RowCount();
+    Focus(list);
+    list->SelectRow(1);
+    const wxPoint pointer = wxGetMousePosition();
+    {
+        const KeyAnswer enter(WXK_RETURN);
+        PressKey(list, WXK_DELETE);
+        ASSERT_TRUE(enter.Shown());
+    }
+    wxUIActionSimulator().MouseMove(pointer);
+    EXPECT_EQ(list->RowCount(), rows) << "Enter answers no";
+    EXPECT_EQ(FocusAfterAWhile(*Main, "lvwKolegiji"), "lvwKolegiji");
+    wxUIActionSimulator().Char(WXK_DOWN);
+    Settle();
+    EXPECT_EQ(list->SelectedRow(), 2);
 }
 
 } // namespace

@@ -46,5 +46,5 @@ void ShowCritical(wxWindow* parent, std::string_view text, std::string_view titl
 
 bool AskYesNo(wxWindow* parent, std::string_view text, std::string_view title)
 {
-    return ShowBox(parent, text, title, wxYES_NO | wxICON_QUESTION) == wxID_YES;
+    return ShowBox(parent, text, title, wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION) == wxID_YES;
 }

@@ -13,5 +13,5 @@ void ShowInformation(wxWindow* parent, std::string_view text, std::string_view t
 void ShowWarning(wxWindow* parent, std::string_view text, std::string_view title = ProductName);
 void ShowCritical(wxWindow* parent, std::string_view text, std::string_view title = ProductName);
 
-/// Asks a question with Yes and No; true for Yes.
+/// Asks a question with Yes and No; true for Yes. No is the default button: a Yes loses something.
 bool AskYesNo(wxWindow* parent, std::string_view text, std::string_view title);

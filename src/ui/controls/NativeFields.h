@@ -18,5 +18,8 @@ void KeepTabOffArrow(wxComboBox& box);
 /// turns to another window, and comes back to the same field.
 bool LeavesField(const wxFocusEvent& lostFocus);
 
+/// Makes a button its window's default: Enter presses it, and it is drawn so.
+void MakeDefault(wxButton& button);
+
 /// Makes an access key move the focus to its button before it presses it.
 void FocusByAccessKey(wxButton& button);

@@ -66,6 +66,14 @@ bool LeavesField(const wxFocusEvent& lostFocus)
     return NativeFunction<int (*)(void*)>("gtk_widget_is_focus")(field->GetHandle()) == 0;
 }
 
+void MakeDefault(wxButton& button)
+{
+    button.SetDefault();
+    // The themes draw a default button as any other. This class gives it their accent colour.
+    void* style = NativeFunction<void* (*)(void*)>("gtk_widget_get_style_context")(button.GetHandle());
+    NativeFunction<void (*)(void*, const char*)>("gtk_style_context_add_class")(style, "suggested-action");
+}
+
 void FocusByAccessKey(wxButton& button)
 {
     using Connect = unsigned long (*)(void* object, const char* signal, int (*)(void*, int, void*),

@@ -2,6 +2,7 @@
 
 #include "ui/controls/NativeFields.h"
 
+#include <wx/button.h>
 #include <wx/clipbrd.h>
 #include <wx/event.h>
 #include <wx/msw/wrapwin.h>
@@ -54,6 +55,11 @@ bool LeavesField(const wxFocusEvent& lostFocus)
     const wxWindow* next = lostFocus.GetWindow();
     return next != nullptr && wxGetTopLevelParent(const_cast<wxWindow*>(next)) ==
                                   wxGetTopLevelParent(dynamic_cast<wxWindow*>(lostFocus.GetEventObject()));
+}
+
+void MakeDefault(wxButton& button)
+{
+    button.SetDefault();
 }
 
 void FocusByAccessKey(wxButton&)

@@ -61,7 +61,8 @@ GtkWidget* NewBox(const wxMessageDialog& dialog)
                             asks ? YesNoButtons : OkButton, "%s", dialog.GetMessage().utf8_str().data());
     setTitle(box, dialog.GetCaption().utf8_str());
     setImage(box, NewIcon(kind.IconName));
-    setDefault(box, asks ? YesResponse : OkResponse);
+    const int yesOrNo = (dialog.GetMessageDialogStyle() & wxNO_DEFAULT) != 0 ? NoResponse : YesResponse;
+    setDefault(box, asks ? yesOrNo : OkResponse);
     return box;
 }
 

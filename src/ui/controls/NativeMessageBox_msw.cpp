@@ -32,9 +32,11 @@ int ShowNativeMessageBox(const wxMessageDialog& dialog)
     const BoxKind& kind = *std::ranges::find(BoxKinds, dialog.GetEffectiveIcon(), &BoxKind::Icon);
     // A box without an owner must block all windows of the program itself.
     const UINT modality = parent != nullptr ? MB_APPLMODAL : MB_TASKMODAL;
-    const int answer =
-        MessageBoxW(parent != nullptr ? parent->GetHWND() : nullptr, dialog.GetMessage().wc_str(),
-                    dialog.GetCaption().wc_str(), (asks ? MB_YESNO : MB_OK) | kind.NativeIcon | modality);
+    const UINT defaultButton =
+        (dialog.GetMessageDialogStyle() & wxNO_DEFAULT) != 0 ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
+    const int answer = MessageBoxW(parent != nullptr ? parent->GetHWND() : nullptr,
+                                   dialog.GetMessage().wc_str(), dialog.GetCaption().wc_str(),
+                                   (asks ? MB_YESNO : MB_OK) | kind.NativeIcon | modality | defaultButton);
     switch (answer)
     {
     case IDOK:

@@ -6,6 +6,7 @@
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/Messages.h"
+#include "ui/controls/NativeFields.h"
 #include "ui/controls/OptionalSelection.h"
 #include "ui/controls/Strings.h"
 
@@ -56,7 +57,7 @@ frmKolegij::frmKolegij(wxWindow* parent)
     SetSizer(content);
     UseClientSizes(*this, *content, InitialSize, SmallestSize);
 
-    cmdSave->SetDefault();
+    MakeDefault(*cmdSave);
     SetEscapeId(cmdCancel->GetId());
     BindEvents();
 }
