@@ -178,6 +178,15 @@ std::string FocusAfterAWhile(wxTopLevelWindow& window, const char* control)
     return FocusName(window);
 }
 
+/// The control that gets the keys: what has the focus is not always what the toolkit knows to have it.
+std::string NameOfKeyReceiver(wxTopLevelWindow& window)
+{
+    const KeyLog log(window);
+    wxUIActionSimulator().Char(WXK_F9); // which means nothing anywhere
+    Settle();
+    return log.Controls().empty() ? "none" : log.Controls().front()->GetName().utf8_string();
+}
+
 // Tab
 
 TEST_F(Keyboard, TabGoesThroughEveryControlInReadingOrderAndBack)
@@ -327,6 +336,85 @@ TEST_F(Keyboard, AnAccessKeyWorksInEveryKindOfControl)
         });
 }
 
+// Keys of the main window
+
+TEST_F(Keyboard, CtrlFGoesToTheSearchTextFromEveryKindOfControl)
+{
+    OpenMain();
+    auto* search = Find<wxTextCtrl>(Main, "txtSearch");
+    Type(search, "in");
+    for (wxWindow* stop : KindsOfTabStops(*Main))
+    {
+        search->SelectNone();
+        PressKey(stop, 'F', wxMOD_CONTROL);
+        EXPECT_EQ(FocusName(*Main), "txtSearch") << "from " << stop->GetName();
+        EXPECT_EQ(search->GetStringSelection(), "in") << "from " << stop->GetName();
+    }
+    wxUIActionSimulator().Text("pr");
+    Settle();
+    EXPECT_EQ(search->GetValue(), "pr") << "what is typed replaces the text";
+}
+
+TEST_F(Keyboard, CtrlNAddsACourseFromEveryKindOfControl)
+{
+    OpenMain();
+    Find<ListView>(Main, "lvwKolegiji")->SelectRow(0);
+    for (wxWindow* stop : KindsOfTabStops(*Main))
+    {
+        std::string mode;
+        const ModalSession session([&](wxTopLevelWindow& window)
+                                   { mode = dynamic_cast<frmKolegij&>(window).Mode; });
+        PressKey(stop, 'N', wxMOD_CONTROL);
+        EXPECT_NO_THROW(session.Check()) << "from " << stop->GetName();
+        EXPECT_EQ(mode, "ADD") << "from " << stop->GetName();
+        EXPECT_EQ(NameOfKeyReceiver(*Main), stop->GetName().utf8_string());
+    }
+    EXPECT_EQ(Find<wxTextCtrl>(Main, "txtSearch")->GetValue(), "");
+}
+
+TEST_F(Keyboard, TheMainWindowsKeysMeanNothingInTheOtherWindows)
+{
+    for (const ProgramWindow& which : {LecturerForm, DepartmentForm, CalculatorForm})
+        InWindow(which,
+                 [&](wxTopLevelWindow& window)
+                 {
+                     for (wxWindow* stop : KindsOfTabStops(window))
+                     {
+                         const ModalSession editor([](wxTopLevelWindow&) {});
+                         PressKey(stop, 'N', wxMOD_CONTROL);
+                         EXPECT_THROW(editor.Check(), std::runtime_error) << stop->GetName();
+                         PressKey(stop, 'F', wxMOD_CONTROL);
+                         EXPECT_EQ(FocusName(window), stop->GetName().utf8_string());
+                     }
+                 });
+}
+
+TEST_F(Keyboard, DownAndEnterGoFromTheSearchTextToTheFirstCourse)
+{
+    OpenMain();
+    auto* search = Find<wxTextCtrl>(Main, "txtSearch");
+    auto* list = Find<ListView>(Main, "lvwKolegiji");
+    for (const int key : {WXK_DOWN, WXK_RETURN, WXK_NUMPAD_ENTER})
+    {
+        list->SelectRow(-1);
+        PressKey(search, key);
+        EXPECT_EQ(FocusName(*Main), "lvwKolegiji") << key;
+        EXPECT_EQ(list->SelectedRow(), 0) << key;
+        wxUIActionSimulator().Char(WXK_DOWN);
+        Settle();
+        EXPECT_EQ(list->SelectedRow(), 1) << key;
+    }
+
+    Type(search, "nema ga");
+    ASSERT_EQ(list->RowCount(), 0);
+    for (const int key : {WXK_DOWN, WXK_RETURN, WXK_NUMPAD_ENTER})
+    {
+        PressKey(search, key);
+        EXPECT_EQ(FocusName(*Main), "txtSearch") << key;
+        EXPECT_EQ(search->GetValue(), "nema ga") << key;
+    }
+}
+
 // Enter and Escape
 
 TEST_F(Keyboard, EnterAndSpacePressTheButtonThatHasTheFocus)
@@ -409,6 +497,30 @@ TEST_F(Keyboard, TheEditorsDefaultButtonIsDrawnAsOne)
                            EdgeOf(Find<wxButton>(&window, "cmdCancel")));
              });
     EXPECT_EQ(EdgeOf(Find<wxButton>(Main, "cmdAdd")), EdgeOf(Find<wxButton>(Main, "cmdDelete")));
+}
+
+TEST_F(Keyboard, TheStatisticsOpenWithTheFocusOnWhatIsChosenFirst)
+{
+    InWindow(LecturerForm,
+             [](wxTopLevelWindow& window)
+             {
+                 auto* lecturers = Find<wxListBox>(&window, "lstNastavnici");
+                 EXPECT_EQ(FocusName(window), "lstNastavnici");
+                 EXPECT_EQ(lecturers->GetSelection(), wxNOT_FOUND);
+                 EXPECT_EQ(Find<ListView>(&window, "lvwKolegiji")->RowCount(), 0);
+                 wxUIActionSimulator().Char(WXK_DOWN);
+                 Settle();
+                 EXPECT_NE(lecturers->GetSelection(), wxNOT_FOUND) << "the keys go there";
+                 EXPECT_GT(Find<ListView>(&window, "lvwStat")->RowCount(), 0);
+             });
+    InWindow(DepartmentForm,
+             [](wxTopLevelWindow& window)
+             {
+                 auto* departments = Find<wxChoice>(&window, "cboZavodi");
+                 EXPECT_EQ(departments->GetSelection(), 0);
+                 EXPECT_EQ(Find<ListView>(&window, "lvwKolegiji")->SelectedRow(), -1);
+                 EXPECT_EQ(NameOfKeyReceiver(window), "cboZavodi");
+             });
 }
 
 // Where the focus is afterwards

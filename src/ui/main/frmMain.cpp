@@ -26,6 +26,7 @@
 #include "ui/startup/frmAbout.h"
 #include "validation/modCSVValidator.h"
 
+#include <wx/accel.h>
 #include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/panel.h>
@@ -34,6 +35,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
@@ -91,6 +93,7 @@ frmMain::frmMain()
 
     UseClientSizes(*this, *margin, InitialSize, SmallestSize);
     BindEvents();
+    SetAccelerators();
 }
 
 wxSizer* frmMain::FilterRow()
@@ -183,7 +186,8 @@ void frmMain::BindEvents()
     cboSmjer->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboSmjer_Click(); });
     cboSemestar->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboSemestar_Click(); });
     txtSearch->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { txtSearch_Change(); });
-    txtSearch->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& key) { key.Skip(!txtSearch_KeyDown(key)); });
+    // Before the system gives Enter a meaning of its own.
+    txtSearch->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& key) { key.Skip(!txtSearch_KeyDown(key)); });
     lvwKolegiji->OnColumnClick([this](int column) { lvwKolegiji_ColumnClick(column); });
     lvwKolegiji->OnActivate([this] { lvwKolegiji_DblClick(); });
     lvwKolegiji->OnKey([this](const wxKeyEvent& key) { return lvwKolegiji_KeyDown(key); });
@@ -199,6 +203,25 @@ void frmMain::BindEvents()
     cmdAbout->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdAbout_Click(); });
     cmdExit->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExit_Click(); });
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Form_Unload(); });
+}
+
+void frmMain::SetAccelerators()
+{
+    // They reach the window before any control. Only the focus in this window calls them.
+    const int find = wxWindow::NewControlId();
+    const int add = wxWindow::NewControlId();
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { FindText(); }, find);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { cmdAdd_Click(); }, add);
+    const wxAcceleratorEntry keys[] = {{wxACCEL_CTRL, 'F', find}, {wxACCEL_CTRL, 'N', add}};
+    SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(std::size(keys)), keys));
+}
+
+void frmMain::FindText()
+{
+    txtSearch->SetFocus();
+    txtSearch->SelectAll();
 }
 
 void frmMain::Form_Load()
@@ -325,11 +348,29 @@ void frmMain::txtSearch_Change()
 
 bool frmMain::txtSearch_KeyDown(const wxKeyEvent& key)
 {
-    if (key.GetKeyCode() != WXK_ESCAPE)
+    switch (key.GetModifiers() == wxMOD_NONE ? key.GetKeyCode() : WXK_NONE)
+    {
+    case WXK_ESCAPE:
+        txtSearch->SetValue("");
+        RefreshGrids();
+        return true;
+    case WXK_DOWN:
+    case WXK_NUMPAD_DOWN:
+    case WXK_RETURN:
+    case WXK_NUMPAD_ENTER:
+        GoToFirstCourse();
+        return true;
+    default:
         return false;
-    txtSearch->SetValue("");
-    RefreshGrids();
-    return true;
+    }
+}
+
+void frmMain::GoToFirstCourse()
+{
+    if (lvwKolegiji->RowCount() == 0)
+        return;
+    lvwKolegiji->SetFocus();
+    lvwKolegiji->SelectRow(0);
 }
 
 void frmMain::lvwKolegiji_ColumnClick(int column)

@@ -39,6 +39,7 @@ private:
     wxSizer* FilterRow();
     wxSizer* CommandColumn();
     void BindEvents();
+    void SetAccelerators();
 
     // Lists and filter boxes
     void SetupKolegijiColumns();
@@ -51,6 +52,11 @@ private:
     StatistikaFilters ShownFilters() const;
     void RefreshStatistika();
     void RefreshGrids();
+
+    /// Moves the focus to the search text and selects it.
+    void FindText();
+    /// Moves the focus to the first course, if there is one, and selects it.
+    void GoToFirstCourse();
 
     // Events; those of keys return whether the key is dealt with
     void cboRazina_Click();
