@@ -467,7 +467,7 @@ TEST_F(Keyboard, TheAboutBoxClosesByEnterAndByEscape)
                  });
 }
 
-TEST_F(Keyboard, InTheOtherWindowsEnterAndEscapeInAFieldLoseNothing)
+TEST_F(Keyboard, InTheOtherWindowsEnterInAFieldDoesNothing)
 {
     for (const ProgramWindow& which : {LecturerForm, DepartmentForm, CalculatorForm})
         InWindow(which,
@@ -476,14 +476,60 @@ TEST_F(Keyboard, InTheOtherWindowsEnterAndEscapeInAFieldLoseNothing)
                      ButtonLog pressed(window);
                      for (wxWindow* stop : KindsOfTabStops(window))
                      {
-                         if (dynamic_cast<wxButton*>(stop) != nullptr)
-                             continue;
-                         PressKey(stop, WXK_ESCAPE);
-                         if (dynamic_cast<wxChoice*>(stop) == nullptr) // there it opens the list
-                             PressKey(stop, WXK_RETURN);
+                         if (dynamic_cast<wxButton*>(stop) != nullptr ||
+                             dynamic_cast<wxChoice*>(stop) != nullptr)
+                             continue; // which it presses or opens
+                         PressKey(stop, WXK_RETURN);
                          EXPECT_EQ(pressed.Take(0), "") << stop->GetName();
                          EXPECT_TRUE(window.IsShown()) << stop->GetName();
                      }
+                 });
+}
+
+TEST_F(Keyboard, EscapeClosesTheWindowsOfStatisticsFromEveryKindOfControl)
+{
+    for (const ProgramWindow& which : {LecturerForm, DepartmentForm})
+        for (std::size_t kind = 0, kinds = 1; kind < kinds; ++kind)
+            InWindow(which,
+                     [&](wxTopLevelWindow& window)
+                     {
+                         const std::vector<wxWindow*> stops = KindsOfTabStops(window);
+                         kinds = stops.size();
+                         const wxString name = stops[kind]->GetName();
+                         PressKey(stops[kind], WXK_ESCAPE);
+                         EXPECT_EQ(wxWindow::FindWindowByName(which.Name), nullptr)
+                             << which.Name << ", " << name;
+                     });
+}
+
+TEST_F(Keyboard, EscapeInTheCalculatorLosesNothing)
+{
+    InWindow(CalculatorForm,
+             [](wxTopLevelWindow& window)
+             {
+                 for (wxWindow* stop : KindsOfTabStops(window))
+                 {
+                     PressKey(stop, WXK_ESCAPE);
+                     EXPECT_TRUE(window.IsShown()) << stop->GetName();
+                 }
+             });
+}
+
+TEST_F(Keyboard, AnOpenDropDownListTakesTheFirstEscape)
+{
+    for (const ProgramWindow& which : {LecturerForm, DepartmentForm})
+        InWindow(which,
+                 [&](wxTopLevelWindow& window)
+                 {
+                     auto* box = Find<wxChoice>(&window, "cboRazina");
+                     Open(box);
+                     wxUIActionSimulator().Char(WXK_ESCAPE);
+                     Settle();
+                     ASSERT_EQ(wxWindow::FindWindowByName(which.Name), &window);
+                     EXPECT_FALSE(IsOpen(box));
+                     wxUIActionSimulator().Char(WXK_ESCAPE);
+                     Settle();
+                     EXPECT_EQ(wxWindow::FindWindowByName(which.Name), nullptr) << which.Name;
                  });
 }
 

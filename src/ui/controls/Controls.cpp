@@ -141,6 +141,18 @@ void UseClientSizes(wxTopLevelWindow& window, wxSizer& layout, wxSize initial, w
     window.SetClientSize(initial);
 }
 
+void CloseByEscape(wxTopLevelWindow& window)
+{
+    window.Bind(wxEVT_CHAR_HOOK,
+                [&window](wxKeyEvent& key)
+                {
+                    if (key.GetKeyCode() == WXK_ESCAPE && !IsKeyOfOpenList())
+                        window.Close();
+                    else
+                        key.Skip();
+                });
+}
+
 int Gap(const wxWindow* window)
 {
     return window->FromDIP(6);

@@ -65,5 +65,8 @@ int WithTextSize(const wxWindow& window, int pixels);
 /// can make it: both for text of the usual size at 96 dots to the inch, and no less than its layout needs.
 void UseClientSizes(wxTopLevelWindow& window, wxSizer& layout, wxSize initial, wxSize smallest);
 
+/// Makes Escape close a window. An open drop-down list in it takes the key for itself first.
+void CloseByEscape(wxTopLevelWindow& window);
+
 /// The gap between neighbouring controls, in pixels of the window's screen.
 int Gap(const wxWindow* window);

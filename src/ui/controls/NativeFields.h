@@ -18,6 +18,9 @@ void KeepTabOffArrow(wxComboBox& box);
 /// turns to another window, and comes back to the same field.
 bool LeavesField(const wxFocusEvent& lostFocus);
 
+/// Whether the key that a window receives belongs to an open drop-down list in it.
+bool IsKeyOfOpenList();
+
 /// Makes a button its window's default: Enter presses it, and it is drawn so.
 void MakeDefault(wxButton& button);
 

@@ -66,6 +66,11 @@ bool LeavesField(const wxFocusEvent& lostFocus)
     return NativeFunction<int (*)(void*)>("gtk_widget_is_focus")(field->GetHandle()) == 0;
 }
 
+bool IsKeyOfOpenList()
+{
+    return false; // an open list is a window of its own, which receives its keys
+}
+
 void MakeDefault(wxButton& button)
 {
     button.SetDefault();

@@ -57,6 +57,11 @@ bool LeavesField(const wxFocusEvent& lostFocus)
                                   wxGetTopLevelParent(dynamic_cast<wxWindow*>(lostFocus.GetEventObject()));
 }
 
+bool IsKeyOfOpenList()
+{
+    return SendMessageW(GetFocus(), CB_GETDROPPEDSTATE, 0, 0) != 0;
+}
+
 void MakeDefault(wxButton& button)
 {
     button.SetDefault();

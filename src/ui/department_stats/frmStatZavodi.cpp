@@ -103,6 +103,7 @@ void frmStatZavodi::BindEvents()
     lvwStatZavod->OnColumnClick([this](int column) { lvwStatZavod_ColumnClick(column); });
     cmdExportAllStat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportAllStat_Click(); });
     cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdClose_Click(); });
+    CloseByEscape(*this);
 }
 
 void frmStatZavodi::Form_Load()

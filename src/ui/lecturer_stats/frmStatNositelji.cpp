@@ -100,6 +100,7 @@ void frmStatNositelji::BindEvents()
     lvwStat->OnColumnClick([this](int column) { lvwStat_ColumnClick(column); });
     cmdExportAllStat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportAllStat_Click(); });
     cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdClose_Click(); });
+    CloseByEscape(*this);
 }
 
 void frmStatNositelji::Form_Load()
