@@ -190,6 +190,35 @@ TEST_F(RealSaveDialog, AsksAboutTheNameThatWillBeWritten)
     }
 }
 
+TEST_F(RealSaveDialog, OpensInTheFolderOfTheLastSave)
+{
+    const auto in = [this](const char* folder, const char* name)
+    { return File(folder) + std::string(1, std::filesystem::path::preferred_separator) + name; };
+    std::filesystem::create_directory(Folder.Path() / "a");
+    std::filesystem::create_directory(Folder.Path() / "b");
+    EXPECT_EQ(Export(Main, "cmdExportVarlo", {in("a", "k.csv")}),
+              Texts{"Export završen:\r\n" + in("a", "k.csv")});
+    EXPECT_EQ(Export(Main, "cmdExport", {"s.csv"}),
+              Texts{"Statistika exportirana u:\r\n" + in("a", "s.csv")});
+
+    auto* lecturers = Open<frmStatNositelji>("cmdStatNositelji");
+    Export(lecturers, "cmdExportAllStat", {in("b", "n.csv")});
+    auto* calculator = Open<frmECTSCalc>("cmdECTSCalc");
+    EXPECT_EQ(Export(calculator, "cmdExport", {}), Texts{}) << "cancelled, which is no save";
+    EXPECT_EQ(Export(calculator, "cmdExport", {"r.csv"}), Texts{"CSV izvještaj je uspješno spremljen."});
+    EXPECT_EQ(EntriesOf(Folder.Path() / "b"), (Texts{"n.csv", "r.csv"}));
+}
+
+TEST_F(RealSaveDialog, DoesNotOpenInALastFolderThatIsGone)
+{
+    std::filesystem::create_directory(Folder.Path() / "a");
+    Export(Main, "cmdExportVarlo",
+           {File("a") + std::string(1, std::filesystem::path::preferred_separator) + "k.csv"});
+    std::filesystem::remove_all(Folder.Path() / "a");
+    EXPECT_EQ(Export(Main, "cmdExportVarlo", {File("k.csv")}), Texts{"Export završen:\r\n" + File("k.csv")});
+    EXPECT_EQ(FilesWritten(), Texts{"k.csv"});
+}
+
 // The calculator's report, whose dialog asks and checks nothing
 
 class RealReportDialog : public RealSaveDialog

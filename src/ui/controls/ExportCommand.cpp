@@ -52,6 +52,7 @@ void RunExport(wxWindow* parent, SaveDialogOptions& dialog, const ExportTexts& t
             return;
         isWriting = true;
         write(path);
+        NoteSaved(path);
         const std::string success(texts.Success);
         ShowInformation(parent, texts.SuccessNamesFile ? success + "\r\n" + path : success,
                         texts.MessageTitle);

@@ -18,6 +18,16 @@ namespace
 
 SaveDialogChooser Chooser;
 
+wxString FolderOfLastSave; // empty before the first
+
+/// Where the dialog opens; empty: where the system opens it.
+wxString FirstFolder(const SaveDialogOptions& options)
+{
+    if (!options.InitialFolder.empty())
+        return ToWx(options.InitialFolder);
+    return wxFileName::DirExists(FolderOfLastSave) ? FolderOfLastSave : wxString();
+}
+
 /// A name that every system takes: with "_" for each character that a file name cannot hold on one of them.
 std::string AsFileName(std::string text)
 {
@@ -99,7 +109,7 @@ std::optional<std::string> ShowSaveDialog(wxWindow* parent, const SaveDialogOpti
         return chosen ? std::optional(FileToWrite(*chosen, options)) : std::nullopt;
     }
 
-    wxString folder = ToWx(options.InitialFolder);
+    wxString folder = FirstFolder(options);
     wxString name = ToWx(AsFileName(options.ProposedName));
     for (;;)
     {
@@ -115,6 +125,11 @@ std::optional<std::string> ShowSaveDialog(wxWindow* parent, const SaveDialogOpti
         folder = isFolderThere ? wxPathOnly(chosen) : wxString();
         name = isFolderThere ? NameIn(chosen) : chosen;
     }
+}
+
+void NoteSaved(const std::string& path)
+{
+    FolderOfLastSave = wxPathOnly(ToWx(path));
 }
 
 void SetSaveDialogChooser(SaveDialogChooser chooser)
