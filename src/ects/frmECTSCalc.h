@@ -39,8 +39,8 @@ private:
     wxSizer* TotalsFrame();
     wxSizer* CommandRow();
     wxTextCtrl* NewField(const std::string& name, std::string& text);
-    /// A read-only box; Tab passes over it, so that entries follow one another, unless it is a tab stop.
-    wxTextCtrl* NewOutput(const std::string& name, std::string& text, bool tabStop = false);
+    /// A read-only box; Tab passes over it, so that entries follow one another.
+    wxTextCtrl* NewOutput(const std::string& name, std::string& text);
     wxTextCtrl* AddField(wxTextCtrl* box, std::string& text);
     void AddOptions(wxStaticBoxSizer& frame, wxRadioButton*& norm, std::string_view normName,
                     wxRadioButton*& estimate, std::string_view estimateName);

@@ -72,22 +72,18 @@ void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box, std::string_view outer, std:
     SetSpokenName(*box, std::string(outer) + ", " + std::string(own));
 }
 
-/// A box that shows a figure. Whether Tab stops at it is the window's choice; the systems do not agree.
+/// A box that shows a figure. Tab does not stop at it: there is nothing to type.
 class OutputBox : public wxTextCtrl
 {
 public:
-    OutputBox(wxWindow* parent, const std::string& name, bool tabStop)
+    OutputBox(wxWindow* parent, const std::string& name)
         : wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_READONLY,
-                     wxDefaultValidator, ToWx(name)),
-          TabStop(tabStop)
+                     wxDefaultValidator, ToWx(name))
     {
         SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
     }
 
-    bool AcceptsFocusFromKeyboard() const override { return TabStop && AcceptsFocus(); }
-
-private:
-    bool TabStop;
+    bool AcceptsFocusFromKeyboard() const override { return false; }
 };
 
 /// Adds something to a frame, as wide as the frame.
@@ -145,9 +141,9 @@ wxTextCtrl* frmECTSCalc::NewField(const std::string& name, std::string& text)
     return AddField(NewTextBox(Panel, name, NumberCharacters), text);
 }
 
-wxTextCtrl* frmECTSCalc::NewOutput(const std::string& name, std::string& text, bool tabStop)
+wxTextCtrl* frmECTSCalc::NewOutput(const std::string& name, std::string& text)
 {
-    auto* box = new OutputBox(Panel, name, tabStop);
+    auto* box = new OutputBox(Panel, name);
     UseTextSize(*box, NumberCharacters);
     return AddField(box, text);
 }
@@ -286,7 +282,7 @@ wxSizer* frmECTSCalc::TotalsFrame()
     for (std::size_t i = 0; i < TotalLabels.size(); ++i)
     {
         grid->AddGrowableCol(i, 1);
-        txtUkupnoOpter[i] = NewOutput(Element("txtUkupnoOpter", i), Fields.UkupnoOpter[i], true);
+        txtUkupnoOpter[i] = NewOutput(Element("txtUkupnoOpter", i), Fields.UkupnoOpter[i]);
         AddBox(*grid, txtUkupnoOpter[i], EctsGroup::UkupnoOpter, TotalLabels[i]);
     }
     AddWide(*frame, grid);
