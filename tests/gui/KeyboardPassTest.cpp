@@ -545,6 +545,8 @@ TEST_F(Keyboard, TheEditorsDefaultButtonIsDrawnAsOne)
     EXPECT_EQ(EdgeOf(Find<wxButton>(Main, "cmdAdd")), EdgeOf(Find<wxButton>(Main, "cmdDelete")));
 }
 
+// Where the focus is at first
+
 TEST_F(Keyboard, TheStatisticsOpenWithTheFocusOnWhatIsChosenFirst)
 {
     InWindow(LecturerForm,
@@ -655,6 +657,36 @@ TEST_F(Keyboard, AfterAMessageBoxTheKeysGoWhereTheyWentBefore)
     wxUIActionSimulator().Char(WXK_DOWN);
     Settle();
     EXPECT_EQ(list->SelectedRow(), 2);
+}
+
+TEST_F(Keyboard, AfterTheSaveDialogTheFocusIsOnTheButtonThatOpenedIt)
+{
+    const std::pair<ProgramWindow, const char*> exports[] = {
+        {MainForm, "cmdExportVarlo"}, {LecturerForm, "cmdExportAllStat"}, {CalculatorForm, "cmdExport"}};
+    for (const auto& [which, button] : exports)
+        InWindow(which,
+                 [&](wxTopLevelWindow& window)
+                 {
+                     const SaveDialogKeys cancel({});
+                     PressKey(Find<wxWindow>(&window, button), WXK_SPACE);
+                     WaitUntil([&] { return !cancel.Proposed().empty(); });
+                     EXPECT_EQ(FocusAfterAWhile(window, button), button);
+                 });
+}
+
+TEST_F(Keyboard, AfterAModelessWindowTheFocusIsWhereItWasOpenedFrom)
+{
+    OpenMain();
+    for (const ProgramWindow& which : {LecturerForm, DepartmentForm, CalculatorForm})
+    {
+        PressKey(Find<wxWindow>(Main, which.Button), WXK_SPACE);
+        WaitUntil([&] { return wxWindow::FindWindowByName(which.Name) != nullptr; });
+        Settle();
+        auto* window = wxWindow::FindWindowByName(which.Name);
+        PressKey(Find<wxWindow>(window, "cmdClose"), WXK_SPACE);
+        WaitUntil([&] { return wxWindow::FindWindowByName(which.Name) == nullptr; });
+        EXPECT_EQ(FocusAfterAWhile(*Main, which.Button), which.Button);
+    }
 }
 
 } // namespace

@@ -119,6 +119,8 @@ void frmStatZavodi::Form_Load()
     ShowSelected();
     Panel->Layout(); // the list of semesters is as wide as its entries
     CenterForm(*this);
+    Show(); // a hidden drop-down list does not take the focus on every system
+    cboZavodi->SetFocus();
 }
 
 DepartmentFilter frmStatZavodi::CurrentFilter() const

@@ -114,6 +114,8 @@ void frmStatNositelji::Form_Load()
     lvwKolegiji->SetColumns(TaughtCourseColumns);
     lvwStat->SetColumns(StatColumns);
     CenterForm(*this);
+    Show();
+    lstNastavnici->SetFocus();
 }
 
 LecturerFilter frmStatNositelji::CurrentFilter() const
