@@ -1,6 +1,7 @@
 // One pass over every window: what a screen reader says, and whether all that is shown can be read.
 
 #include "support/EveryWindow.h"
+#include "support/ListWindow.h"
 #include "support/SpokenName.h"
 #include "support/TextScale.h"
 
@@ -163,6 +164,135 @@ void ExpectReadable(wxTopLevelWindow& window)
     }
 }
 
+/// A window with a list of courses and the list of their sums.
+struct SumsWindow
+{
+    ProgramWindow Window;
+    const char* Sums;
+};
+
+constexpr SumsWindow SumsWindows[] = {
+    {MainForm, "lvwStatistika"}, {LecturerForm, "lvwStat"}, {DepartmentForm, "lvwStatZavod"}};
+
+/// How many rows of a list are on the screen whole.
+int RowsInSight(const ListView* list)
+{
+    const wxWindow* inner = list->GetChildren().front();
+    const wxRect place(inner->GetScreenPosition(), inner->GetSize());
+    int rows = 0;
+    for (int row = 0; row < list->RowCount(); ++row)
+    {
+        const wxRect cell = CellPlace(list, row, 0);
+        rows += cell.GetTop() > place.GetTop() && cell.GetBottom() <= place.GetBottom() ? 1 : 0;
+    }
+    return rows;
+}
+
+/// The height that a list leaves empty below its last row.
+int EmptyBelow(const ListView* list)
+{
+    return list->GetScreenRect().GetBottom() - CellPlace(list, list->RowCount() - 1, 0).GetBottom();
+}
+
+class EveryListOfSums : public EveryWindowTest
+{
+protected:
+    /// Opens each window with such a list, filled; runs a script with its courses and sums.
+    void InEach(const std::function<void(wxTopLevelWindow&, ListView* courses, ListView* sums)>& script)
+    {
+        for (const SumsWindow& which : SumsWindows)
+        {
+            SCOPED_TRACE(which.Window.Name);
+            InWindow(which.Window,
+                     [&](wxTopLevelWindow& window)
+                     {
+                         if (auto* lecturers = dynamic_cast<wxListBox*>(
+                                 wxWindow::FindWindowByName("lstNastavnici", &window)))
+                             Click(lecturers, 0);
+                         script(window, Find<ListView>(&window, "lvwKolegiji"),
+                                Find<ListView>(&window, which.Sums));
+                     });
+        }
+    }
+};
+
+TEST_F(EveryListOfSums, IsInSightWholeOnAScreenOf1366By768)
+{
+    constexpr int caption = 40; // of the window and what the desktop keeps for itself
+    InEach(
+        [](wxTopLevelWindow& window, ListView* courses, ListView* sums)
+        {
+            wxSize size = window.GetSize();
+            size.DecTo({1366, 768 - caption});
+            window.SetSize(size);
+            Settle();
+            EXPECT_EQ(RowsInSight(sums), 15);
+            EXPECT_GE(RowsInSight(courses), 6);
+            RecordProperty(window.GetName().utf8_string(), RowsInSight(courses));
+        });
+}
+
+TEST_F(EveryListOfSums, IsAsHighAsItsRowsAndAtLeastSix)
+{
+    InEach(
+        [](wxTopLevelWindow& window, ListView*, ListView* sums)
+        {
+            window.SetSize(wxSize(window.GetSize().x, 1000));
+            Settle();
+            const int row = CellPlace(sums, 1, 0).y - CellPlace(sums, 0, 0).y;
+            EXPECT_EQ(RowsInSight(sums), 15);
+            EXPECT_LT(EmptyBelow(sums), row);
+            if (window.GetName() != MainForm.Name)
+                return;
+            Choose(Find<wxChoice>(&window, "cboSemestar"), "1");
+            ASSERT_EQ(sums->RowCount(), 5);
+            EXPECT_GE(EmptyBelow(sums), row);
+            EXPECT_LT(EmptyBelow(sums), 2 * row);
+            Choose(Find<wxChoice>(&window, "cboRazina"), "Diplomski");
+            EXPECT_EQ(RowsInSight(sums), 11);
+            EXPECT_LT(EmptyBelow(sums), row);
+        });
+}
+
+TEST_F(EveryListOfSums, IsBesideTheCoursesWhereverBothShowAllColumns)
+{
+    InEach(
+        [](wxTopLevelWindow& window, ListView* courses, ListView* sums)
+        {
+            const auto widthOf = [](const ListView* list)
+            {
+                int width = 0;
+                for (int column = 0; column < list->ColumnCount(); ++column)
+                    width += list->ColumnWidth(column);
+                return width;
+            };
+            int beside = 0;
+            int below = 0;
+            for (int width = 900; width <= 1800; width += 50)
+            {
+                window.SetSize(wxSize(width, 720));
+                Settle();
+                const wxRect first = courses->GetScreenRect();
+                const wxRect second = sums->GetScreenRect();
+                if (second.GetLeft() > first.GetRight())
+                {
+                    ++beside;
+                    EXPECT_GE(first.width, widthOf(courses)) << width;
+                    EXPECT_GE(second.width, widthOf(sums)) << width;
+                }
+                else
+                {
+                    ++below;
+                    EXPECT_EQ(beside, 0) << width;
+                    EXPECT_GT(second.GetTop(), first.GetBottom()) << width;
+                    EXPECT_LT(first.width, widthOf(courses) + widthOf(sums) + window.FromDIP(80)) << width;
+                }
+            }
+            EXPECT_GT(beside, 0);
+            EXPECT_GT(below, 0);
+        });
+}
+
 class EveryWindowAtTextSize : public EveryWindowTest, public testing::WithParamInterface<int>
 {
 };
@@ -206,6 +336,18 @@ TEST_P(EveryWindowAtTextSize, CutsNothingWhenTheUserChangesTheWindowsSize)
                      ExpectReadable(window);
                  });
     }
+}
+
+TEST_P(EveryWindowAtTextSize, KeepsRoomForASearchText)
+{
+    const TextScale scale(GetParam());
+    OpenMain();
+    auto* search = Find<wxTextCtrl>(Main, "txtSearch");
+    const int room = search->GetSizeFromTextSize(search->GetTextExtent(wxString('n', 20)).x).x;
+    EXPECT_GE(search->GetSize().x, room);
+    Main->SetSize(Main->GetMinSize());
+    Settle();
+    EXPECT_GE(search->GetSize().x, room);
 }
 
 // On Windows one size at a time: the session's.
@@ -253,7 +395,8 @@ TEST_F(EveryWindow, GivesALargerWindowsRoomToItsLists)
             int wider = 0;
             for (const auto& [name, size] : extents())
             {
-                EXPECT_GT(size.y, before.at(name).y) << name;
+                const bool isSums = name.starts_with("lvwStat"); // as high as their rows
+                EXPECT_TRUE(isSums || size.y > before.at(name).y) << name;
                 EXPECT_GE(size.x, before.at(name).x) << name;
                 wider += size.x > before.at(name).x ? 1 : 0;
             }

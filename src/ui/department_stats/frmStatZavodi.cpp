@@ -6,6 +6,7 @@
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/ExportCommand.h"
+#include "ui/controls/ListPairSizer.h"
 #include "ui/controls/ListView.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
@@ -74,14 +75,12 @@ wxSizer* frmStatZavodi::Grids()
                    wxSizerFlags().Border(wxBOTTOM, Gap(this)));
     semesters->Add(lstSemestri = NewListBox(Panel, "lstSemestri"), wxSizerFlags(1).Expand());
 
-    auto* lists = new wxBoxSizer(wxVERTICAL);
-    lists->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji"), wxSizerFlags(1).Expand());
-    lists->Add(lvwStatZavod = new ListView(Panel, "lvwStatZavod", "Statistika"),
-               wxSizerFlags(2).Expand().Border(wxTOP, Gap(this)));
+    lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji");
+    lvwStatZavod = new ListView(Panel, "lvwStatZavod", "Statistika");
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(semesters, wxSizerFlags().Expand().Border(wxRIGHT, 2 * Gap(this)));
-    row->Add(lists, wxSizerFlags(1).Expand());
+    row->Add(new ListPairSizer(lvwKolegiji, lvwStatZavod), wxSizerFlags(1).Expand());
     return row;
 }
 
@@ -138,6 +137,7 @@ void frmStatZavodi::ShowSelected()
     const std::int32_t zavodID = SelectedData(*cboZavodi);
     lvwKolegiji->SetRows(DepartmentCourseRows(zavodID, CurrentFilter()));
     lvwStatZavod->SetRows(DepartmentLoadRows(zavodID, CurrentFilter()));
+    Panel->Layout(); // the sums are as high as their rows
 }
 
 void frmStatZavodi::cboRazina_Click()

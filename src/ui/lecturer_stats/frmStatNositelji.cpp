@@ -6,6 +6,7 @@
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/ExportCommand.h"
+#include "ui/controls/ListPairSizer.h"
 #include "ui/controls/ListView.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
@@ -49,9 +50,9 @@ frmStatNositelji::frmStatNositelji(wxWindow* parent)
     content->Add(NastavniciColumn(), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * Gap(this)));
     auto* right = new wxBoxSizer(wxVERTICAL);
     right->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
-    right->Add(lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji"), wxSizerFlags(1).Expand());
-    right->Add(lvwStat = new ListView(Panel, "lvwStat", "Statistika"),
-               wxSizerFlags(2).Expand().Border(wxTOP, Gap(this)));
+    lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji");
+    lvwStat = new ListView(Panel, "lvwStat", "Statistika");
+    right->Add(new ListPairSizer(lvwKolegiji, lvwStat), wxSizerFlags(1).Expand());
     right->Add(Buttons(), wxSizerFlags().Expand().Border(wxTOP, Gap(this)));
     content->Add(right, wxSizerFlags(4).Expand());
     auto* margin = new wxBoxSizer(wxVERTICAL);
@@ -127,6 +128,7 @@ void frmStatNositelji::ShowSelected()
 {
     lvwKolegiji->SetRows(LecturerCourseRows(SelectedNastavnikID, CurrentFilter()));
     lvwStat->SetRows(LecturerLoadRows(SelectedNastavnikID, CurrentFilter()));
+    Panel->Layout(); // the sums are as high as their rows
 }
 
 void frmStatNositelji::lstNastavnici_Click()

@@ -11,6 +11,7 @@
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/ExportCommand.h"
+#include "ui/controls/ListPairSizer.h"
 #include "ui/controls/ListView.h"
 #include "ui/controls/Messages.h"
 #include "ui/controls/SharedWindow.h"
@@ -34,6 +35,7 @@
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+#include <wx/wrapsizer.h>
 
 #include <iterator>
 #include <optional>
@@ -78,11 +80,10 @@ frmMain::frmMain()
     // The controls are made in tab order: filters, lists, commands.
     const wxSizerFlags whole = wxSizerFlags(1).Expand();
     auto* lists = new wxBoxSizer(wxVERTICAL);
-    lists->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
+    lists->Add(FilterRow(), wxSizerFlags().Expand());
     lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji");
-    lists->Add(lvwKolegiji, wxSizerFlags(1).Expand().Border(wxBOTTOM, Gap(this)));
     lvwStatistika = new ListView(Panel, "lvwStatistika", "Statistika");
-    lists->Add(lvwStatistika, whole);
+    lists->Add(new ListPairSizer(lvwKolegiji, lvwStatistika), whole);
 
     auto* content = new wxBoxSizer(wxHORIZONTAL);
     content->Add(lists, whole);
@@ -113,16 +114,23 @@ wxSizer* frmMain::FilterRow()
         {&cboSemestar, "cboSemestar", "lblSemestar", "Semestar:", 3},
     };
 
-    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    constexpr int searchCharacters = 21; // 20, and the caret
+    // With large text the search box goes to a line of its own.
+    auto* row = new wxWrapSizer(wxHORIZONTAL, 0);
+    const wxSizerFlags belowFilters = wxSizerFlags().CenterVertical().Border(wxBOTTOM, Gap(this));
     for (const Filter& filter : filters)
     {
-        AddLabelled(*row, Panel, filter.LabelName, filter.Caption,
+        auto* pair = new wxBoxSizer(wxHORIZONTAL);
+        AddLabelled(*pair, Panel, filter.LabelName, filter.Caption,
                     [&] { return *filter.Box = NewChoice(Panel, filter.Name, filter.Characters); });
+        row->Add(pair, belowFilters);
     }
-    Label1 = AddLabelled(*row, Panel, "Label1",
-                         "Traži:", [this] { return txtSearch = NewTextBox(Panel, "txtSearch", 6); });
-    row->GetItem(txtSearch)->SetProportion(1); // it takes the width that the boxes leave
-    row->GetItem(txtSearch)->SetBorder(0);
+    auto* search = new wxBoxSizer(wxHORIZONTAL);
+    Label1 = AddLabelled(*search, Panel, "Label1", "Traži:",
+                         [this] { return txtSearch = NewTextBox(Panel, "txtSearch", searchCharacters); });
+    search->GetItem(txtSearch)->SetProportion(1); // it takes the width that the boxes leave
+    search->GetItem(txtSearch)->SetBorder(0);
+    row->Add(search, wxSizerFlags(belowFilters).Proportion(1));
     return row;
 }
 
@@ -309,6 +317,7 @@ void frmMain::RefreshStatistika()
     if (ChosenText(*cboSmjer) == Svi) // whatever number goes with it
         filter.SmjerID = 0;
     lvwStatistika->SetRows(StatistikaRows(filter, ChosenText(*cboRazina)));
+    Panel->Layout(); // the sums are as high as their rows
 }
 
 void frmMain::RefreshGrids()
