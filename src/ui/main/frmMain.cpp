@@ -357,7 +357,7 @@ void frmMain::txtSearch_Change()
 
 bool frmMain::txtSearch_KeyDown(const wxKeyEvent& key)
 {
-    switch (key.GetModifiers() == wxMOD_NONE ? key.GetKeyCode() : WXK_NONE)
+    switch (key.GetKeyCode())
     {
     case WXK_ESCAPE:
         txtSearch->SetValue("");
