@@ -237,6 +237,7 @@ TEST_F(EveryListOfSums, IsAsHighAsItsRowsAndAtLeastSix)
     InEach(
         [](wxTopLevelWindow& window, ListView*, ListView* sums)
         {
+            window.SetMaxSize(wxSize(2000, 1500)); // some systems keep a window within the screen
             window.SetSize(wxSize(window.GetSize().x, 1000));
             Settle();
             const int row = CellPlace(sums, 1, 0).y - CellPlace(sums, 0, 0).y;
@@ -266,6 +267,7 @@ TEST_F(EveryListOfSums, IsBesideTheCoursesWhereverBothShowAllColumns)
                     width += list->ColumnWidth(column);
                 return width;
             };
+            window.SetMaxSize(wxSize(2000, 1500)); // some systems keep a window within the screen
             int beside = 0;
             int below = 0;
             for (int width = 900; width <= 1800; width += 50)

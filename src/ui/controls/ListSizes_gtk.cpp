@@ -64,10 +64,10 @@ int HeightForRows(const ListView& list, int rows)
     wxDataViewCtrl& control = ControlOf(list);
     int header = 0;
     int row = control.GetCharHeight();
-    for (unsigned i = 0; i < control.GetColumnCount(); ++i)
+    if (control.GetColumnCount() > 0) // they are all of one height
     {
-        header = std::max(header, HeaderHeight(*control.GetColumn(i)));
-        row = std::max(row, CellHeight(*control.GetColumn(i)));
+        header = HeaderHeight(*control.GetColumn(0));
+        row = std::max(row, CellHeight(*control.GetColumn(0)));
     }
     GtkWidget* tree = control.GtkGetTreeView();
     row += StyleProperty(tree, "vertical-separator") + StyleProperty(tree, "grid-line-width");

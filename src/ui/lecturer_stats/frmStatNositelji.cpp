@@ -114,6 +114,7 @@ void frmStatNositelji::Form_Load()
     LetFocusSelectNothing(*lstNastavnici);
     lvwKolegiji->SetColumns(TaughtCourseColumns);
     lvwStat->SetColumns(StatColumns);
+    Panel->Layout(); // the lists have headers now
     CenterForm(*this);
     Show();
     lstNastavnici->SetFocus();
