@@ -16,7 +16,7 @@ namespace reference
 /// A field as stored. @throws SubscriptOutOfRange
 const std::string& Field(const TextTable& table, const TextRow& row, std::size_t column);
 
-/// A field as a whole number. @throws TypeMismatch, Overflow, SubscriptOutOfRange
+/// A field as a whole number. @throws DataError
 std::int32_t Number(const TextTable& table, const TextRow& row, std::size_t column);
 
 /// A field as a whole number, 0 where it is none. @throws SubscriptOutOfRange

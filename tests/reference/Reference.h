@@ -79,15 +79,14 @@ void Save(const Catalogue& catalogue, std::string_view folder);
 
 // Edits
 
-/// The largest course ID plus 1. @throws TypeMismatch, Overflow, SubscriptOutOfRange
+/// The largest course ID plus 1. @throws DataError
 std::int32_t NextKolegijID(const Catalogue& catalogue);
 
 void AddKolegij(Catalogue& catalogue, const CourseEntry& entry);
 void ReplaceKolegij(Catalogue& catalogue, std::int32_t id, const CourseEntry& entry);
 void DeleteKolegij(Catalogue& catalogue, std::int32_t id);
 
-// Reading. Each throws TypeMismatch, Overflow or SubscriptOutOfRange for a number on its way that cannot be
-// read, and Overflow for a sum that does not fit.
+// Reading. Each throws DataError.
 
 /// The messages of all checks; none when the tables may be saved.
 std::vector<std::string> Validate(const Catalogue& catalogue);
