@@ -25,7 +25,7 @@ constexpr std::string_view Floor = "floor";
 
 void ForgetTables()
 {
-    for (Table* table : ProgramTables())
+    for (Table* table : modData::AllTables())
         *table = Table(table->Layout());
 }
 

@@ -18,12 +18,6 @@ std::string Utf8(const std::filesystem::path& path)
 
 } // namespace
 
-std::array<Table*, 7> ProgramTables()
-{
-    using namespace modData;
-    return {&Zavodi, &Nastavnici, &Studiji, &Smjerovi, &Kolegiji, &KolegijSmjerovi, &KolegijNastavnici};
-}
-
 Workplace::Workplace(const CatalogueSize& size, const std::filesystem::path& folder)
     : Fixed(size),
       Folder(folder / size.Name)
@@ -51,13 +45,13 @@ void Workplace::Enter()
 
     // The tables that were in use go back to their own workplace.
     if (Entered != nullptr)
-        for (Table* table : ProgramTables())
+        for (Table* table : modData::AllTables())
             Entered->Tables.push_back(std::move(*table));
     if (Tables.empty())
         modData::LoadAllTables();
     else
         for (std::size_t i = 0; i < Tables.size(); ++i)
-            *ProgramTables()[i] = std::move(Tables[i]);
+            *modData::AllTables()[i] = std::move(Tables[i]);
     Tables.clear();
     Entered = this;
 }

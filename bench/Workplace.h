@@ -5,12 +5,8 @@
 #include "data/modData.h"
 #include "reference/Reference.h"
 
-#include <array>
 #include <filesystem>
 #include <string>
-
-/// The program's tables, in the order in which they are loaded and saved.
-std::array<Table*, 7> ProgramTables();
 
 /// A generated catalogue in a folder of its own. Several may be at hand: the program works on the one that
 /// was entered last.

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -26,6 +27,15 @@ constexpr std::string_view KolegijColumns[] = {"ID",   "Naziv", "P",        "S",
                                                "ECTS", "Tip",   "Semestar", "StudijID"};
 constexpr std::string_view KolegijSmjerColumns[] = {"KolegijID", "SmjerID"};
 constexpr std::string_view KolegijNastavnikColumns[] = {"KolegijID", "NastavnikID", "Uloga", "Redoslijed"};
+
+// A column added to one of the two has to be added to the other.
+static_assert(std::size(ZavodColumns) == Zavod::Kratica + 1);
+static_assert(std::size(NastavnikColumns) == Nastavnik::ZavodID + 1);
+static_assert(std::size(StudijColumns) == Studij::Razina + 1);
+static_assert(std::size(SmjerColumns) == Smjer::Razina + 1);
+static_assert(std::size(KolegijColumns) == Kolegij::StudijID + 1);
+static_assert(std::size(KolegijSmjerColumns) == KolegijSmjer::SmjerID + 1);
+static_assert(std::size(KolegijNastavnikColumns) == KolegijNastavnik::Redoslijed + 1);
 
 constexpr TableLayout ZavodLayout = {"db_zavod.csv", ZavodColumns};
 constexpr TableLayout NastavnikLayout = {"db_nastavnici.csv", NastavnikColumns};
@@ -106,13 +116,8 @@ void Save(const Table& table)
 
 void SaveEach()
 {
-    modData::SaveZavodi();
-    modData::SaveNastavnici();
-    modData::SaveStudiji();
-    modData::SaveSmjerovi();
-    modData::SaveKolegiji();
-    modData::SaveKolegijSmjerovi();
-    modData::SaveKolegijNastavnici();
+    for (const Table* table : modData::AllTables())
+        Save(*table);
 }
 
 /// Writes the seven tables into a folder.
@@ -333,13 +338,8 @@ void LoadAllTables()
     if (std::ranges::any_of(files.Names,
                             [&](std::string_view name) { return LosesLetters(PathIn(files.Folder, name)); }))
         DatedCopies::KeepAnother(files);
-    LoadZavodi();
-    LoadNastavnici();
-    LoadStudiji();
-    LoadSmjerovi();
-    LoadKolegiji();
-    LoadKolegijSmjerovi();
-    LoadKolegijNastavnici();
+    for (Table* table : AllTables())
+        Load(*table);
     Running = std::make_unique<CatalogueLock>(files.Folder, LockKind::Running);
 }
 

@@ -178,7 +178,7 @@ struct UnsavedChanges
 UnsavedChanges KeepUnsavedChanges();
 
 /// The ID for a new course: the largest one plus 1, and 1 for an empty table.
-/// @throws TypeMismatch, Overflow, SubscriptOutOfRange for an ID that is no whole number
+/// @throws DataError for an ID that is no whole number
 std::int32_t NextKolegijID();
 
 } // namespace modData

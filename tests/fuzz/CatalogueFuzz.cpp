@@ -18,10 +18,7 @@
 namespace
 {
 
-constexpr std::array<Table*, 7> Tables = {
-    &modData::Zavodi,   &modData::Nastavnici,      &modData::Studiji,           &modData::Smjerovi,
-    &modData::Kolegiji, &modData::KolegijSmjerovi, &modData::KolegijNastavnici,
-};
+const std::array<Table*, 7> Tables = modData::AllTables();
 
 /// Stands between the files of an input: no text has it.
 constexpr char BetweenFiles = '\x01';
