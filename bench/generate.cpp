@@ -24,7 +24,7 @@ int main(int count, char** arguments)
     }
     catch (const RuntimeError& error)
     {
-        std::cerr << error.Description() << '\n';
+        std::cerr << error.what() << '\n';
         return 1;
     }
     return 0;

@@ -58,7 +58,7 @@ int main(int count, char**)
     }
     catch (const RuntimeError& error)
     {
-        std::cerr << error.Description() << '\n';
+        std::cerr << error.what() << '\n';
         return 1;
     }
     std::cout << PeakMemory() << '\n';

@@ -140,7 +140,7 @@ ExitCode Run(const Options& options, const Terminal& terminal)
     }
     catch (const RuntimeError& error)
     {
-        terminal.Write(error.Description() + "\n");
+        terminal.Write(std::string(error.what()) + "\n");
         return NotDone;
     }
 }

@@ -2,8 +2,6 @@
 
 #include "data/Text.h"
 
-#include <utility>
-
 namespace
 {
 
@@ -71,38 +69,36 @@ const FileFault& FaultOf(std::error_code cause)
 
 } // namespace
 
-RuntimeError::RuntimeError(int number, std::string description)
-    : ErrorNumber(number),
-      ErrorDescription(std::move(description)),
-      FaultSize(ErrorDescription.size())
+RuntimeError::RuntimeError(int number, const std::string& text)
+    : std::runtime_error(text),
+      m_number(number),
+      m_faultSize(text.size())
 {
 }
 
 RuntimeError::RuntimeError(int number, std::string_view fault, const FieldPlace& place)
-    : ErrorNumber(number),
-      ErrorDescription(std::string(fault) + InPlace(place)),
-      FaultSize(fault.size()),
-      FaultyField(place)
+    : std::runtime_error(std::string(fault) + InPlace(place)),
+      m_number(number),
+      m_faultSize(fault.size()),
+      m_place(place)
 {
 }
 
-TypeMismatch::TypeMismatch(std::string_view value) : RuntimeError(13, NotANumber(value) + ".") {}
+TypeMismatch::TypeMismatch(std::string_view value) : DataError(13, NotANumber(value) + ".") {}
 
 TypeMismatch::TypeMismatch(std::string_view value, const FieldPlace& place)
-    : RuntimeError(13, NotANumber(value), place)
+    : DataError(13, NotANumber(value), place)
 {
 }
 
-Overflow::Overflow() : RuntimeError(6, "Zbroj je izvan dopuštenog raspona " + std::string(LongRange) + ".") {}
+Overflow::Overflow() : DataError(6, "Zbroj je izvan dopuštenog raspona " + std::string(LongRange) + ".") {}
 
-Overflow::Overflow(std::string_view value) : RuntimeError(6, TooLarge(value) + ".") {}
+Overflow::Overflow(std::string_view value) : DataError(6, TooLarge(value) + ".") {}
 
-Overflow::Overflow(std::string_view value, const FieldPlace& place) : RuntimeError(6, TooLarge(value), place)
-{
-}
+Overflow::Overflow(std::string_view value, const FieldPlace& place) : DataError(6, TooLarge(value), place) {}
 
 SubscriptOutOfRange::SubscriptOutOfRange(const FieldPlace& place)
-    : RuntimeError(9, "Redak ima premalo polja", place)
+    : DataError(9, "Redak ima premalo polja", place)
 {
 }
 
@@ -117,6 +113,6 @@ FileError::FileError(std::error_code cause, std::string_view path)
 }
 
 SaveNotFinished::SaveNotFinished(const FileError& cause)
-    : RuntimeError(cause.Number(), cause.Description() + std::string(NotFinished))
+    : RuntimeError(cause.Number(), cause.what() + std::string(NotFinished))
 {
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <exception>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -16,33 +16,36 @@ struct FieldPlace
     bool operator==(const FieldPlace&) const = default;
 };
 
-/// An error with the number and the description (Croatian, UTF-8) that the user is shown.
-class RuntimeError : public std::exception
+/// An error that the user is shown: its number, and its text (Croatian, UTF-8) as what().
+class RuntimeError : public std::runtime_error
 {
 public:
-    RuntimeError(int number, std::string description);
+    RuntimeError(int number, const std::string& text);
 
-    /// An error of a field: the description is the fault and the place.
+    /// An error of a field: the text is the fault and the place.
     RuntimeError(int number, std::string_view fault, const FieldPlace& place);
 
-    int Number() const { return ErrorNumber; }
-    const std::string& Description() const { return ErrorDescription; }
-    const char* what() const noexcept override { return ErrorDescription.c_str(); }
+    int Number() const { return m_number; }
 
-    /// The description without the place.
-    std::string_view Fault() const { return std::string_view(ErrorDescription).substr(0, FaultSize); }
-    /// The field that is at fault; no file name where the error is none of a field.
-    const FieldPlace& Place() const { return FaultyField; }
+    /// The text without the place.
+    std::string_view Fault() const { return std::string_view(what()).substr(0, m_faultSize); }
+    /// The field that is at fault; no file name if the error is not one of a field.
+    const FieldPlace& Place() const { return m_place; }
 
 private:
-    int ErrorNumber;
-    std::string ErrorDescription;
-    std::size_t FaultSize;
-    FieldPlace FaultyField;
+    int m_number;
+    std::size_t m_faultSize;
+    FieldPlace m_place;
 };
 
-/// A text that is not a number stands where a number is needed.
-class TypeMismatch : public RuntimeError
+/// A number that is needed cannot be read, or a sum does not fit.
+class DataError : public RuntimeError
+{
+    using RuntimeError::RuntimeError;
+};
+
+/// A text that is not a number is where a number is needed.
+class TypeMismatch : public DataError
 {
 public:
     explicit TypeMismatch(std::string_view value);
@@ -50,7 +53,7 @@ public:
 };
 
 /// A number or a sum lies outside the 32-bit signed range.
-class Overflow : public RuntimeError
+class Overflow : public DataError
 {
 public:
     Overflow();
@@ -59,7 +62,7 @@ public:
 };
 
 /// A row has fewer fields than the column that is read needs.
-class SubscriptOutOfRange : public RuntimeError
+class SubscriptOutOfRange : public DataError
 {
 public:
     explicit SubscriptOutOfRange(const FieldPlace& place);

@@ -7,8 +7,7 @@
 #include <vector>
 
 /// Names instead of identifiers, and the joined lists of one course. Every search reads its table from the
-/// first row and the first match wins; each throws TypeMismatch, Overflow or SubscriptOutOfRange for a row on
-/// the way whose number cannot be read.
+/// first row and the first match wins; each throws DataError for a row on the way that cannot be read.
 namespace modData
 {
 

@@ -6,8 +6,7 @@
 #include <string_view>
 #include <vector>
 
-// Entries that boxes and lists offer; those from the tables in table order. Each throws TypeMismatch,
-// Overflow or SubscriptOutOfRange for a number that it needs and cannot read.
+// Entries that boxes and lists offer; those from the tables in table order. Each throws DataError.
 
 /// The two levels of study.
 std::vector<Choice> RazinaChoices();

@@ -9,7 +9,7 @@
 
 /// The checks that decide whether the tables may be saved or exported: broken references, duplicate
 /// identifiers, values out of range. Hours, credits, types and departments are deliberately not checked.
-/// Everything here throws TypeMismatch, Overflow or SubscriptOutOfRange for a number that cannot be read.
+/// Everything here throws DataError for a number that cannot be read.
 namespace modCSVValidator
 {
 

@@ -88,6 +88,6 @@ std::string AnswerOf(const Answer& answer)
     }
     catch (const RuntimeError& error)
     {
-        return "error " + std::to_string(error.Number()) + ": " + error.Description();
+        return "error " + std::to_string(error.Number()) + ": " + error.what();
     }
 }

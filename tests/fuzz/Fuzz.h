@@ -32,7 +32,7 @@ bool Succeeds(const Step& step)
     }
     catch (const RuntimeError& error)
     {
-        Promise(error.Number() > 0 && !error.Description().empty(), "an error has a number and a text");
+        Promise(error.Number() > 0 && *error.what() != '\0', "an error has a number and a text");
         return false;
     }
 }

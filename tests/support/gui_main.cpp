@@ -58,7 +58,7 @@ public:
         }
         catch (const RuntimeError& error)
         {
-            NoteUncaughtError(std::to_string(error.Number()) + ": " + error.Description());
+            NoteUncaughtError(std::to_string(error.Number()) + ": " + error.what());
         }
         catch (const std::exception& error)
         {

@@ -362,7 +362,7 @@ TEST_F(CatalogueSaving, AFailureBeforeTheMarkNamesTheFileAndLeavesNoSet)
     }
     catch (const FileError& error)
     {
-        EXPECT_EQ(error.Description(),
+        EXPECT_EQ(error.what(),
                   "Na disku nema dovoljno mjesta: " + PathIn(Folder.DataPath("spremanje"), "db_zavod.csv"));
     }
     EXPECT_EQ(OnDisk(), Old);
@@ -394,7 +394,7 @@ protected:
         catch (const SaveNotFinished& error)
         {
             EXPECT_EQ(error.Number(), 70);
-            return error.Description();
+            return error.what();
         }
         return "no error";
     }
@@ -620,7 +620,7 @@ TEST_F(CatalogueLocks, OneThatIsNeverFreeIsAnErrorAfterTenSeconds)
         catch (const FileError& error)
         {
             EXPECT_EQ(error.Number(), 70);
-            EXPECT_EQ(error.Description(),
+            EXPECT_EQ(error.what(),
                       "Katalog upravo čita ili sprema drugi primjerak programa: " + modData::GetDataFolder());
         }
     EXPECT_EQ(OnDisk(), Old);

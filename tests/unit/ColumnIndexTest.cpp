@@ -25,7 +25,7 @@ std::string Outcome(const Search& search)
     }
     catch (const RuntimeError& error)
     {
-        found += error.Description();
+        found += error.what();
     }
     return found;
 }
@@ -40,7 +40,7 @@ std::string NumberOrError(const Reading& reading)
     }
     catch (const RuntimeError& error)
     {
-        return error.Description();
+        return error.what();
     }
 }
 

@@ -238,7 +238,7 @@ std::string ErrorOfAllRows(const Catalogue& catalogue)
     }
     catch (const RuntimeError& error)
     {
-        return std::to_string(error.Number()) + " " + error.Description();
+        return std::to_string(error.Number()) + " " + error.what();
     }
     return {};
 }

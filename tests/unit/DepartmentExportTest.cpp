@@ -234,7 +234,7 @@ TEST_F(FailingDepartmentExport, OfTwoFaultsTheMissingNameIsToldOnEverySystem)
     }
     catch (const SubscriptOutOfRange& error)
     {
-        EXPECT_NE(error.Description().find("\"Naziv\""), std::string::npos) << error.Description();
+        EXPECT_NE(std::string(error.what()).find("\"Naziv\""), std::string::npos) << error.what();
     }
 }
 

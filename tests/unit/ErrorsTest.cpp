@@ -32,9 +32,9 @@ TEST(Errors, AFileErrorNamesThePathAndHasTheNumberOfItsCause)
     for (const auto& [cause, number] : causes)
     {
         const FileError error(std::make_error_code(cause), "/mapa/Žuta.csv");
-        EXPECT_EQ(error.Number(), number) << error.Description();
-        EXPECT_TRUE(error.Description().ends_with(": /mapa/Žuta.csv")) << error.Description();
-        EXPECT_TRUE(descriptions.insert(error.Description()).second) << error.Description();
+        EXPECT_EQ(error.Number(), number) << error.what();
+        EXPECT_TRUE(std::string_view(error.what()).ends_with(": /mapa/Žuta.csv")) << error.what();
+        EXPECT_TRUE(descriptions.insert(error.what()).second) << error.what();
     }
 }
 
@@ -48,19 +48,19 @@ TEST(Errors, AFileThatEndsTooSoonIsNamed)
 {
     const InputPastEnd error("/mapa/db_zavod.csv");
     EXPECT_EQ(error.Number(), 62);
-    EXPECT_EQ(error.Description(), "Datoteka je prazna, nedostaje joj redak zaglavlja: /mapa/db_zavod.csv");
+    EXPECT_STREQ(error.what(), "Datoteka je prazna, nedostaje joj redak zaglavlja: /mapa/db_zavod.csv");
 }
 
 TEST(Errors, AFaultyFieldNamesItsValueFileLineAndColumn)
 {
     const FieldPlace place = {"db_smjer.csv", 12, "StudijID"};
-    EXPECT_EQ(TypeMismatch("", place).Description(),
-              "Vrijednost \"\" nije broj (datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
-    EXPECT_EQ(Overflow("2147483648", place).Description(),
-              "Broj \"2147483648\" je izvan dopuštenog raspona od -2147483648 do 2147483647 "
-              "(datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
-    EXPECT_EQ(SubscriptOutOfRange(place).Description(),
-              "Redak ima premalo polja (datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
+    EXPECT_STREQ(TypeMismatch("", place).what(),
+                 "Vrijednost \"\" nije broj (datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
+    EXPECT_STREQ(Overflow("2147483648", place).what(),
+                 "Broj \"2147483648\" je izvan dopuštenog raspona od -2147483648 do 2147483647 "
+                 "(datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
+    EXPECT_STREQ(SubscriptOutOfRange(place).what(),
+                 "Redak ima premalo polja (datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
 }
 
 TEST(Errors, ALongValueIsCutAndItsControlCharactersAreVisible)
@@ -68,14 +68,13 @@ TEST(Errors, ALongValueIsCutAndItsControlCharactersAreVisible)
     std::string sixty;
     for (int i = 0; i < 60; ++i)
         sixty += "č";
-    EXPECT_EQ(TypeMismatch(sixty).Description(), "Vrijednost \"" + sixty + "\" nije broj.");
-    EXPECT_EQ(TypeMismatch(sixty + "x").Description(), "Vrijednost \"" + sixty + "…\" nije broj.");
-    EXPECT_EQ(TypeMismatch(std::string(3'000'000, 'x')).Description(),
+    EXPECT_EQ(TypeMismatch(sixty).what(), "Vrijednost \"" + sixty + "\" nije broj.");
+    EXPECT_EQ(TypeMismatch(sixty + "x").what(), "Vrijednost \"" + sixty + "…\" nije broj.");
+    EXPECT_EQ(TypeMismatch(std::string(3'000'000, 'x')).what(),
               "Vrijednost \"" + std::string(60, 'x') + "…\" nije broj.");
-    EXPECT_EQ(TypeMismatch({"1\0\n\x1F\x7F\xC2\x83\xC2\xA0", 9}).Description(),
-              "Vrijednost \"1\\x00\\x0a\\x1f\\x7f\\x83\xC2\xA0\" nije broj.");
-    EXPECT_TRUE(Overflow(std::string(1000, '9'))
-                    .Description()
+    EXPECT_STREQ(TypeMismatch({"1\0\n\x1F\x7F\xC2\x83\xC2\xA0", 9}).what(),
+                 "Vrijednost \"1\\x00\\x0a\\x1f\\x7f\\x83\xC2\xA0\" nije broj.");
+    EXPECT_TRUE(std::string_view(Overflow(std::string(1000, '9')).what())
                     .starts_with("Broj \"" + std::string(60, '9') + "…\" je izvan"));
 }
 
@@ -84,14 +83,14 @@ TEST(Errors, TheFaultAndThePlaceCanBeHadApart)
     const FieldPlace place = {"db_smjer.csv", 12, "StudijID"};
     EXPECT_EQ(TypeMismatch("x", place).Fault(), "Vrijednost \"x\" nije broj");
     EXPECT_EQ(TypeMismatch("x", place).Place(), place);
-    EXPECT_EQ(InputPastEnd("x").Fault(), InputPastEnd("x").Description());
+    EXPECT_EQ(InputPastEnd("x").Fault(), InputPastEnd("x").what());
     EXPECT_EQ(InputPastEnd("x").Place(), FieldPlace());
 }
 
 TEST(Errors, ARowThatNoFileHoldsHasNoLine)
 {
-    EXPECT_EQ(SubscriptOutOfRange({"db_smjer.csv", 0, "ID"}).Description(),
-              "Redak ima premalo polja (datoteka db_smjer.csv, redak unesen u programu, stupac \"ID\").");
+    EXPECT_STREQ(SubscriptOutOfRange({"db_smjer.csv", 0, "ID"}).what(),
+                 "Redak ima premalo polja (datoteka db_smjer.csv, redak unesen u programu, stupac \"ID\").");
 }
 
 TEST(Errors, EveryKindHasItsNumber)

@@ -41,8 +41,8 @@ protected:
         }
         catch (const FileError& error)
         {
-            EXPECT_EQ(error.Number(), number) << error.Description();
-            EXPECT_NE(error.Description().find(path), std::string::npos) << error.Description();
+            EXPECT_EQ(error.Number(), number) << error.what();
+            EXPECT_NE(std::string(error.what()).find(path), std::string::npos) << error.what();
         }
     }
 

@@ -246,7 +246,7 @@ TEST_F(FailingLecturerExport, OfTwoFaultyCoursesTheOneLinkedFirstIsTold)
     }
     catch (const TypeMismatch& error)
     {
-        EXPECT_NE(error.Description().find("drugi"), std::string::npos) << error.Description();
+        EXPECT_NE(std::string(error.what()).find("drugi"), std::string::npos) << error.what();
     }
 }
 

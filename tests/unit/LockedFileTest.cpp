@@ -63,11 +63,12 @@ protected:
         }
         catch (const Error& error)
         {
-            EXPECT_TRUE(error.Description().starts_with(
-                "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u "
-                "drugom programu: " +
-                Folder.DataPath("db_studij.csv")))
-                << error.Description();
+            EXPECT_TRUE(
+                std::string_view(error.what())
+                    .starts_with("Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u "
+                                 "drugom programu: " +
+                                 Folder.DataPath("db_studij.csv")))
+                << error.what();
             EXPECT_EQ(error.Number(), 70);
         }
     }

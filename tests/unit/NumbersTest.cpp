@@ -52,7 +52,7 @@ TEST(Numbers, ATextThatIsNoNumberIsATypeMismatch)
     catch (const RuntimeError& error)
     {
         EXPECT_EQ(error.Number(), 13);
-        EXPECT_EQ(error.Description(), "Vrijednost \"sedam\" nije broj.");
+        EXPECT_STREQ(error.what(), "Vrijednost \"sedam\" nije broj.");
     }
 }
 

@@ -66,7 +66,7 @@ std::optional<Told> ErrorOf(const std::function<void()>& action)
     }
     catch (const FileError& error)
     {
-        return Told{error.Number(), error.Description()};
+        return Told{error.Number(), error.what()};
     }
     return std::nullopt;
 }

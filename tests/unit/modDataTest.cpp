@@ -33,7 +33,7 @@ protected:
         }
         catch (const RuntimeError& error)
         {
-            return error.Description();
+            return error.what();
         }
         return "";
     }

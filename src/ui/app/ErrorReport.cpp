@@ -23,7 +23,7 @@ std::string UnsavedChangesText()
 
 std::string NumberAndText(const RuntimeError& error)
 {
-    return "Greška " + std::to_string(error.Number()) + ": " + error.Description();
+    return "Greška " + std::to_string(error.Number()) + ": " + error.what();
 }
 
 /// What the user sees of the error being handled, and of changes that it would lose.

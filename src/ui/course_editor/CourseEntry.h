@@ -53,7 +53,7 @@ struct EntryFault
 std::optional<EntryFault> CheckEntry(const CourseEntry& entry);
 
 /// Adds an entry that has passed its checks as a new course, with its links behind all others.
-/// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a course ID in the table that cannot be read
+/// @throws DataError for a course ID in the table that cannot be read
 void AddKolegij(const CourseEntry& entry);
 
 /// Puts an entry that has passed its checks in the place of a course and makes its links anew; behind all
@@ -62,5 +62,5 @@ void ReplaceKolegij(std::int32_t id, const CourseEntry& entry);
 
 /// A course from the tables as the editor shows it; nothing when there is none with the ID. Of several links
 /// to one place the last counts whose lecturer the editor offers; a place outside 1 to 3 has no list.
-/// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row of the course that cannot be read
+/// @throws DataError for a row of the course that cannot be read
 std::optional<CourseEntry> EntryOf(std::int32_t kolegijID);

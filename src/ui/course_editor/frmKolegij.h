@@ -34,7 +34,7 @@ public:
     std::int32_t StartStudijID = 0; ///< The study to start with; 0 for none.
 
     /// Fills the dialog by its properties, centres it and shows it until it is saved or cancelled.
-    /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row that it needs and cannot read
+    /// @throws DataError for a row that it needs and cannot read
     int ShowModal() override;
 
 private:

@@ -8,8 +8,8 @@
 #include <vector>
 
 // The load of departments: of every lecturer of theirs, a course once per link. Numbers that cannot be read
-// count as 0 here; only the names of studies and holders are looked up strictly. Everything throws
-// SubscriptOutOfRange for a row that is too short, and Overflow for a sum that does not fit.
+// count as 0 here; only the names of studies and holders are looked up strictly. Everything throws DataError,
+// for a row that is too short or a sum that does not fit.
 
 /// What the two filters say; "Svi" means all. The semester is "Svi", "Zimski" (odd), "Ljetni" (even) or a
 /// number.
@@ -19,7 +19,7 @@ struct DepartmentFilter
     std::string Semestar;
 };
 
-/// The courses of a department's lecturers. @throws also TypeMismatch and Overflow from looking up the names
+/// The courses of a department's lecturers. Here a number that the names need must be one.
 std::vector<ListRow> DepartmentCourseRows(std::int32_t zavodID, const DepartmentFilter& filter);
 
 /// The department's table of load: a type that is neither "obvezni" nor "izborni" is not counted.

@@ -7,8 +7,7 @@
 #include <string_view>
 #include <vector>
 
-// The load of lecturers. Everything here throws TypeMismatch, Overflow or SubscriptOutOfRange for a number
-// that it needs and cannot read, and Overflow for a sum that does not fit.
+// The load of lecturers. Everything here throws DataError.
 
 /// What the two filter boxes say; "Svi" means all. Compared exactly; a course without a study passes only
 /// "Svi".

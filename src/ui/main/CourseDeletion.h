@@ -3,5 +3,5 @@
 #include <cstdint>
 
 /// Removes a course and its links to directions and lecturers from the tables, not from the files.
-/// @throws TypeMismatch, Overflow, SubscriptOutOfRange for an ID that cannot be compared
+/// @throws DataError for an ID that cannot be compared
 void DeleteKolegij(std::int32_t id);

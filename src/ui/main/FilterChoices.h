@@ -10,7 +10,7 @@
 // What the filter boxes of the main window offer.
 
 /// "Svi", then the directions of a study with their IDs; "Svi" alone when no study is chosen.
-/// @throws TypeMismatch, Overflow, SubscriptOutOfRange for an ID that cannot be read
+/// @throws DataError for an ID that cannot be read
 std::vector<Choice> SmjerFilterChoices(std::optional<std::int32_t> studijID);
 
 /// "Svi", then the semesters of a level.
