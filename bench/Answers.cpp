@@ -1,7 +1,7 @@
 #include "Cases.h"
 
 #include "data/Files.h"
-#include "ui/main/SemesterStatistics.h"
+#include "support/Lists.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -27,7 +27,7 @@ bool SameRows(const Rows& a, const Rows& b)
 Rows Sorted(const Rows& rows)
 {
     Rows sorted;
-    for (const std::size_t position : SortedPositions(rows, ByTitle))
+    for (const std::size_t position : SortedPositions(KeptRows(rows), ByTitle))
         sorted.push_back(rows[position]);
     return sorted;
 }

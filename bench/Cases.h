@@ -71,8 +71,9 @@ struct Bench
     std::unique_ptr<SqliteCatalogue> Sqlite;
 
     // Kept from one refresh to the next as the windows keep it: its end belongs to the next refresh.
-    Rows Courses;
+    std::unique_ptr<const CourseListModel> Courses;
     Rows Statistics;
+    Rows PlainRows;
     std::unique_ptr<SqliteCatalogue> Imported;
     std::optional<reference::Catalogue> Loaded;
     std::vector<std::string> Bytes; // to be written by the floor

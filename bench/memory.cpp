@@ -1,5 +1,6 @@
 #include "data/Errors.h"
 #include "lists/Choice.h"
+#include "lists/ListModel.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
 #include "ui/main/CourseList.h"
@@ -32,10 +33,12 @@ void LoadAndRefresh()
     const std::string all(Svi);
     modData::LoadAllTables();
     modCSVValidator::ValidateAll();
-    std::vector<ListRow> courses = CourseRows({});
-    std::vector<ListRow> statistics = StatistikaRows({}, modData::Preddiplomski);
-    courses = CourseRows({.Search = "a"});
-    statistics = StatistikaRows({.Search = "a"}, modData::Preddiplomski);
+    for (const CourseFilter& filter : {CourseFilter{}, CourseFilter{.Search = "a"}})
+    {
+        Search search(filter.Search);
+        const CourseListModel courses(CoursesThatPass(filter, search));
+        const std::vector<ListRow> statistics = StatistikaRows(filter, search, modData::Preddiplomski);
+    }
 
     const std::int32_t lecturer = modData::Nastavnici[0].Number(Nastavnik::ID);
     const std::vector<ListRow> lecturerCourses = LecturerCourseRows(lecturer, {all, all});

@@ -7,7 +7,7 @@ namespace
 {
 
 /// Numbers whose range is at most this many times their count are dense.
-constexpr std::int64_t MostPlacesPerRow = 4;
+constexpr std::int64_t MaxGroupsPerRow = 4;
 
 } // namespace
 
@@ -15,58 +15,38 @@ ColumnIndex::ColumnIndex(std::span<const std::int32_t> numbers)
 {
     if (numbers.empty())
         return;
-    GivePlaces(numbers);
-    GroupPositions(numbers);
+    NumberGroups(numbers);
+    FillGroups(numbers);
 }
 
-std::span<const std::uint32_t> ColumnIndex::Positions(std::int32_t number) const
+std::uint32_t ColumnIndex::FarGroupOf(std::int32_t number) const
 {
-    const std::uint32_t place = PlaceOf(number);
-    if (place == None)
-        return {};
-    return std::span(Grouped).subspan(Begins[place], Begins[place + 1] - Begins[place]);
+    const auto entry = m_groups.find(number);
+    return entry == m_groups.end() ? NoGroup : entry->second;
 }
 
-std::uint32_t ColumnIndex::First(std::int32_t number) const
-{
-    const std::span<const std::uint32_t> positions = Positions(number);
-    return positions.empty() ? None : positions.front();
-}
-
-std::uint32_t ColumnIndex::PlaceOf(std::int32_t number) const
-{
-    if (Places.empty())
-    {
-        const std::int64_t place = number - Smallest;
-        const bool isInside = place >= 0 && place + 1 < static_cast<std::int64_t>(Begins.size());
-        return isInside ? static_cast<std::uint32_t>(place) : None;
-    }
-    const auto entry = Places.find(number);
-    return entry == Places.end() ? None : entry->second;
-}
-
-void ColumnIndex::GivePlaces(std::span<const std::int32_t> numbers)
+void ColumnIndex::NumberGroups(std::span<const std::int32_t> numbers)
 {
     const auto [smallest, largest] = std::ranges::minmax(numbers);
-    Smallest = smallest;
+    m_smallest = smallest;
     std::int64_t count = std::int64_t{largest} - smallest + 1;
-    if (count > MostPlacesPerRow * static_cast<std::int64_t>(numbers.size()))
+    if (count > MaxGroupsPerRow * static_cast<std::int64_t>(numbers.size()))
     {
         for (const std::int32_t number : numbers)
-            Places.try_emplace(number, static_cast<std::uint32_t>(Places.size()));
-        count = static_cast<std::int64_t>(Places.size());
+            m_groups.try_emplace(number, static_cast<std::uint32_t>(m_groups.size()));
+        count = static_cast<std::int64_t>(m_groups.size());
     }
-    Begins.resize(static_cast<std::size_t>(count) + 1);
+    m_begins.resize(static_cast<std::size_t>(count) + 1);
 }
 
-void ColumnIndex::GroupPositions(std::span<const std::int32_t> numbers)
+void ColumnIndex::FillGroups(std::span<const std::int32_t> numbers)
 {
     for (const std::int32_t number : numbers)
-        ++Begins[PlaceOf(number)];
-    std::partial_sum(Begins.begin(), Begins.end(), Begins.begin()); // where each group ends
+        ++m_begins[GroupOf(number)];
+    std::partial_sum(m_begins.begin(), m_begins.end(), m_begins.begin()); // where each group ends
 
-    // From the last row to the first, each group is filled from its end and so ends up in table order.
-    Grouped.resize(numbers.size());
+    // From the last row to the first, each group is filled from its end and so is in table order.
+    m_positions.resize(numbers.size());
     for (std::size_t i = numbers.size(); i-- > 0;)
-        Grouped[--Begins[PlaceOf(numbers[i])]] = static_cast<std::uint32_t>(i);
+        m_positions[--m_begins[GroupOf(numbers[i])]] = static_cast<std::uint32_t>(i);
 }

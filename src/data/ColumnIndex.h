@@ -6,31 +6,42 @@
 #include <unordered_map>
 #include <vector>
 
-/// Where each number of a column stands, so that a search need not pass all rows.
+/// Where each number of a column is, so that a search need not pass all rows.
 class ColumnIndex
 {
 public:
-    static constexpr std::uint32_t None = UINT32_MAX;
-
     /// `numbers` are the column's, by position.
     explicit ColumnIndex(std::span<const std::int32_t> numbers);
 
     /// The positions of the rows with the number, in table order.
-    std::span<const std::uint32_t> Positions(std::int32_t number) const;
-
-    /// The position of the first of them, or None.
-    std::uint32_t First(std::int32_t number) const;
+    std::span<const std::uint32_t> Positions(std::int32_t number) const
+    {
+        const std::uint32_t group = GroupOf(number);
+        if (group == NoGroup)
+            return {};
+        return std::span(m_positions).subspan(m_begins[group], m_begins[group + 1] - m_begins[group]);
+    }
 
 private:
-    std::uint32_t PlaceOf(std::int32_t number) const;
-    void GivePlaces(std::span<const std::int32_t> numbers);
-    void GroupPositions(std::span<const std::int32_t> numbers);
+    static constexpr std::uint32_t NoGroup = UINT32_MAX;
 
-    // Each number has a place. Identifiers are mostly given one after the other: then it follows from the
-    // number, which is several times as fast as a map; numbers that lie far apart need the map.
-    std::int64_t Smallest = 0;
-    std::unordered_map<std::int32_t, std::uint32_t> Places;
+    std::uint32_t GroupOf(std::int32_t number) const
+    {
+        if (!m_groups.empty())
+            return FarGroupOf(number);
+        const std::int64_t group = number - m_smallest;
+        const bool isInside = group >= 0 && group + 1 < static_cast<std::int64_t>(m_begins.size());
+        return isInside ? static_cast<std::uint32_t>(group) : NoGroup;
+    }
+    std::uint32_t FarGroupOf(std::int32_t number) const;
+    void NumberGroups(std::span<const std::int32_t> numbers);
+    void FillGroups(std::span<const std::int32_t> numbers);
 
-    std::vector<std::uint32_t> Begins;  // by place: where its group of positions begins; one more behind all
-    std::vector<std::uint32_t> Grouped; // the positions
+    // Each number has a group of positions. Identifiers are mostly given one after the other: then the group
+    // follows from the number, which is several times as fast as a map; numbers far apart need the map.
+    std::int64_t m_smallest = 0;
+    std::unordered_map<std::int32_t, std::uint32_t> m_groups;
+
+    std::vector<std::uint32_t> m_begins;    // by group: where its positions begin; one more at the end
+    std::vector<std::uint32_t> m_positions; // group by group
 };

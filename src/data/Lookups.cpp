@@ -15,8 +15,7 @@ namespace
 
 std::string TextOf(const Table& table, std::int32_t id, std::size_t column)
 {
-    constexpr std::size_t idColumn = 0; // of every table that has an ID
-    const Row* row = table.FindFirst(idColumn, id);
+    const Row* row = table.FindFirst(IDColumn, id);
     return row == nullptr ? std::string() : std::string(row->Field(column));
 }
 
@@ -42,14 +41,10 @@ void OrderByRedoslijed(std::vector<Placed>& items)
 std::vector<PlacedID> LinkedNastavnici(std::int32_t kolegijId, std::size_t most)
 {
     std::vector<PlacedID> linked;
-    KolegijNastavnici.ForEachMatch(
-        KolegijNastavnik::KolegijID, kolegijId,
-        [&](const Row& link)
-        {
-            if (linked.size() < most)
-                linked.push_back({KolegijNastavnici.NumberOf(link, KolegijNastavnik::NastavnikID),
-                                  KolegijNastavnici.NumberOf(link, KolegijNastavnik::Redoslijed)});
-        });
+    for (const Row& link : KolegijNastavnici.Matching(KolegijNastavnik::KolegijID, kolegijId))
+        if (linked.size() < most)
+            linked.push_back(
+                {link.Number(KolegijNastavnik::NastavnikID), link.Number(KolegijNastavnik::Redoslijed)});
     OrderByRedoslijed(linked);
     return linked;
 }
@@ -79,14 +74,12 @@ std::string GetNastavnikIme(std::int32_t id)
 std::string GetSmjeroviKraticeString(std::int32_t kolegijId)
 {
     std::string joined;
-    KolegijSmjerovi.ForEachMatch(KolegijSmjer::KolegijID, kolegijId,
-                                 [&](const Row& link)
-                                 {
-                                     const std::string kratica = GetSmjerKratica(
-                                         KolegijSmjerovi.NumberOf(link, KolegijSmjer::SmjerID));
-                                     if (const std::string_view shown = TrimBlanks(kratica); !shown.empty())
-                                         AppendJoined(joined, ", ", shown);
-                                 });
+    for (const Row& link : KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijId))
+    {
+        const std::string kratica = GetSmjerKratica(link.Number(KolegijSmjer::SmjerID));
+        if (const std::string_view shown = TrimBlanks(kratica); !shown.empty())
+            AppendJoined(joined, ", ", shown);
+    }
     return joined;
 }
 
@@ -113,15 +106,10 @@ std::vector<PlacedNastavnik> GetNastavniciForKolegij(std::int32_t kolegijId)
     constexpr std::size_t usualCount = 4;
     std::vector<PlacedNastavnik> found;
     found.reserve(usualCount);
-    KolegijNastavnici.ForEachMatch(
-        KolegijNastavnik::KolegijID, kolegijId,
-        [&](const Row& link)
-        {
-            const Row* nastavnik = Nastavnici.FindFirst(
-                Nastavnik::ID, KolegijNastavnici.NumberOf(link, KolegijNastavnik::NastavnikID));
-            if (nastavnik != nullptr)
-                found.push_back({nastavnik, KolegijNastavnici.NumberOf(link, KolegijNastavnik::Redoslijed)});
-        });
+    for (const Row& link : KolegijNastavnici.Matching(KolegijNastavnik::KolegijID, kolegijId))
+        if (const Row* nastavnik =
+                Nastavnici.FindFirst(Nastavnik::ID, link.Number(KolegijNastavnik::NastavnikID)))
+            found.push_back({nastavnik, link.Number(KolegijNastavnik::Redoslijed)});
     OrderByRedoslijed(found);
     return found;
 }

@@ -51,11 +51,16 @@ int CompareWithHalf(std::string_view fraction)
 bool ReadPlainDigits(std::string_view text, std::int32_t& value)
 {
     constexpr std::size_t mostThatFit = 9;
-    if (text.empty() || text.size() > mostThatFit || !IsDigits(text))
+    if (text.empty() || text.size() > mostThatFit)
         return false;
-    value = 0;
+    std::int32_t number = 0;
     for (const char digit : text)
-        value = value * 10 + (digit - '0');
+    {
+        if (digit < '0' || digit > '9')
+            return false;
+        number = number * 10 + (digit - '0');
+    }
+    value = number;
     return true;
 }
 

@@ -4,42 +4,13 @@
 #include "data/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
 
 /// The line of a row that was entered in the program.
 constexpr std::uint32_t EnteredLine = 0;
-
-/// Reads a field as a scan would; false where a scan would end in an error.
-bool ReadKey(const Row& row, std::size_t column, Conversion conversion, std::int32_t& key)
-{
-    if (column >= row.FieldCount())
-        return false;
-    key = 0;
-    return ReadLong(row.Field(column), key) == NumberReading::Whole || conversion == Conversion::Safe;
-}
-
-/// The column's numbers, up to the first row where there is none.
-std::vector<std::int32_t> ReadKeys(std::span<const Row> rows, std::size_t column, Conversion conversion)
-{
-    std::vector<std::int32_t> keys;
-    keys.reserve(rows.size());
-    for (const Row& row : rows)
-    {
-        std::int32_t key = 0;
-        if (!ReadKey(row, column, conversion, key))
-            break;
-        keys.push_back(key);
-    }
-    return keys;
-}
-
-std::uint64_t NextRevision()
-{
-    static std::uint64_t last = 0;
-    return ++last;
-}
 
 } // namespace
 
@@ -72,9 +43,7 @@ std::int32_t Row::Number(std::size_t column, Conversion conversion) const
 
 Table::Table(const TableLayout& layout)
     : TableColumns(&layout),
-      Memory(std::make_unique<std::pmr::monotonic_buffer_resource>()),
-      ReadColumns(layout.Columns.size()),
-      ContentRevision(NextRevision())
+      Memory(std::make_unique<std::pmr::monotonic_buffer_resource>())
 {
 }
 
@@ -85,19 +54,19 @@ void Table::AppendLine(std::string_view line, std::uint32_t lineNumber)
         FieldEnds.push_back(static_cast<std::uint32_t>(end));
     FieldEnds.push_back(static_cast<std::uint32_t>(line.size()));
     Rows.push_back(NewRow(line, FieldEnds, lineNumber));
-    ContentChanged();
+    m_indexes.clear();
 }
 
 void Table::Append(const std::vector<std::string>& fields)
 {
     Rows.push_back(EnteredRow(fields));
-    ContentChanged();
+    m_indexes.clear();
 }
 
 void Table::Replace(std::size_t position, const std::vector<std::string>& fields)
 {
     Rows[position] = EnteredRow(fields);
-    ContentChanged();
+    m_indexes.clear();
 }
 
 void Table::RemoveMatches(std::size_t column, std::int32_t number)
@@ -108,31 +77,40 @@ void Table::RemoveMatches(std::size_t column, std::int32_t number)
                  [&](const Row& row) { return row.Number(column) != number; });
     std::ranges::reverse(kept);
     Rows.swap(kept);
-    ContentChanged();
+    m_indexes.clear();
+}
+
+Matches Table::Matching(std::size_t column, std::int32_t number, Conversion conversion) const
+{
+    const IndexedColumn& indexed = Indexed(column);
+    const std::size_t end = indexed.End(conversion);
+    const std::span<const std::uint32_t> positions = indexed.Index.Positions(number);
+    if (end == Rows.size())
+        return {Rows.data(), positions, nullptr, column};
+    const auto before =
+        static_cast<std::size_t>(std::ranges::lower_bound(positions, end) - positions.begin());
+    return {Rows.data(), positions.first(before), &Rows[end], column};
 }
 
 const Row* Table::FindFirst(std::size_t column, std::int32_t number, Conversion conversion) const
 {
-    const std::optional<std::size_t> position = FindPosition(column, number, conversion);
-    return position ? &Rows[*position] : nullptr;
+    const Matches matches = Matching(column, number, conversion);
+    const auto first = matches.begin();
+    return first == matches.end() ? nullptr : &*first;
 }
 
-std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t number,
-                                               Conversion conversion) const
+std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t number) const
 {
-    const ReadColumn& searched = Indexed(column, conversion);
-    const std::uint32_t position = searched.Index->First(number);
-    if (position != ColumnIndex::None)
-        return position;
-    RequireWhole(searched, column);
-    return std::nullopt;
+    const Matches matches = Matching(column, number);
+    const auto first = matches.begin();
+    return first == matches.end() ? std::nullopt : std::optional(first.Position());
 }
 
-std::int32_t Table::NumberOf(const Row& row, std::size_t column, Conversion conversion) const
+std::int32_t Table::NumberAt(std::size_t position, std::size_t column, Conversion conversion) const
 {
-    const std::vector<std::int32_t>& numbers = Read(column, conversion).Numbers;
-    const std::size_t position = PositionOf(row);
-    return position < numbers.size() ? numbers[position] : row.Number(column, conversion);
+    const IndexedColumn& indexed = Indexed(column);
+    return position < indexed.End(conversion) ? indexed.Numbers[position]
+                                              : Rows[position].Number(column, conversion);
 }
 
 Row Table::NewRow(std::string_view line, std::span<const std::uint32_t> ends, std::uint32_t lineNumber)
@@ -166,38 +144,31 @@ Row Table::EnteredRow(const std::vector<std::string>& fields)
     return NewRow(line, FieldEnds, EnteredLine);
 }
 
-Table::ReadColumn& Table::Read(std::size_t column, Conversion conversion) const
+Table::IndexedColumn Table::MakeIndex(std::size_t column) const
 {
-    std::optional<ReadColumn>& read = ReadColumns[column][static_cast<std::size_t>(conversion)];
-    if (!read)
+    std::vector<std::int32_t> numbers;
+    numbers.reserve(Rows.size());
+    std::optional<std::size_t> numbersEnd;
+    for (const Row& row : Rows)
     {
-        read = ReadColumn{ReadKeys(Rows, column, conversion), std::nullopt};
-        HasReadColumns = true;
+        if (column >= row.FieldCount())
+            break;
+        std::int32_t number = 0;
+        if (ReadLong(row.Field(column), number) != NumberReading::Whole && !numbersEnd)
+            numbersEnd = numbers.size();
+        numbers.push_back(number);
     }
-    return *read;
+    const std::size_t end = numbersEnd.value_or(numbers.size());
+    ColumnIndex index(numbers);
+    return {std::move(numbers), end, std::move(index)};
 }
 
-const Table::ReadColumn& Table::Indexed(std::size_t column, Conversion conversion) const
+const Table::IndexedColumn& Table::Indexed(std::size_t column) const
 {
-    ReadColumn& read = Read(column, conversion);
-    if (!read.Index)
-        read.Index.emplace(read.Numbers);
-    return read;
-}
-
-/// A search that has not found enough ends as a scan does: in the error of the first row that cannot be read.
-void Table::RequireWhole(const ReadColumn& searched, std::size_t column) const
-{
-    if (searched.Numbers.size() < Rows.size())
-        Rows[searched.Numbers.size()].Number(column); // throws; where reading is safe, the row is too short
-}
-
-void Table::ContentChanged()
-{
-    ContentRevision = NextRevision();
-    if (!HasReadColumns) // as for every row while a table is loaded
-        return;
-    HasReadColumns = false;
-    for (auto& ofColumn : ReadColumns)
-        ofColumn = {};
+    if (m_indexes.empty())
+        m_indexes.resize(TableColumns->Columns.size());
+    std::optional<IndexedColumn>& indexed = m_indexes[column];
+    if (!indexed)
+        indexed = MakeIndex(column);
+    return *indexed;
 }

@@ -4,9 +4,9 @@
 #include "data/Errors.h"
 #include "data/Numbers.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <memory_resource>
 #include <optional>
@@ -26,13 +26,13 @@ struct TableLayout
 };
 
 /// One row: the fields of one file line as text (UTF-8), in column order; there may be fewer or more than
-/// columns. A light view: the text belongs to the table and stays until the table is loaded anew.
+/// columns. A light view: the text belongs to the table and stays until the table is loaded again.
 class Row
 {
 public:
     std::size_t FieldCount() const { return Count; }
 
-    /// A field exactly as stored. @throws SubscriptOutOfRange when the row is too short
+    /// A field exactly as stored. @throws DataError when the row is too short
     std::string_view Field(std::size_t column) const
     {
         if (column >= Count)
@@ -42,8 +42,8 @@ public:
         return {line + begin, Ends[column] - begin};
     }
 
-    /// A field as a whole number. @throws SubscriptOutOfRange when the row is too short, and where the
-    /// conversion is strict TypeMismatch and Overflow, each naming the place
+    /// A field as a whole number. @throws DataError, which names the place, when the row is too short or,
+    /// where the conversion is strict, the field is no whole number
     std::int32_t Number(std::size_t column, Conversion conversion = Conversion::Strict) const;
 
     /// Where a field of one of the layout's columns is.
@@ -63,6 +63,61 @@ private:
     std::uint32_t LineNumber = 0; // in the file; 0 when no file holds the row yet
 };
 
+/// The rows of a table that hold a number in a column, in table order, for a loop. They are what a scan
+/// finds: where a scan would meet a row that cannot be compared, the step beyond the last match throws its
+/// DataError.
+class Matches
+{
+public:
+    class Iterator
+    {
+    public:
+        explicit Iterator(const Matches& matches) : m_matches(&matches), m_next(matches.m_positions.begin())
+        {
+        }
+
+        std::size_t Position() const { return *m_next; } ///< Of the row in its table.
+        const Row& operator*() const { return m_matches->m_rows[*m_next]; }
+        Iterator& operator++()
+        {
+            ++m_next;
+            return *this;
+        }
+        bool operator==(std::default_sentinel_t) const
+        {
+            if (m_next != m_matches->m_positions.end())
+                return false;
+            if (m_matches->m_unreadable != nullptr)
+                m_matches->m_unreadable->Number(m_matches->m_column); // throws
+            return true;
+        }
+
+    private:
+        const Matches* m_matches;
+        std::span<const std::uint32_t>::iterator m_next;
+    };
+
+    Iterator begin() const { return Iterator(*this); }
+    std::default_sentinel_t end() const { return {}; }
+
+private:
+    friend class Table;
+
+    Matches(const Row* rows, std::span<const std::uint32_t> positions, const Row* unreadable,
+            std::size_t column)
+        : m_rows(rows),
+          m_positions(positions),
+          m_unreadable(unreadable),
+          m_column(column)
+    {
+    }
+
+    const Row* m_rows;
+    std::span<const std::uint32_t> m_positions;
+    const Row* m_unreadable; // the first row that cannot be compared
+    std::size_t m_column;
+};
+
 /// An ordered collection of rows. Searches give what a scan from the first row gives, errors included.
 class Table
 {
@@ -71,95 +126,66 @@ public:
 
     const TableLayout& Layout() const { return *TableColumns; }
 
-    /// A number that no table's content before this one has had: what was made from the table holds as long
-    /// as it stays.
-    std::uint64_t Revision() const { return ContentRevision; }
-
     std::size_t RowCount() const { return Rows.size(); }
     const Row& operator[](std::size_t position) const { return Rows[position]; }
-    /// The position of one of the table's own rows; a copy has none.
-    std::size_t PositionOf(const Row& row) const { return static_cast<std::size_t>(&row - Rows.data()); }
     auto begin() const { return Rows.begin(); }
     auto end() const { return Rows.end(); }
 
-    /// Adds a row behind the last one: the fields of a line of the file, which ";" separates.
+    /// Adds a row at the end: the fields of a line of the file, which ";" separates.
     void AppendLine(std::string_view line, std::uint32_t lineNumber);
 
-    /// Adds a row that no file holds yet behind the last one.
+    /// Adds a row at the end that no file holds yet.
     void Append(const std::vector<std::string>& fields);
 
     /// Puts a new row, which no file holds yet, in the place of the one at a position.
     void Replace(std::size_t position, const std::vector<std::string>& fields);
 
     /// Removes every row that holds the number in the column, from the last row to the first.
-    /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for the first row on that way that cannot be
-    /// compared; then none is removed
+    /// @throws DataError for the first row on that way that cannot be compared; then none is removed
     void RemoveMatches(std::size_t column, std::int32_t number);
 
+    /// The rows that hold the number in the column; they are valid until the table changes.
+    /// @throws DataError for a row that is too short or, where the conversion is strict, holds no number: not
+    /// here but in the loop, see Matches
+    Matches Matching(std::size_t column, std::int32_t number,
+                     Conversion conversion = Conversion::Strict) const;
+
     /// The first row that holds the number in the column; null when there is none.
-    /// @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row before it that cannot be compared
+    /// @throws DataError for a row before it that cannot be compared
     const Row* FindFirst(std::size_t column, std::int32_t number,
                          Conversion conversion = Conversion::Strict) const;
 
     /// The position of the row that FindFirst gives. @throws as FindFirst
-    std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number,
-                                            Conversion conversion = Conversion::Strict) const;
+    std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number) const;
 
-    /// Row::Number for one of the table's own rows, from the numbers that are kept of the column: for going
-    /// through many rows, each of which would otherwise have to be fetched from memory and read. @throws as
-    /// Row::Number
-    std::int32_t NumberOf(const Row& row, std::size_t column,
-                          Conversion conversion = Conversion::Strict) const;
-
-    /// Calls `test` with each row that holds the number in the column, in table order, until one answers
-    /// true; returns whether one did. @throws as FindFirst, once the rows before the faulty one are tested
-    template<typename Test>
-    bool AnyMatch(std::size_t column, std::int32_t number, const Test& test,
-                  Conversion conversion = Conversion::Strict) const
-    {
-        const ReadColumn& searched = Indexed(column, conversion);
-        for (const std::uint32_t position : searched.Index->Positions(number))
-            if (test(Rows[position]))
-                return true;
-        RequireWhole(searched, column);
-        return false;
-    }
-
-    /// Calls `visit` with each row that holds the number in the column, in table order. @throws as AnyMatch
-    template<typename Visit>
-    void ForEachMatch(std::size_t column, std::int32_t number, const Visit& visit,
-                      Conversion conversion = Conversion::Strict) const
-    {
-        const auto visitAndGoOn = [&](const Row& row)
-        {
-            visit(row);
-            return false;
-        };
-        AnyMatch(column, number, visitAndGoOn, conversion);
-    }
+    /// Row::Number for the row at a position, from the column's index: faster where many rows are read out of
+    /// order. @throws as Row::Number
+    std::int32_t NumberAt(std::size_t position, std::size_t column, Conversion conversion) const;
 
 private:
-    /// The numbers of a column by position, up to the first row whose field cannot be read as one, since a
-    /// scan ends there in an error; and where they stand, once something was searched.
-    struct ReadColumn
+    /// The index of a column, made when first needed. A text that is no number counts as 0 in it; how far it
+    /// is searched depends on how strictly numbers are read.
+    struct IndexedColumn
     {
-        std::vector<std::int32_t> Numbers;
-        std::optional<ColumnIndex> Index;
+        /// Where a search ends: at the first row that cannot be compared.
+        std::size_t End(Conversion conversion) const
+        {
+            return conversion == Conversion::Strict ? NumbersEnd : Numbers.size();
+        }
+
+        std::vector<std::int32_t> Numbers; // by position, up to the first row that is too short
+        std::size_t NumbersEnd;            // the first row that holds no number
+        ColumnIndex Index;
     };
 
     Row NewRow(std::string_view line, std::span<const std::uint32_t> ends, std::uint32_t lineNumber);
     Row EnteredRow(const std::vector<std::string>& fields);
-    ReadColumn& Read(std::size_t column, Conversion conversion) const;
-    const ReadColumn& Indexed(std::size_t column, Conversion conversion) const;
-    void RequireWhole(const ReadColumn& searched, std::size_t column) const;
-    void ContentChanged();
+    IndexedColumn MakeIndex(std::size_t column) const;
+    const IndexedColumn& Indexed(std::size_t column) const;
 
     const TableLayout* TableColumns;
     std::unique_ptr<std::pmr::monotonic_buffer_resource> Memory; // the lines of all rows
     std::vector<std::uint32_t> FieldEnds;                        // of the line that is being added
     std::vector<Row> Rows;
-    mutable std::vector<std::array<std::optional<ReadColumn>, 2>> ReadColumns; // by column and conversion,
-                                                                               // each read when first needed
-    mutable bool HasReadColumns = false;
-    std::uint64_t ContentRevision;
+    mutable std::vector<std::optional<IndexedColumn>> m_indexes; // by column; none after a change
 };

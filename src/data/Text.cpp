@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 
 namespace
@@ -71,16 +72,21 @@ std::string UpperCase(std::string_view text)
 {
     std::string upper;
     upper.reserve(text.size());
-    while (!text.empty())
-    {
-        const std::size_t begin = upper.size();
-        upper += TakeAscii(text);
-        for (char& c : std::span(upper).subspan(begin))
-            c = static_cast<char>(UpperTable[static_cast<std::uint8_t>(c)]);
-        if (!text.empty())
-            AppendCodePoint(upper, UpperCase(TakeCodePoint(text)));
-    }
+    AppendUpperCase(upper, text);
     return upper;
+}
+
+void AppendUpperCase(std::string& text, std::string_view added)
+{
+    while (!added.empty())
+    {
+        const std::size_t begin = text.size();
+        text += TakeAscii(added);
+        for (char& c : std::span(text).subspan(begin))
+            c = static_cast<char>(UpperTable[static_cast<std::uint8_t>(c)]);
+        if (!added.empty())
+            AppendCodePoint(text, UpperCase(TakeCodePoint(added)));
+    }
 }
 
 bool IsWord(std::string_view text, std::string_view upperCaseWord)
@@ -94,9 +100,18 @@ bool IsWord(std::string_view text, std::string_view upperCaseWord)
 
 std::string_view TakeAscii(std::string_view& text)
 {
-    const auto end = std::ranges::find_if(text, [](char c) { return (c & 0x80) != 0; });
-    const std::string_view ascii(text.begin(), end);
-    text.remove_prefix(ascii.size());
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t size = 0;
+    for (std::uint64_t word = 0; size + sizeof word <= text.size(); size += sizeof word)
+    {
+        std::memcpy(&word, text.data() + size, sizeof word);
+        if ((word & highBits) != 0)
+            break;
+    }
+    while (size < text.size() && (text[size] & 0x80) == 0)
+        ++size;
+    const std::string_view ascii = text.substr(0, size);
+    text.remove_prefix(size);
     return ascii;
 }
 

@@ -11,6 +11,9 @@ std::string_view TrimBlanks(std::string_view text);
 /// The text with every letter that windows-1250 has in upper case, whatever the system's locale; "ß" stays.
 std::string UpperCase(std::string_view text);
 
+/// Appends a text in upper case.
+void AppendUpperCase(std::string& text, std::string_view added);
+
 /// True when the text, trimmed and upper-cased, is the given upper-case word.
 bool IsWord(std::string_view text, std::string_view upperCaseWord);
 

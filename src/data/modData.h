@@ -96,6 +96,9 @@ constexpr int LastSemestar(std::string_view razina)
     return razina == Diplomski ? 4 : 6;
 }
 
+/// The column of the ID in each of the five tables that have one.
+inline constexpr std::size_t IDColumn = 0;
+
 extern Table Zavodi;
 extern Table Nastavnici;
 extern Table Studiji;

@@ -8,8 +8,7 @@ namespace
 
 Choice ChoiceOf(const Row& row, std::size_t textColumn)
 {
-    constexpr std::size_t idColumn = 0; // of every table that has an ID
-    return {std::string(row.Field(textColumn)), row.Number(idColumn)};
+    return {std::string(row.Field(textColumn)), row.Number(modData::IDColumn)};
 }
 
 } // namespace
@@ -42,9 +41,8 @@ std::vector<Choice> StudijChoices(std::string_view razina, RazinaMatch match)
 std::vector<Choice> SmjerChoices(std::int32_t studijID)
 {
     std::vector<Choice> choices;
-    modData::Smjerovi.ForEachMatch(Smjer::StudijID, studijID,
-                                   [&](const Row& smjer)
-                                   { choices.push_back(ChoiceOf(smjer, Smjer::Kratica)); });
+    for (const Row& smjer : modData::Smjerovi.Matching(Smjer::StudijID, studijID))
+        choices.push_back(ChoiceOf(smjer, Smjer::Kratica));
     return choices;
 }
 

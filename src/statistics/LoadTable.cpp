@@ -101,13 +101,12 @@ std::vector<ListRow> LoadRows(const LoadSums& sums, const LoadTableStyle& style,
     std::vector<ListRow> rows;
     for (const LoadLine& line : LoadLines(sums, style, range))
     {
-        ListRow& row = rows.emplace_back();
-        row.Add(line.First, Black, line.IsTotal);
-        row.Add(line.Second, Black, line.IsTotal);
+        std::vector<std::string> texts = {std::string(line.First), std::string(line.Second)};
         for (const std::int32_t number : line.Sums.Numbers())
-            row.Add(std::to_string(number), Black, line.IsTotal);
+            texts.push_back(std::to_string(number));
+        rows.push_back(UniformRow(texts, Black, line.IsTotal));
         if (style.FlagsOverfull && line.IsOverfull)
-            row.SetColour(EctsColumn, Red);
+            rows.back()[EctsColumn].Colour = Red;
     }
     return rows;
 }

@@ -1,49 +1,153 @@
 #include "statistics/TaughtCourses.h"
 
+#include "data/Errors.h"
+#include "data/Files.h"
 #include "data/Lookups.h"
+#include "data/modData.h"
 
+#include <optional>
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace
 {
 
-// Shown as stored.
-constexpr Kolegij::Column ShownFields[] = {Kolegij::Naziv, Kolegij::P,   Kolegij::S,       Kolegij::V,
-                                           Kolegij::ECTS,  Kolegij::Tip, Kolegij::Semestar};
-
-} // namespace
-
-ListRow TaughtCourseRow(const Row& kolegij, std::int32_t kolegijID, std::int32_t studijID)
+/// What a course adds to the sums.
+struct CourseLoad
 {
-    std::vector<std::string> texts;
-    for (const Kolegij::Column column : ShownFields)
-        texts.emplace_back(kolegij.Field(column));
-    texts.push_back(modData::GetStudijKratica(studijID));
-    texts.push_back(modData::GetNositeljiString(kolegijID));
-    return UniformRow(texts, ElectiveColour(kolegij.Field(Kolegij::Tip)));
-}
+    std::int32_t Semestar;
+    Tip Type;
+    Load Adds;
+};
 
-std::optional<CourseLoad> CourseLoadOf(const Row& kolegij, const CountingRules& rules)
+/// What a course adds to the sums, if anything. @throws DataError
+std::optional<CourseLoad> LoadOf(const Row& kolegij, const TeachingStatistic& statistic, Conversion hours)
 {
-    const std::int32_t semestar = kolegij.Number(Kolegij::Semestar, rules.Semestar);
+    if (!statistic.Passes(kolegij))
+        return std::nullopt;
+    const std::int32_t semestar = kolegij.Number(Kolegij::Semestar, statistic.Numbers);
     if (semestar < 1 || semestar > MostSemesters)
         return std::nullopt;
-    const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), rules.Others);
+    const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), statistic.Others);
     if (!tip)
         return std::nullopt;
     return CourseLoad{semestar,
                       *tip,
-                      {.P = kolegij.Number(Kolegij::P, rules.Hours),
-                       .S = kolegij.Number(Kolegij::S, rules.Hours),
-                       .V = kolegij.Number(Kolegij::V, rules.Hours),
-                       .ECTS = kolegij.Number(Kolegij::ECTS, rules.Hours),
+                      {.P = kolegij.Number(Kolegij::P, hours),
+                       .S = kolegij.Number(Kolegij::S, hours),
+                       .V = kolegij.Number(Kolegij::V, hours),
+                       .ECTS = kolegij.Number(Kolegij::ECTS, hours),
                        .Kolegija = 1}};
 }
 
-void AddTo(LoadSums& sums, const std::optional<CourseLoad>& load)
+/// The sums of one lecturer or department; `loadOf` gives the load of the course at a position.
+template<typename LoadOfPosition>
+LoadSums SumsOf(const TeachingStatistic& statistic, std::int32_t id, const LoadOfPosition& loadOf)
 {
-    if (load)
-        sums.Add(load->Semestar, load->Type, load->Adds);
+    LoadSums sums;
+    statistic.ForEachTaughtCourse(id,
+                                  [&](std::size_t position)
+                                  {
+                                      if (const std::optional<CourseLoad> load = loadOf(position))
+                                          sums.Add(load->Semestar, load->Type, load->Adds);
+                                  });
+    return sums;
+}
+
+/// The load of all courses in the file, computed once and in table order: an export meets each course once
+/// for every lecturer of it, and out of order.
+class ExportedLoads
+{
+public:
+    explicit ExportedLoads(const TeachingStatistic& statistic) : m_statistic(statistic)
+    {
+        m_loads.reserve(modData::Kolegiji.RowCount());
+        try
+        {
+            for (const Row& kolegij : modData::Kolegiji)
+                m_loads.push_back(LoadOf(kolegij, statistic, statistic.ExportedHours));
+        }
+        catch (const DataError&)
+        {
+            // It is no error before the export comes to that course, which it may never do.
+        }
+    }
+
+    std::optional<CourseLoad> operator()(std::size_t position) const
+    {
+        return position < m_loads.size()
+                   ? m_loads[position]
+                   : LoadOf(modData::Kolegiji[position], m_statistic, m_statistic.ExportedHours);
+    }
+
+private:
+    const TeachingStatistic& m_statistic;
+    std::vector<std::optional<CourseLoad>> m_loads; // by position, up to the first that cannot be read
+};
+
+ListRow TaughtCourseRow(const Row& kolegij, Conversion conversion)
+{
+    std::vector<std::string> texts;
+    for (std::size_t column = Kolegij::Naziv; column <= Kolegij::Semestar; ++column)
+        texts.emplace_back(kolegij.Field(column));
+    texts.push_back(modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID, conversion)));
+    texts.push_back(modData::GetNositeljiString(kolegij.Number(Kolegij::ID, conversion)));
+    return UniformRow(texts, ElectiveColour(kolegij.Field(Kolegij::Tip)));
+}
+
+} // namespace
+
+void ForEachCourseOfNastavnik(std::int32_t nastavnikID, Conversion conversion, const CourseVisitor& visit)
+{
+    const Table& table = modData::KolegijNastavnici;
+    const Matches links = table.Matching(KolegijNastavnik::NastavnikID, nastavnikID, conversion);
+    for (auto link = links.begin(); link != links.end(); ++link)
+    {
+        const std::int32_t kolegijID =
+            table.NumberAt(link.Position(), KolegijNastavnik::KolegijID, conversion);
+        const Matches courses = modData::Kolegiji.Matching(Kolegij::ID, kolegijID, conversion);
+        for (auto course = courses.begin(); course != courses.end(); ++course)
+            visit(course.Position());
+    }
+}
+
+std::vector<ListRow> TaughtCourseRows(const TeachingStatistic& statistic, std::int32_t id)
+{
+    std::vector<ListRow> rows;
+    statistic.ForEachTaughtCourse(id,
+                                  [&](std::size_t position)
+                                  {
+                                      const Row& kolegij = modData::Kolegiji[position];
+                                      if (statistic.Passes(kolegij))
+                                          rows.push_back(TaughtCourseRow(kolegij, statistic.Numbers));
+                                  });
+    return rows;
+}
+
+std::vector<ListRow> TeachingLoadRows(const TeachingStatistic& statistic, std::int32_t id)
+{
+    const auto loadOf = [&](std::size_t position)
+    { return LoadOf(modData::Kolegiji[position], statistic, statistic.ShownHours); };
+    return LoadRows(SumsOf(statistic, id, loadOf), statistic.Style);
+}
+
+void ExportTeachingLoad(const TeachingStatistic& statistic, std::string_view path)
+{
+    TextFile file;
+    file.AddLine(std::string(statistic.OwnerTitle) + ";Semestar;Tip;P;S;V;ECTS;Broj kolegija");
+    const ExportedLoads loads(statistic);
+    std::string text;
+    for (const Row& owner : *statistic.Owners)
+    {
+        const std::string_view name = owner.Field(statistic.OwnerName);
+        const LoadSums sums = SumsOf(statistic, owner.Number(modData::IDColumn, statistic.Numbers), loads);
+        for (const LoadLine& line : LoadLines(sums, statistic.Style))
+        {
+            text.assign(name).append(";").append(line.First).append(";").append(line.Second);
+            for (const std::int32_t number : line.Sums.Numbers())
+                text.append(";").append(std::to_string(number));
+            file.AddLine(text);
+        }
+        file.AddLine("");
+    }
+    file.SaveAs(path);
 }

@@ -1,97 +1,52 @@
 #pragma once
 
-#include "data/Errors.h"
 #include "data/Numbers.h"
 #include "data/Table.h"
-#include "data/modData.h"
-#include "lists/ListRow.h"
+#include "lists/ListModel.h"
 #include "statistics/LoadTable.h"
 
 #include <cstdint>
-#include <optional>
-#include <utility>
+#include <functional>
+#include <string_view>
 #include <vector>
 
-// What the statistics of lecturers and of departments share: who teaches what, the rows of their course
-// lists, and how a course is counted.
+// What the statistics of lecturers and of departments share: the list of courses, the table of load, and the
+// file with the tables of all.
 
-/// The columns of both course lists, in the order of TaughtCourseRow's cells.
+/// The columns of both course lists.
 inline constexpr ListColumn TaughtCourseColumns[] = {
     {"Kolegij", 2200}, {"P", 500},   {"S", 500},      {"V", 500},          {"ECTS", 700},
     {"Tip", 1200},     {"Sem", 600}, {"Studij", 800}, {"Nositelji", 2500},
 };
 
-/// A course in one of these lists; an elective's row is blue. The study and the course are given as the
-/// caller converts them. @throws TypeMismatch, Overflow, SubscriptOutOfRange for a row that the names need
-ListRow TaughtCourseRow(const Row& kolegij, std::int32_t kolegijID, std::int32_t studijID);
+/// Takes the position of one of the program's courses.
+using CourseVisitor = std::function<void(std::size_t position)>;
 
-/// How a course is counted.
-struct CountingRules
+/// What is different about the two statistics. A conversion says how strictly numbers are read.
+struct TeachingStatistic
 {
-    Conversion Semestar;
-    Conversion Hours; ///< Of hours and credits.
+    std::function<bool(const Row& kolegij)> Passes;                                       ///< The filter.
+    std::function<void(std::int32_t id, const CourseVisitor& visit)> ForEachTaughtCourse; ///< Once per link.
+    Conversion Numbers;       ///< Of identifiers and semesters.
+    Conversion ShownHours;    ///< Of hours and credits in the window.
+    Conversion ExportedHours; ///< And in the file.
     OtherTypes Others;
-};
-
-/// What a course adds to the sums.
-struct CourseLoad
-{
-    std::int32_t Semestar;
-    Tip Type;
-    Load Adds;
-};
-
-/// What a course adds to the sums; nothing outside the semesters 1 to 6.
-/// @throws TypeMismatch, Overflow where a conversion is strict; SubscriptOutOfRange
-std::optional<CourseLoad> CourseLoadOf(const Row& kolegij, const CountingRules& rules);
-
-/// Adds what a course adds to the sums, if anything. @throws Overflow
-void AddTo(LoadSums& sums, const std::optional<CourseLoad>& load);
-
-/// A rule for what a course adds to the sums, worked out beforehand for all of the program's courses: an
-/// export meets each course once for every lecturer of it, and out of order.
-template<typename Rule>
-class CourseLoads
-{
-public:
-    /// Goes through the courses in table order, up to the first that the rule throws for.
-    explicit CourseLoads(Rule rule) : LoadOf(std::move(rule))
-    {
-        Known.reserve(modData::Kolegiji.RowCount());
-        try
-        {
-            for (const Row& kolegij : modData::Kolegiji)
-                Known.push_back(LoadOf(kolegij));
-        }
-        catch (const RuntimeError&)
-        {
-            // It is no error before the export comes to that course, which it may never do.
-        }
-    }
-
-    /// What a row of the program's courses adds. @throws as the rule
-    std::optional<CourseLoad> operator()(const Row& kolegij) const
-    {
-        const std::size_t position = modData::Kolegiji.PositionOf(kolegij);
-        return position < Known.size() ? Known[position] : LoadOf(kolegij);
-    }
-
-private:
-    Rule LoadOf;
-    std::vector<std::optional<CourseLoad>> Known; // by the course's position
+    LoadTableStyle Style;
+    const Table* Owners;         ///< The table of those whose load it is.
+    std::size_t OwnerName;       ///< The column of their names.
+    std::string_view OwnerTitle; ///< The first column's title in the file.
 };
 
 /// Calls `visit` with each course that a lecturer is linked to, once per link, in the order of the links,
-/// whatever the role. @throws TypeMismatch, Overflow where the conversion is strict; SubscriptOutOfRange
-template<typename Visit>
-void ForEachTaughtCourse(std::int32_t nastavnikID, Conversion conversion, const Visit& visit)
-{
-    const auto visitLinked = [&](const Row& link)
-    {
-        const std::int32_t kolegijID =
-            modData::KolegijNastavnici.NumberOf(link, KolegijNastavnik::KolegijID, conversion);
-        modData::Kolegiji.ForEachMatch(Kolegij::ID, kolegijID, visit, conversion);
-    };
-    modData::KolegijNastavnici.ForEachMatch(KolegijNastavnik::NastavnikID, nastavnikID, visitLinked,
-                                            conversion);
-}
+/// whatever the role. @throws DataError
+void ForEachCourseOfNastavnik(std::int32_t nastavnikID, Conversion conversion, const CourseVisitor& visit);
+
+/// The courses of one lecturer or department; electives are blue. @throws DataError
+std::vector<ListRow> TaughtCourseRows(const TeachingStatistic& statistic, std::int32_t id);
+
+/// Their table of load. @throws DataError
+std::vector<ListRow> TeachingLoadRows(const TeachingStatistic& statistic, std::int32_t id);
+
+/// Writes the tables of all: a header, then a block each, its name before every line and an empty line after
+/// it. Nothing is quoted: a ";" in a name stays as it is. @throws DataError, FileError; an older file stays
+void ExportTeachingLoad(const TeachingStatistic& statistic, std::string_view path);

@@ -17,10 +17,10 @@ constexpr std::int32_t LastSemestar = 6;
 constexpr std::int32_t FirstRedoslijed = 1;
 constexpr std::int32_t LastRedoslijed = 3;
 
-/// True when a row before this one has its ID, which is in the first column and has been read already.
+/// True when a row before this one of the table has its ID.
 bool IsDuplicate(const Table& table, const Row& row, std::int32_t id)
 {
-    return table.FindPosition(0, id) < table.PositionOf(row);
+    return table.FindFirst(modData::IDColumn, id) != &row;
 }
 
 /// Whether a row's reference leads to a row of a table.

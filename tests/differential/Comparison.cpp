@@ -4,6 +4,7 @@
 #include "data/modData.h"
 #include "differential/AnswerText.h"
 #include "support/Catalogue.h"
+#include "support/Lists.h"
 #include "support/TestFolder.h"
 #include "ui/main/CatalogueExport.h"
 #include "ui/main/CourseDeletion.h"
@@ -50,7 +51,7 @@ std::vector<std::string> ProgramMessages()
 std::vector<ListRow> SortedAsShown(const std::vector<ListRow>& rows, ListOrder order)
 {
     std::vector<ListRow> sorted;
-    for (const std::size_t position : SortedPositions(rows, order))
+    for (const std::size_t position : SortedPositions(KeptRows(rows), order))
         sorted.push_back(rows[position]);
     return sorted;
 }
@@ -186,6 +187,19 @@ bool Comparison::CompareLists(const CourseFilter& filter, const std::string& raz
     const auto plainCourses = [&] { return reference::CourseRows(catalogue, filter); };
     const auto sums = [&] { return StatistikaRows(filter, razina); };
     const auto plainSums = [&] { return reference::StatistikaRows(catalogue, filter, razina); };
+    // As the window refreshes them: with one search.
+    const auto both = [&]
+    {
+        Search search(filter.Search);
+        const CourseListModel model(CoursesThatPass(filter, search));
+        std::string shown = Shown(RowsOf(model, courseColumns));
+        return shown += Shown(StatistikaRows(filter, search, razina));
+    };
+    const auto plainBoth = [&]
+    {
+        std::string shown = Shown(plainCourses());
+        return shown += Shown(plainSums());
+    };
     const std::string order = (descending ? " descending by " : " by ") + std::to_string(courseColumn) + "/" +
                               std::to_string(sumColumn);
     return Ask("CourseRows" + Shown(filter), courses, plainCourses) &&
@@ -201,7 +215,8 @@ bool Comparison::CompareLists(const CourseFilter& filter, const std::string& raz
                [&] {
                    return SortedAsShown(sums(), {sumColumn, descending});
                },
-               [&] { return reference::SortedRows(plainSums(), sumColumn, descending); });
+               [&] { return reference::SortedRows(plainSums(), sumColumn, descending); }) &&
+           Ask("a refresh" + Shown(filter) + razina, both, plainBoth);
 }
 
 bool Comparison::CompareLoad(const reference::Catalogue& catalogue)

@@ -3,6 +3,7 @@
 #include "data/modData.h"
 #include "fuzz/Fuzz.h"
 #include "lists/TableChoices.h"
+#include "support/Lists.h"
 #include "support/TestFolder.h"
 #include "ui/course_editor/CourseEntry.h"
 #include "ui/department_stats/DepartmentStatistics.h"

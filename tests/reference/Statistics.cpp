@@ -68,7 +68,7 @@ std::vector<ListRow> SumRows(const Table& table, const Wording& wording, std::si
             const Sums& sums = table[type][s - 1];
             rows.push_back(SumRow(std::to_string(s), names[type], sums, false));
             if (wording.RedAbove30 && sums[EctsValue] > 30)
-                rows.back().SetColour(5, Red);
+                rows.back()[5].Colour = Red;
         }
     }
 

@@ -30,20 +30,6 @@ std::string Outcome(const Search& search)
     return found;
 }
 
-/// A number, or the error in its place, as text.
-template<typename Reading>
-std::string NumberOrError(const Reading& reading)
-{
-    try
-    {
-        return std::to_string(reading());
-    }
-    catch (const RuntimeError& error)
-    {
-        return error.what();
-    }
-}
-
 /// Reads every row, and stops behind the first match where only that is wanted.
 auto Scan(const Table& table, std::int32_t number, Conversion conversion, bool stopAtMatch)
 {
@@ -92,34 +78,33 @@ TEST(ColumnIndex, FindsWhatReadingRowByRowFinds)
                         visit(*row);
                 };
                 const auto all = [&](const auto& visit)
-                { table.ForEachMatch(Column, number, visit, conversion); };
+                {
+                    for (const Row& row : table.Matching(Column, number, conversion))
+                        visit(row);
+                };
                 ASSERT_EQ(Outcome(first), Outcome(Scan(table, number, conversion, true)));
                 ASSERT_EQ(Outcome(all), Outcome(Scan(table, number, conversion, false)));
             }
     }
 }
 
-TEST(ColumnIndex, KeepsTheNumberThatReadingARowGives)
+TEST(ColumnIndex, ASearchFollowsEveryChangeOfTheTable)
 {
-    std::mt19937 random(2);
-    for (int round = 0; round < 3000; ++round)
-    {
-        const Table table = RandomTable(random);
-        for (const Conversion conversion : {Conversion::Strict, Conversion::Safe})
-            for (const Row& row : table)
-            {
-                const auto kept = [&] { return table.NumberOf(row, Column, conversion); };
-                const auto read = [&] { return row.Number(Column, conversion); };
-                ASSERT_EQ(NumberOrError(kept), NumberOrError(read));
-            }
-    }
+    Table table(modData::KolegijSmjerovi.Layout());
+    table.AppendLine("1;7", 2);
+    EXPECT_EQ(table.FindPosition(Column, 7), 0U);
+    EXPECT_EQ(table.FindPosition(Column, 8), std::nullopt);
+    table.Append({"2", "8"});
+    EXPECT_EQ(table.FindPosition(Column, 8), 1U);
+    table.Replace(0, {"1", "9"});
+    EXPECT_EQ(table.FindPosition(Column, 7), std::nullopt);
+    table.RemoveMatches(Column, 9);
+    EXPECT_EQ(table.FindPosition(Column, 8), 0U);
 }
 
 TEST(ColumnIndex, AnEmptyTableHoldsNothing)
 {
-    const ColumnIndex index({});
-    EXPECT_EQ(index.First(0), ColumnIndex::None);
-    EXPECT_TRUE(index.Positions(0).empty());
+    EXPECT_TRUE(ColumnIndex({}).Positions(0).empty());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "data/Errors.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
+#include "support/Lists.h"
 #include "ui/main/CourseDeletion.h"
 #include "ui/main/FilterChoices.h"
 

@@ -2,6 +2,7 @@
 
 #include "data/Errors.h"
 #include "support/Catalogue.h"
+#include "support/Lists.h"
 
 #include <gtest/gtest.h>
 

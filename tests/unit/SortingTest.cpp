@@ -1,5 +1,5 @@
 #include "lists/CroatianOrder.h"
-#include "lists/ListRow.h"
+#include "lists/ListModel.h"
 
 #include <gtest/gtest.h>
 
@@ -72,7 +72,8 @@ Texts Sorted(const Texts& texts, bool descending)
     for (const std::string& text : texts)
         rows.push_back({{"x"}, {text}});
     Texts sorted;
-    for (const std::size_t position : SortedPositions(rows, {.Column = 1, .Descending = descending}))
+    for (const std::size_t position :
+         SortedPositions(KeptRows(rows), {.Column = 1, .Descending = descending}))
         sorted.push_back(texts[position]);
     return sorted;
 }
@@ -86,9 +87,9 @@ TEST(Sorting, EqualTextsKeepTheirOrderInBothDirections)
 
 TEST(Sorting, ManyEqualTextsKeepTheirOrderInBothDirections)
 {
-    std::vector<ListRow> rows(100, ListRow{{"Lov"}});
+    const KeptRows rows(std::vector<ListRow>(100, ListRow{{"Lov"}}));
     std::vector<std::size_t> asTheyStood;
-    for (std::size_t i = 0; i < rows.size(); ++i)
+    for (std::size_t i = 0; i < rows.RowCount(); ++i)
         asTheyStood.push_back(i);
     EXPECT_EQ(SortedPositions(rows, {.Column = 0, .Descending = false}), asTheyStood);
     EXPECT_EQ(SortedPositions(rows, {.Column = 0, .Descending = true}), asTheyStood);

@@ -234,8 +234,12 @@ TEST_F(Tables, GatheringPassesTheWholeTable)
 {
     const Table table = Load("h\r\n7;1\r\n7.0;2\r\n\r\n7;3\r\nbad;4\r\n");
     std::string gathered;
-    const auto gather = [&](const Row& row) { gathered += row.Field(1); };
-    EXPECT_THROW(table.ForEachMatch(0, 7, gather), TypeMismatch);
+    const auto gather = [&]
+    {
+        for (const Row& row : table.Matching(0, 7))
+            gathered += row.Field(1);
+    };
+    EXPECT_THROW(gather(), TypeMismatch);
     EXPECT_EQ(gathered, "123") << "the rows before the bad one were visited";
 }
 
@@ -257,8 +261,8 @@ TEST_F(Tables, SafeSearchTakesWhatIsNoNumberAsZero)
 {
     const Table table = Load("h\r\nx;1\r\n0;2\r\n5;3\r\n");
     std::string gathered;
-    table.ForEachMatch(
-        0, 0, [&](const Row& row) { gathered += row.Field(1); }, Conversion::Safe);
+    for (const Row& row : table.Matching(0, 0, Conversion::Safe))
+        gathered += row.Field(1);
     EXPECT_EQ(gathered, "12");
     EXPECT_EQ(table.FindFirst(0, 5, Conversion::Safe)->Field(1), "3");
 }

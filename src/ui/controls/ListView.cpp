@@ -8,6 +8,7 @@
 #include <wx/sizer.h>
 
 #include <algorithm>
+#include <numeric>
 
 namespace
 {
@@ -26,9 +27,20 @@ bool IsCharacter(const wxKeyEvent& key)
     return character >= WXK_SPACE && character != WXK_DELETE && !key.HasModifiers();
 }
 
+/// The order in which the model's rows are shown: its own unless the list is sorted.
+std::vector<std::size_t> PositionsOf(const ListModel& model, std::optional<ListOrder> order)
+{
+    if (order)
+        return SortedPositions(model, *order);
+    std::vector<std::size_t> positions(model.RowCount());
+    std::iota(positions.begin(), positions.end(), std::size_t{0});
+    return positions;
+}
+
 } // namespace
 
 ListView::ListView(wxWindow* parent, const wxString& name, std::string_view spokenName)
+    : m_model(std::make_unique<KeptRows>(std::vector<ListRow>()))
 {
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxTAB_TRAVERSAL, name);
     Native = CreateNativeList(
@@ -68,11 +80,10 @@ void ListView::SetColumns(std::span<const ListColumn> columns)
     Native->ColumnsComplete();
 }
 
-void ListView::SetRows(std::vector<ListRow> rows)
+void ListView::Show(std::unique_ptr<const ListModel> model)
 {
-    Rows = std::move(rows);
-    if (Order)
-        Reorder(SortedPositions(Rows, *Order));
+    m_model = std::move(model);
+    m_positions = PositionsOf(*m_model, Order);
     Native->ShowNewRows(RowCount());
 }
 
@@ -81,21 +92,12 @@ void ListView::SortBy(ListOrder order)
     Order = order;
     Native->ShowSortArrow(static_cast<int>(order.Column), order.Descending);
 
-    const std::vector<std::size_t> positions = SortedPositions(Rows, order);
     const int selected = SelectedRow();
-    Reorder(positions);
+    const std::size_t kept = selected >= 0 ? m_positions[Index(selected)] : 0;
+    m_positions = PositionsOf(*m_model, Order);
     Native->ShowReorderedRows();
     if (selected >= 0)
-        SelectRow(static_cast<int>(std::ranges::find(positions, Index(selected)) - positions.begin()));
-}
-
-void ListView::Reorder(const std::vector<std::size_t>& positions)
-{
-    std::vector<ListRow> ordered;
-    ordered.reserve(Rows.size());
-    for (const std::size_t position : positions)
-        ordered.push_back(std::move(Rows[position]));
-    Rows = std::move(ordered);
+        SelectRow(static_cast<int>(std::ranges::find(m_positions, kept) - m_positions.begin()));
 }
 
 wxString ListView::ColumnCaption(int column) const
@@ -108,24 +110,29 @@ int ListView::ColumnWidth(int column) const
     return Native->ColumnWidth(column);
 }
 
-ListCell ListView::Cell(int row, int column) const
+std::string ListView::Text(int row, int column) const
 {
-    return Rows.at(Index(row)).at(Index(column));
+    return m_model->Text(m_positions.at(Index(row)), Index(column));
+}
+
+CellStyle ListView::Style(int row, int column) const
+{
+    return m_model->Style(m_positions.at(Index(row)), Index(column));
 }
 
 wxString ListView::CellText(int row, int column) const
 {
-    return ToWx(Cell(row, column).Text);
+    return ToWx(Text(row, column));
 }
 
 wxColour ListView::CellColour(int row, int column) const
 {
-    return wxColour(Cell(row, column).Colour);
+    return wxColour(Style(row, column).Colour);
 }
 
 bool ListView::CellBold(int row, int column) const
 {
-    return Cell(row, column).Bold;
+    return Style(row, column).Bold;
 }
 
 int ListView::SelectedRow() const

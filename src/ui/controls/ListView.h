@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListRow.h"
+#include "lists/ListModel.h"
 
 #include <wx/containr.h>
 #include <wx/window.h>
@@ -10,7 +10,9 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 class NativeList;
@@ -28,8 +30,11 @@ public:
     /// Sets the columns; once, before any row.
     void SetColumns(std::span<const ListColumn> columns);
 
-    /// Replaces all rows, sorted if sorting is on; no row is selected then.
-    void SetRows(std::vector<ListRow> rows);
+    /// Shows the model's rows instead of what was shown, sorted if sorting is on; no row is selected then.
+    void Show(std::unique_ptr<const ListModel> model);
+
+    /// The same with rows that stay as they are.
+    void ShowRows(std::vector<ListRow> rows) { Show(std::make_unique<KeptRows>(std::move(rows))); }
 
     /// Switches sorting on and sorts the rows. The selected row stays selected.
     void SortBy(ListOrder order);
@@ -48,7 +53,9 @@ public:
     int ColumnCount() const { return static_cast<int>(Columns.size()); }
     wxString ColumnCaption(int column) const;
     int ColumnWidth(int column) const; ///< In pixels.
-    int RowCount() const { return static_cast<int>(Rows.size()); }
+    int RowCount() const { return static_cast<int>(m_positions.size()); }
+    std::string Text(int row, int column) const; ///< UTF-8.
+    CellStyle Style(int row, int column) const;
     wxString CellText(int row, int column) const;
     wxColour CellColour(int row, int column) const;
     bool CellBold(int row, int column) const;
@@ -60,16 +67,13 @@ public:
     void ClickColumn(int column);
     void ActivateRow(int row);
 
-    ListCell Cell(int row, int column) const;
-
 protected:
     wxSize DoGetBestClientSize() const override;
 
 private:
-    void Reorder(const std::vector<std::size_t>& positions);
-
     std::span<const ListColumn> Columns;
-    std::vector<ListRow> Rows;
+    std::unique_ptr<const ListModel> m_model;
+    std::vector<std::size_t> m_positions; ///< The model's rows in the order in which they are shown.
     std::optional<ListOrder> Order;
     std::function<void(int)> ColumnClicked;
     std::function<void()> Activated;

@@ -31,12 +31,12 @@ public:
     {
         if (column >= GetColumnCount())
             return false;
-        const ListCell& cell = View.Cell(static_cast<int>(row), static_cast<int>(column));
+        const CellStyle style = View.Style(static_cast<int>(row), static_cast<int>(column));
         // Black is left to the theme, whose text may be light on dark.
-        if (cell.Colour != Black)
-            attr.SetColour(wxColour(cell.Colour));
-        attr.SetBold(cell.Bold);
-        return cell.Colour != Black || cell.Bold;
+        if (style.Colour != Black)
+            attr.SetColour(wxColour(style.Colour));
+        attr.SetBold(style.Bold);
+        return style != CellStyle();
     }
 
     bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }

@@ -120,10 +120,10 @@ protected:
         Attributes = wxItemAttr();
         if (!IsShown(row))
             return &Attributes;
-        const ListCell& cell = View.Cell(static_cast<int>(row), static_cast<int>(column));
-        if (cell.Colour != Black)
-            Attributes.SetTextColour(wxColour(cell.Colour));
-        if (cell.Bold)
+        const CellStyle style = View.Style(static_cast<int>(row), static_cast<int>(column));
+        if (style.Colour != Black)
+            Attributes.SetTextColour(wxColour(style.Colour));
+        if (style.Bold)
             Attributes.SetFont(GetFont().Bold());
         return &Attributes;
     }

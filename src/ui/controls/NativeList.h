@@ -8,7 +8,7 @@ class wxKeyEvent;
 class wxString;
 class wxWindow;
 
-/// The system's own list inside a ListView, which owns the rows; the list asks it for the cells it shows.
+/// The system's own list inside a ListView, which has the rows; the list asks it for the cells it shows.
 class NativeList
 {
 public:

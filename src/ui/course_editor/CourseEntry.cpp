@@ -77,17 +77,15 @@ std::array<std::optional<std::int32_t>, NositeljPlaces> NositeljiOf(std::int32_t
 {
     const std::vector<Choice> offered = NamedNastavnikChoices();
     std::array<std::optional<std::int32_t>, NositeljPlaces> ids;
-    modData::KolegijNastavnici.ForEachMatch(
-        KolegijNastavnik::KolegijID, kolegijID,
-        [&](const Row& link)
-        {
-            const std::int32_t place = link.Number(KolegijNastavnik::Redoslijed);
-            if (place < 1 || place > static_cast<std::int32_t>(NositeljPlaces))
-                return;
-            const std::int32_t id = link.Number(KolegijNastavnik::NastavnikID);
-            if (std::ranges::find(offered, id, &Choice::Data) != offered.end())
-                ids[static_cast<std::size_t>(place - 1)] = id;
-        });
+    for (const Row& link : modData::KolegijNastavnici.Matching(KolegijNastavnik::KolegijID, kolegijID))
+    {
+        const std::int32_t place = link.Number(KolegijNastavnik::Redoslijed);
+        if (place < 1 || place > static_cast<std::int32_t>(NositeljPlaces))
+            continue;
+        const std::int32_t id = link.Number(KolegijNastavnik::NastavnikID);
+        if (std::ranges::find(offered, id, &Choice::Data) != offered.end())
+            ids[static_cast<std::size_t>(place - 1)] = id;
+    }
     return ids;
 }
 
@@ -141,9 +139,8 @@ std::optional<CourseEntry> EntryOf(std::int32_t kolegijID)
     entry.ECTS = kolegij->Field(Kolegij::ECTS);
     entry.Tip = kolegij->Field(Kolegij::Tip);
     entry.Semestar = kolegij->Field(Kolegij::Semestar);
-    modData::KolegijSmjerovi.ForEachMatch(KolegijSmjer::KolegijID, kolegijID,
-                                          [&](const Row& link)
-                                          { entry.SmjerIDs.push_back(link.Number(KolegijSmjer::SmjerID)); });
+    for (const Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
+        entry.SmjerIDs.push_back(link.Number(KolegijSmjer::SmjerID));
     entry.NastavnikIDs = NositeljiOf(kolegijID);
     return entry;
 }

@@ -1,16 +1,11 @@
 #include "ui/department_stats/DepartmentStatistics.h"
 
-#include "data/Files.h"
 #include "data/modData.h"
 #include "lists/Choice.h"
-#include "statistics/LoadExport.h"
 #include "statistics/TaughtCourses.h"
 
 namespace
 {
-
-constexpr CountingRules SafeRules = {
-    .Semestar = Conversion::Safe, .Hours = Conversion::Safe, .Others = OtherTypes::DoNotCount};
 
 bool PassesRazina(std::int32_t studijID, std::string_view wanted)
 {
@@ -27,65 +22,41 @@ bool Passes(const Row& kolegij, const DepartmentFilter& filter)
 }
 
 /// Calls `visit` with each course of each of the department's lecturers.
-template<typename Visit>
-void ForEachCourse(std::int32_t zavodID, const Visit& visit)
+void ForEachCourseOfZavod(std::int32_t zavodID, const CourseVisitor& visit)
 {
-    const auto visitTaught = [&](const Row& nastavnik)
-    {
-        ForEachTaughtCourse(modData::Nastavnici.NumberOf(nastavnik, Nastavnik::ID, Conversion::Safe),
-                            Conversion::Safe, visit);
-    };
-    modData::Nastavnici.ForEachMatch(Nastavnik::ZavodID, zavodID, visitTaught, Conversion::Safe);
+    for (const Row& nastavnik : modData::Nastavnici.Matching(Nastavnik::ZavodID, zavodID, Conversion::Safe))
+        ForEachCourseOfNastavnik(nastavnik.Number(Nastavnik::ID, Conversion::Safe), Conversion::Safe, visit);
 }
 
-/// What a course adds to the sums, nothing when it does not pass.
-auto LoadRule(const DepartmentFilter& filter)
+TeachingStatistic StatisticOf(const DepartmentFilter& filter)
 {
-    return [&filter](const Row& kolegij)
-    { return Passes(kolegij, filter) ? CourseLoadOf(kolegij, SafeRules) : std::nullopt; };
-}
-
-template<typename Rule>
-LoadSums SumsOf(std::int32_t zavodID, const Rule& loadOf)
-{
-    LoadSums sums;
-    ForEachCourse(zavodID, [&](const Row& kolegij) { AddTo(sums, loadOf(kolegij)); });
-    return sums;
+    return {.Passes = [&filter](const Row& kolegij) { return Passes(kolegij, filter); },
+            .ForEachTaughtCourse = ForEachCourseOfZavod,
+            .Numbers = Conversion::Safe,
+            .ShownHours = Conversion::Safe,
+            .ExportedHours = Conversion::Safe,
+            .Others = OtherTypes::DoNotCount,
+            .Style = PlainStyle,
+            .Owners = &modData::Zavodi,
+            .OwnerName = Zavod::Naziv,
+            .OwnerTitle = "Zavod"};
 }
 
 } // namespace
 
 std::vector<ListRow> DepartmentCourseRows(std::int32_t zavodID, const DepartmentFilter& filter)
 {
-    std::vector<ListRow> rows;
-    ForEachCourse(zavodID,
-                  [&](const Row& kolegij)
-                  {
-                      if (Passes(kolegij, filter))
-                          rows.push_back(
-                              TaughtCourseRow(kolegij, kolegij.Number(Kolegij::ID, Conversion::Safe),
-                                              kolegij.Number(Kolegij::StudijID, Conversion::Safe)));
-                  });
-    return rows;
+    return TaughtCourseRows(StatisticOf(filter), zavodID);
 }
 
 std::vector<ListRow> DepartmentLoadRows(std::int32_t zavodID, const DepartmentFilter& filter)
 {
-    return LoadRows(SumsOf(zavodID, LoadRule(filter)), PlainStyle);
+    return TeachingLoadRows(StatisticOf(filter), zavodID);
 }
 
 void ExportAllDepartments(std::string_view path, const DepartmentFilter& filter)
 {
-    TextFile file;
-    AddLoadHeader(file, "Zavod");
-    const CourseLoads loads(LoadRule(filter));
-    for (const Row& zavod : modData::Zavodi)
-    {
-        const std::string_view name = zavod.Field(Zavod::Naziv);
-        const LoadSums sums = SumsOf(zavod.Number(Zavod::ID, Conversion::Safe), loads);
-        AddLoadBlock(file, name, LoadLines(sums, PlainStyle));
-    }
-    file.SaveAs(path);
+    ExportTeachingLoad(StatisticOf(filter), path);
 }
 
 bool PassesSemestar(std::int32_t semestar, std::string_view wanted)

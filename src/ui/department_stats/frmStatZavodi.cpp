@@ -135,8 +135,8 @@ void frmStatZavodi::ShowSelected()
         if (box->GetSelection() == wxNOT_FOUND)
             return;
     const std::int32_t zavodID = SelectedData(*cboZavodi);
-    lvwKolegiji->SetRows(DepartmentCourseRows(zavodID, CurrentFilter()));
-    lvwStatZavod->SetRows(DepartmentLoadRows(zavodID, CurrentFilter()));
+    lvwKolegiji->ShowRows(DepartmentCourseRows(zavodID, CurrentFilter()));
+    lvwStatZavod->ShowRows(DepartmentLoadRows(zavodID, CurrentFilter()));
     Panel->Layout(); // the sums are as high as their rows
 }
 

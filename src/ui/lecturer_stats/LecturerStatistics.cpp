@@ -1,18 +1,11 @@
 #include "ui/lecturer_stats/LecturerStatistics.h"
 
-#include "data/Files.h"
 #include "data/modData.h"
 #include "lists/Choice.h"
-#include "statistics/LoadExport.h"
 #include "statistics/TaughtCourses.h"
 
 namespace
 {
-
-constexpr CountingRules ShownRules = {
-    .Semestar = Conversion::Strict, .Hours = Conversion::Strict, .Others = OtherTypes::CountAsElective};
-constexpr CountingRules ExportRules = {
-    .Semestar = Conversion::Strict, .Hours = Conversion::Safe, .Others = OtherTypes::CountAsElective};
 
 bool Passes(const Row& kolegij, const LecturerFilter& filter)
 {
@@ -23,52 +16,34 @@ bool Passes(const Row& kolegij, const LecturerFilter& filter)
            (filter.Program == Svi || filter.Program == kratica);
 }
 
-/// What a course adds to the sums, nothing when it does not pass.
-auto LoadRule(const LecturerFilter& filter, const CountingRules& rules)
+TeachingStatistic StatisticOf(const LecturerFilter& filter)
 {
-    return [&filter, &rules](const Row& kolegij)
-    { return Passes(kolegij, filter) ? CourseLoadOf(kolegij, rules) : std::nullopt; };
-}
-
-template<typename Rule>
-LoadSums SumsOf(std::int32_t nastavnikID, const Rule& loadOf)
-{
-    LoadSums sums;
-    ForEachTaughtCourse(nastavnikID, Conversion::Strict,
-                        [&](const Row& kolegij) { AddTo(sums, loadOf(kolegij)); });
-    return sums;
+    return {.Passes = [&filter](const Row& kolegij) { return Passes(kolegij, filter); },
+            .ForEachTaughtCourse = [](std::int32_t nastavnikID, const CourseVisitor& visit)
+            { ForEachCourseOfNastavnik(nastavnikID, Conversion::Strict, visit); },
+            .Numbers = Conversion::Strict,
+            .ShownHours = Conversion::Strict,
+            .ExportedHours = Conversion::Safe,
+            .Others = OtherTypes::CountAsElective,
+            .Style = FlaggingStyle,
+            .Owners = &modData::Nastavnici,
+            .OwnerName = Nastavnik::PrezimeIme,
+            .OwnerTitle = "Nastavnik"};
 }
 
 } // namespace
 
 std::vector<ListRow> LecturerCourseRows(std::int32_t nastavnikID, const LecturerFilter& filter)
 {
-    std::vector<ListRow> rows;
-    ForEachTaughtCourse(nastavnikID, Conversion::Strict,
-                        [&](const Row& kolegij)
-                        {
-                            if (Passes(kolegij, filter))
-                                rows.push_back(TaughtCourseRow(kolegij, kolegij.Number(Kolegij::ID),
-                                                               kolegij.Number(Kolegij::StudijID)));
-                        });
-    return rows;
+    return TaughtCourseRows(StatisticOf(filter), nastavnikID);
 }
 
 std::vector<ListRow> LecturerLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter)
 {
-    return LoadRows(SumsOf(nastavnikID, LoadRule(filter, ShownRules)), FlaggingStyle);
+    return TeachingLoadRows(StatisticOf(filter), nastavnikID);
 }
 
 void ExportAllLecturers(std::string_view path, const LecturerFilter& filter)
 {
-    TextFile file;
-    AddLoadHeader(file, "Nastavnik");
-    const CourseLoads loads(LoadRule(filter, ExportRules));
-    for (const Row& nastavnik : modData::Nastavnici)
-    {
-        const std::string_view name = nastavnik.Field(Nastavnik::PrezimeIme);
-        const LoadSums sums = SumsOf(nastavnik.Number(Nastavnik::ID), loads);
-        AddLoadBlock(file, name, LoadLines(sums, FlaggingStyle));
-    }
-    file.SaveAs(path);
+    ExportTeachingLoad(StatisticOf(filter), path);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListRow.h"
+#include "lists/ListModel.h"
 
 #include <cstdint>
 #include <string>

@@ -127,8 +127,8 @@ LecturerFilter frmStatNositelji::CurrentFilter() const
 
 void frmStatNositelji::ShowSelected()
 {
-    lvwKolegiji->SetRows(LecturerCourseRows(SelectedNastavnikID, CurrentFilter()));
-    lvwStat->SetRows(LecturerLoadRows(SelectedNastavnikID, CurrentFilter()));
+    lvwKolegiji->ShowRows(LecturerCourseRows(SelectedNastavnikID, CurrentFilter()));
+    lvwStat->ShowRows(LecturerLoadRows(SelectedNastavnikID, CurrentFilter()));
     Panel->Layout(); // the sums are as high as their rows
 }
 

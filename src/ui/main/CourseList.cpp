@@ -1,117 +1,183 @@
 #include "ui/main/CourseList.h"
 
+#include "data/Errors.h"
 #include "data/Lookups.h"
 #include "data/Text.h"
 #include "data/modData.h"
-#include "ui/main/SearchTexts.h"
 
 #include <array>
+#include <iterator>
 #include <utility>
 
 namespace
 {
 
-// The columns 1 to 7 show these fields exactly as stored.
-constexpr Kolegij::Column ShownFields[] = {Kolegij::Naziv, Kolegij::P,   Kolegij::S,       Kolegij::V,
-                                           Kolegij::ECTS,  Kolegij::Tip, Kolegij::Semestar};
-
-bool Passes(const Row& kolegij, const CourseFilter& filter, std::string_view search)
+// The first columns of the list are the first fields of a course, as stored; these three are looked up.
+enum LookedUpColumn : std::size_t
 {
-    return (filter.StudijID == 0 || kolegij.Number(Kolegij::StudijID) == filter.StudijID) &&
-           (filter.Semestar == 0 || kolegij.Number(Kolegij::Semestar) == filter.Semestar) &&
-           MatchesSearch(kolegij, search) &&
-           (filter.SmjerID == 0 || KolegijHasSmjer(kolegij.Number(Kolegij::ID), filter.SmjerID));
+    StudijColumn = Kolegij::Semestar + 1,
+    SmjeroviColumn,
+    NastavniciColumn,
+};
+static_assert(std::size(CourseListColumns) == NastavniciColumn + 1);
+
+std::string CellText(const Row& kolegij, std::size_t column)
+{
+    switch (column)
+    {
+    case StudijColumn:
+        return modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID));
+    case SmjeroviColumn:
+        return GetSmjeroviForKolegijString(kolegij.Number(Kolegij::ID));
+    case NastavniciColumn:
+        return GetNastavniciForKolegijString(kolegij.Number(Kolegij::ID));
+    default:
+        return std::string(kolegij.Field(column));
+    }
 }
 
-void FillCourseRow(ListRow& row, const Row& kolegij)
+/// Makes sure that every cell of a course can be shown. The study, the course's last field, comes first: of
+/// several errors in a row its own is reported. A search has read the lecturers already. @throws DataError
+void RequireCells(const Row& kolegij, bool isSearched)
 {
-    // The study comes first: of several faults in a row its own is told.
-    const std::string studij = modData::GetStudijKratica(kolegij.Number(Kolegij::StudijID));
-    row.clear();
-    row.Add(kolegij.Field(Kolegij::ID));
-    for (const Kolegij::Column column : ShownFields)
-        row.Add(kolegij.Field(column));
-    row.Add(studij);
-    const std::int32_t id = kolegij.Number(Kolegij::ID);
-    row.Add(GetSmjeroviForKolegijString(id));
-    row.Add(GetNastavniciForKolegijString(id));
-    row.SetColour(ElectiveColour(kolegij.Field(Kolegij::Tip)));
+    static_cast<void>(CellText(kolegij, StudijColumn));
+    static_cast<void>(CellText(kolegij, SmjeroviColumn));
+    if (!isSearched)
+        static_cast<void>(CellText(kolegij, NastavniciColumn));
+}
+
+/// Appends what GetNastavniciForKolegijString gives, each name by `append`.
+template<typename Append>
+void AppendNastavnici(std::string& text, std::int32_t kolegijID, const Append& append)
+{
+    std::string_view separator;
+    for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
+        append(text.append(std::exchange(separator, ", ")), placed.Nastavnik->Field(Nastavnik::PrezimeIme));
 }
 
 } // namespace
 
-std::vector<ListRow> CourseRows(const CourseFilter& filter)
+Search::Search(std::string_view typed)
+    : m_wanted(UpperCase(TrimBlanks(typed))),
+      m_verdicts(modData::Kolegiji.RowCount())
 {
-    const std::string search = SearchKey(filter.Search);
-    std::vector<ListRow> rows;
-    rows.reserve(modData::Kolegiji.RowCount());
-    ListRow row; // filled anew for each course: its copies take no more memory than they need
-    for (const Row& kolegij : modData::Kolegiji)
-        if (Passes(kolegij, filter, search))
-        {
-            FillCourseRow(row, kolegij);
-            rows.push_back(row);
-        }
-    return rows;
+}
+
+bool Search::Matches(std::size_t position)
+{
+    std::optional<bool>& verdict = m_verdicts.at(position);
+    if (!verdict)
+        verdict = MatchesSearch(modData::Kolegiji[position], m_wanted);
+    return *verdict;
 }
 
 bool MatchesSearch(const Row& kolegij, std::string_view search)
 {
-    static SearchTexts texts;
-    return search.empty() || texts.Of(kolegij).find(search) != std::string_view::npos;
+    if (search.empty())
+        return true;
+    constexpr std::size_t usualLength = 128;
+    std::string searched;
+    searched.reserve(usualLength);
+    for (const Kolegij::Column column : {Kolegij::Naziv, Kolegij::ECTS, Kolegij::Tip})
+        AppendUpperCase(searched.append(" "), kolegij.Field(column));
+    AppendNastavnici(searched.append(" "), kolegij.Number(Kolegij::ID), AppendUpperCase);
+    return searched.find(search) != std::string::npos;
 }
 
-std::string SearchKey(std::string_view typed)
+bool PassesBoxes(const Row& kolegij, const CourseFilter& filter)
 {
-    return UpperCase(TrimBlanks(typed));
+    return (filter.StudijID == 0 || kolegij.Number(Kolegij::StudijID) == filter.StudijID) &&
+           (filter.Semestar == 0 || kolegij.Number(Kolegij::Semestar) == filter.Semestar);
+}
+
+std::vector<std::uint32_t> CoursesThatPass(const CourseFilter& filter, Search& search)
+{
+    std::vector<std::uint32_t> passing;
+    for (std::uint32_t position = 0; position < modData::Kolegiji.RowCount(); ++position)
+    {
+        const Row& kolegij = modData::Kolegiji[position];
+        if (!PassesBoxes(kolegij, filter) || !search.Matches(position) ||
+            (filter.SmjerID != 0 && !KolegijHasSmjer(kolegij.Number(Kolegij::ID), filter.SmjerID)))
+            continue;
+        RequireCells(kolegij, !search.MatchesAll());
+        passing.push_back(position);
+    }
+    return passing;
+}
+
+CourseListModel::CourseListModel(std::vector<std::uint32_t> positions)
+    : m_positions(std::move(positions)),
+      m_tableRows(modData::Kolegiji.RowCount())
+{
+    m_ids.reserve(m_positions.size());
+    for (const std::uint32_t position : m_positions)
+        m_ids.emplace_back(modData::Kolegiji[position].Field(Kolegij::ID));
+}
+
+std::string CourseListModel::Text(std::size_t row, std::size_t column) const
+{
+    if (column == Kolegij::ID)
+        return m_ids[row];
+    try
+    {
+        const Row* kolegij = CourseOf(row);
+        return kolegij == nullptr ? std::string() : CellText(*kolegij, column);
+    }
+    catch (const DataError&)
+    {
+        return {}; // the refresh reports it
+    }
+}
+
+CellStyle CourseListModel::Style(std::size_t row, std::size_t) const
+{
+    const Row* kolegij = CourseOf(row);
+    if (kolegij == nullptr || kolegij->FieldCount() <= Kolegij::Tip)
+        return {};
+    return {.Colour = ElectiveColour(kolegij->Field(Kolegij::Tip))};
+}
+
+const Row* CourseListModel::CourseOf(std::size_t row) const
+{
+    return modData::Kolegiji.RowCount() == m_tableRows ? &modData::Kolegiji[m_positions[row]] : nullptr;
 }
 
 bool KolegijHasSmjer(std::int32_t kolegijID, std::int32_t smjerID)
 {
-    return modData::KolegijSmjerovi.AnyMatch(
-        KolegijSmjer::KolegijID, kolegijID,
-        [&](const Row& link)
-        { return modData::KolegijSmjerovi.NumberOf(link, KolegijSmjer::SmjerID) == smjerID; });
+    for (const Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
+        if (link.Number(KolegijSmjer::SmjerID) == smjerID)
+            return true;
+    return false;
 }
 
 std::string GetSmjeroviForKolegijString(std::int32_t kolegijID)
 {
     std::string joined;
-    modData::KolegijSmjerovi.ForEachMatch(
-        KolegijSmjer::KolegijID, kolegijID,
-        [&](const Row& link)
-        {
-            const Row* smjer = modData::Smjerovi.FindFirst(
-                Smjer::ID, modData::KolegijSmjerovi.NumberOf(link, KolegijSmjer::SmjerID));
-            if (smjer != nullptr)
-                AppendJoined(joined, ", ", smjer->Field(Smjer::Kratica));
-        });
+    for (const Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
+        if (const Row* smjer = modData::Smjerovi.FindFirst(Smjer::ID, link.Number(KolegijSmjer::SmjerID)))
+            AppendJoined(joined, ", ", smjer->Field(Smjer::Kratica));
     return joined;
 }
 
 std::string GetNastavniciForKolegijString(std::int32_t kolegijID)
 {
     std::string joined;
-    std::string_view separator;
-    for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
-        joined.append(std::exchange(separator, ", ")).append(placed.Nastavnik->Field(Nastavnik::PrezimeIme));
+    AppendNastavnici(joined, kolegijID, [](std::string& text, std::string_view name) { text += name; });
     return joined;
 }
 
 std::string GetNositelji123String(std::int32_t kolegijID)
 {
     std::array<std::string, 3> names;
-    modData::KolegijNastavnici.ForEachMatch(
-        KolegijNastavnik::KolegijID, kolegijID,
-        [&](const Row& link)
-        {
-            if (!IsWord(link.Field(KolegijNastavnik::Uloga), "NOSITELJ"))
-                return;
-            const std::int32_t redoslijed = link.Number(KolegijNastavnik::Redoslijed);
-            if (redoslijed >= 1 && redoslijed <= 3)
-                names[static_cast<std::size_t>(redoslijed - 1)] =
-                    modData::GetNastavnikIme(link.Number(KolegijNastavnik::NastavnikID));
-        });
+    for (const Row& link : modData::KolegijNastavnici.Matching(KolegijNastavnik::KolegijID, kolegijID))
+    {
+        if (!IsWord(link.Field(KolegijNastavnik::Uloga), "NOSITELJ"))
+            continue;
+        const std::int32_t redoslijed = link.Number(KolegijNastavnik::Redoslijed);
+        if (redoslijed >= 1 && redoslijed <= 3)
+            names[static_cast<std::size_t>(redoslijed - 1)] =
+                modData::GetNastavnikIme(link.Number(KolegijNastavnik::NastavnikID));
+    }
 
     std::string joined;
     for (const std::string& name : names)

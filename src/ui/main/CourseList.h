@@ -1,15 +1,23 @@
 #pragma once
 
 #include "data/Table.h"
-#include "lists/ListRow.h"
+#include "lists/ListModel.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// The course list: which courses pass the filters, and what their rows say. Everything here throws
-// TypeMismatch, Overflow or SubscriptOutOfRange for a number that it needs and cannot read.
+// The course list: which courses pass the filters, and what their rows say. Unless it says otherwise,
+// everything here throws DataError.
+
+/// The columns: the course's fields as stored up to the semester, then what is looked up.
+inline constexpr ListColumn CourseListColumns[] = {
+    {"ID", 800},      {"Kolegij", 3000},  {"P", 500},           {"S", 500},
+    {"V", 500},       {"ECTS", 700},      {"Tip", 1200},        {"Sem", 700},
+    {"Studij", 1200}, {"Smjerovi", 2000}, {"Nastavnici", 2500},
+};
 
 /// What the filter boxes and the search box say; 0, or a search text of blanks only, means "all".
 struct CourseFilter
@@ -20,16 +28,55 @@ struct CourseFilter
     std::string Search = {};
 };
 
-/// The course list's rows: one per course that passes the filter, in table order; electives are blue.
-std::vector<ListRow> CourseRows(const CourseFilter& filter);
+/// The search of one refresh: it decides each course once, for the list and for the sums.
+class Search
+{
+public:
+    /// `typed` is the text of the search box.
+    explicit Search(std::string_view typed);
 
-/// The search rule: a row of the program's courses matches when the text occurs in its title, credits, type
-/// or lecturers, upper and lower case alike. `search` is trimmed and upper-cased already; empty matches every
-/// course.
+    /// True when there is no text to search for.
+    bool MatchesAll() const { return m_wanted.empty(); }
+
+    /// Whether the course at a position of the program's table matches.
+    bool Matches(std::size_t position);
+
+private:
+    std::string m_wanted;                        // trimmed, in upper case
+    std::vector<std::optional<bool>> m_verdicts; // by position
+};
+
+/// The search rule: a course matches when the text occurs in its title, credits, type or lecturers, upper and
+/// lower case alike. `search` is trimmed and in upper case already; an empty one matches every course.
 bool MatchesSearch(const Row& kolegij, std::string_view search);
 
-/// A search text made ready for MatchesSearch: trimmed and upper-cased.
-std::string SearchKey(std::string_view typed);
+/// Whether a course passes the boxes of study and semester. The direction is up to the caller: the list asks
+/// for a link, the sums count the links.
+bool PassesBoxes(const Row& kolegij, const CourseFilter& filter);
+
+/// The positions of the courses that pass the filter. Throws also for a number that a course's row needs: an
+/// error ends the refresh, never the painting.
+std::vector<std::uint32_t> CoursesThatPass(const CourseFilter& filter, Search& search);
+
+/// The rows of these courses, each cell made from the tables when it is asked for; electives are blue. Once
+/// the table has another number of courses the rows are blank, until the next refresh makes a new model. Only
+/// the ID is kept: the window's commands know the selected course by it.
+class CourseListModel : public ListModel
+{
+public:
+    explicit CourseListModel(std::vector<std::uint32_t> positions);
+
+    std::size_t RowCount() const override { return m_positions.size(); }
+    std::string Text(std::size_t row, std::size_t column) const override;
+    CellStyle Style(std::size_t row, std::size_t column) const override;
+
+private:
+    const Row* CourseOf(std::size_t row) const;
+
+    std::vector<std::uint32_t> m_positions;
+    std::vector<std::string> m_ids;
+    std::size_t m_tableRows; // when the model was made
+};
 
 /// True when a course is linked to a direction.
 bool KolegijHasSmjer(std::int32_t kolegijID, std::int32_t smjerID);

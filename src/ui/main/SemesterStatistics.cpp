@@ -8,12 +8,6 @@
 namespace
 {
 
-bool Passes(const Row& kolegij, std::int32_t semestar, const CourseFilter& filter, std::string_view search)
-{
-    return (filter.StudijID == 0 || kolegij.Number(Kolegij::StudijID) == filter.StudijID) &&
-           (filter.Semestar == 0 || semestar == filter.Semestar) && MatchesSearch(kolegij, search);
-}
-
 Load LoadOf(const Row& kolegij)
 {
     return {.P = ParseWholeOrZero(kolegij.Field(Kolegij::P)),
@@ -25,16 +19,16 @@ Load LoadOf(const Row& kolegij)
 
 } // namespace
 
-std::vector<ListRow> StatistikaRows(const CourseFilter& filter, std::string_view razina)
+std::vector<ListRow> StatistikaRows(const CourseFilter& filter, Search& search, std::string_view razina)
 {
     const int last = modData::LastSemestar(razina);
-    const std::string search = SearchKey(filter.Search);
     LoadSums sums;
-    for (const Row& kolegij : modData::Kolegiji)
+    for (std::size_t position = 0; position < modData::Kolegiji.RowCount(); ++position)
     {
+        const Row& kolegij = modData::Kolegiji[position];
         const std::int32_t id = kolegij.Number(Kolegij::ID);
         const std::int32_t semestar = kolegij.Number(Kolegij::Semestar);
-        if (!Passes(kolegij, semestar, filter, search) || semestar < 1 || semestar > last)
+        if (!PassesBoxes(kolegij, filter) || !search.Matches(position) || semestar < 1 || semestar > last)
             continue;
         const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), OtherTypes::CountAsElective);
         const std::int32_t weight = CountKolegijSmjerLinks(id, filter.SmjerID);
@@ -49,7 +43,9 @@ std::int32_t CountKolegijSmjerLinks(std::int32_t kolegijID, std::int32_t smjerID
     if (smjerID != 0)
         return KolegijHasSmjer(kolegijID, smjerID) ? 1 : 0;
     std::int32_t count = 0;
-    modData::KolegijSmjerovi.ForEachMatch(KolegijSmjer::KolegijID, kolegijID, [&](const Row&) { ++count; });
+    for ([[maybe_unused]] const Row& link :
+         modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
+        ++count;
     return count;
 }
 

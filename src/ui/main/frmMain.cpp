@@ -38,18 +38,13 @@
 #include <wx/wrapsizer.h>
 
 #include <iterator>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace
 {
-
-constexpr ListColumn KolegijiColumns[] = {
-    {"ID", 800},      {"Kolegij", 3000},  {"P", 500},           {"S", 500},
-    {"V", 500},       {"ECTS", 700},      {"Tip", 1200},        {"Sem", 700},
-    {"Studij", 1200}, {"Smjerovi", 2000}, {"Nastavnici", 2500},
-};
 
 constexpr ListColumn StatistikaColumns[] = {
     {"Semestar", 1000}, {"Tip", 1200}, {"P", 700}, {"S", 700}, {"V", 700}, {"ECTS", 900}, {"Kolegija", 900},
@@ -254,7 +249,7 @@ void frmMain::Form_Load()
 
 void frmMain::SetupKolegijiColumns()
 {
-    lvwKolegiji->SetColumns(KolegijiColumns);
+    lvwKolegiji->SetColumns(CourseListColumns);
 }
 
 void frmMain::SetupStatistikaColumns()
@@ -305,25 +300,33 @@ void frmMain::RefreshListView()
 {
     if (!FormReady)
         return;
-    lvwKolegiji->SetRows(CourseRows(CurrentFilter()));
+    const CourseFilter filter = CurrentFilter();
+    Search search(filter.Search);
+    RefreshListView(filter, search);
 }
 
-void frmMain::RefreshStatistika()
+void frmMain::RefreshListView(const CourseFilter& filter, Search& search)
 {
-    lvwStatistika->SetRows({});
-    if (!FormReady)
-        return;
-    CourseFilter filter = CurrentFilter();
-    if (ChosenText(*cboSmjer) == Svi) // whatever number goes with it
+    lvwKolegiji->Show(std::make_unique<CourseListModel>(CoursesThatPass(filter, search)));
+}
+
+void frmMain::RefreshStatistika(CourseFilter filter, Search& search)
+{
+    lvwStatistika->ShowRows({});
+    if (ChosenText(*cboSmjer) == Svi) // an entry of this name switches the filter off, also one with an ID
         filter.SmjerID = 0;
-    lvwStatistika->SetRows(StatistikaRows(filter, ChosenText(*cboRazina)));
+    lvwStatistika->ShowRows(StatistikaRows(filter, search, ChosenText(*cboRazina)));
     Panel->Layout(); // the sums are as high as their rows
 }
 
 void frmMain::RefreshGrids()
 {
-    RefreshListView();
-    RefreshStatistika();
+    if (!FormReady)
+        return;
+    const CourseFilter filter = CurrentFilter();
+    Search search(filter.Search);
+    RefreshListView(filter, search);
+    RefreshStatistika(filter, search);
 }
 
 void frmMain::cboRazina_Click()
@@ -416,7 +419,7 @@ std::optional<std::int32_t> frmMain::SelectedKolegijID() const
     const int row = lvwKolegiji->SelectedRow();
     if (row < 0)
         return std::nullopt;
-    return ToLong(lvwKolegiji->Cell(row, 0).Text);
+    return ToLong(lvwKolegiji->Text(row, 0));
 }
 
 void frmMain::cmdAdd_Click()
@@ -503,7 +506,7 @@ void frmMain::ExportStatistika_SelectedToCSV(std::string_view path)
     {
         rows.emplace_back();
         for (int column = 0; column < lvwStatistika->ColumnCount(); ++column)
-            rows.back().push_back(lvwStatistika->Cell(row, column).Text);
+            rows.back().push_back(lvwStatistika->Text(row, column));
     }
     WriteStatistika(path, ShownFilters(), rows);
 }

@@ -50,7 +50,8 @@ private:
     void FillSemestarCombo();
     CourseFilter CurrentFilter() const;
     StatistikaFilters ShownFilters() const;
-    void RefreshStatistika();
+    void RefreshListView(const CourseFilter& filter, Search& search);
+    void RefreshStatistika(CourseFilter filter, Search& search);
     void RefreshGrids();
 
     /// Moves the focus to the search text and selects it.
