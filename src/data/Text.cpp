@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <span>
 
 namespace
 {
@@ -28,6 +27,10 @@ constexpr std::array<char32_t, UpperTableSize> UpperTable = []
         table[Lower[i]] = Upper[i];
     return table;
 }();
+
+// The first bytes of the table's characters beyond ASCII, each of which is two bytes in either case.
+constexpr std::uint8_t FirstLead = 0xC2;
+constexpr std::uint8_t EndOfLeads = 0xC0 | UpperTableSize >> 6U;
 
 struct Lead
 {
@@ -70,22 +73,30 @@ std::string_view TrimBlanks(std::string_view text)
 
 std::string UpperCase(std::string_view text)
 {
-    std::string upper;
-    upper.reserve(text.size());
-    AppendUpperCase(upper, text);
+    std::string upper(text);
+    MakeUpperCase(upper);
     return upper;
 }
 
-void AppendUpperCase(std::string& text, std::string_view added)
+void MakeUpperCase(std::string& text)
 {
-    while (!added.empty())
+    for (char& c : text) // with no branch in it, the loop takes many characters at once
+        c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
+
+    std::string_view rest = text;
+    for (TakeAscii(rest); rest.size() > 1; TakeAscii(rest))
     {
-        const std::size_t begin = text.size();
-        text += TakeAscii(added);
-        for (char& c : std::span(text).subspan(begin))
-            c = static_cast<char>(UpperTable[static_cast<std::uint8_t>(c)]);
-        if (!added.empty())
-            AppendCodePoint(text, UpperCase(TakeCodePoint(added)));
+        const auto first = static_cast<std::uint8_t>(rest[0]);
+        const bool isInTable = first >= FirstLead && first < EndOfLeads;
+        if (isInTable)
+        {
+            const char32_t upper =
+                UpperTable[(first & 0x1FU) << 6U | (static_cast<std::uint8_t>(rest[1]) & 0x3FU)];
+            const std::size_t at = text.size() - rest.size();
+            text[at] = static_cast<char>(0xC0U | upper >> 6U);
+            text[at + 1] = static_cast<char>(0x80U | (upper & 0x3FU));
+        }
+        rest.remove_prefix(isInTable ? 2 : 1);
     }
 }
 

@@ -11,8 +11,8 @@ std::string_view TrimBlanks(std::string_view text);
 /// The text with every letter that windows-1250 has in upper case, whatever the system's locale; "ß" stays.
 std::string UpperCase(std::string_view text);
 
-/// Appends a text in upper case.
-void AppendUpperCase(std::string& text, std::string_view added);
+/// The same in place.
+void MakeUpperCase(std::string& text);
 
 /// True when the text, trimmed and upper-cased, is the given upper-case word.
 bool IsWord(std::string_view text, std::string_view upperCaseWord);

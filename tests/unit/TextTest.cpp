@@ -54,6 +54,7 @@ TEST(Text, UpperCaseChangesTheLowerCaseLettersOfWindows1250AndNoOtherByte)
 TEST(Text, ALetterThatWindows1250LacksKeepsItsCase)
 {
     EXPECT_EQ(UpperCase("ж ñ ÿ"), "ж ñ ÿ");
+    EXPECT_EQ(UpperCase("a€čb😀šž€€đ"), "A€ČB😀ŠŽ€€Đ") << "beside characters of three and four bytes";
 }
 
 TEST(Text, AWordIsFoundTrimmedAndInAnyCase)

@@ -46,13 +46,12 @@ void RequireCells(const Row& kolegij, bool isSearched)
         static_cast<void>(CellText(kolegij, NastavniciColumn));
 }
 
-/// Appends what GetNastavniciForKolegijString gives, each name by `append`.
-template<typename Append>
-void AppendNastavnici(std::string& text, std::int32_t kolegijID, const Append& append)
+/// Appends what GetNastavniciForKolegijString gives.
+void AppendNastavnici(std::string& text, std::int32_t kolegijID)
 {
     std::string_view separator;
     for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
-        append(text.append(std::exchange(separator, ", ")), placed.Nastavnik->Field(Nastavnik::PrezimeIme));
+        text.append(std::exchange(separator, ", ")).append(placed.Nastavnik->Field(Nastavnik::PrezimeIme));
 }
 
 } // namespace
@@ -79,8 +78,9 @@ bool MatchesSearch(const Row& kolegij, std::string_view search)
     std::string searched;
     searched.reserve(usualLength);
     for (const Kolegij::Column column : {Kolegij::Naziv, Kolegij::ECTS, Kolegij::Tip})
-        AppendUpperCase(searched.append(" "), kolegij.Field(column));
-    AppendNastavnici(searched.append(" "), kolegij.Number(Kolegij::ID), AppendUpperCase);
+        searched.append(" ").append(kolegij.Field(column));
+    AppendNastavnici(searched.append(" "), kolegij.Number(Kolegij::ID));
+    MakeUpperCase(searched);
     return searched.find(search) != std::string::npos;
 }
 
@@ -162,7 +162,7 @@ std::string GetSmjeroviForKolegijString(std::int32_t kolegijID)
 std::string GetNastavniciForKolegijString(std::int32_t kolegijID)
 {
     std::string joined;
-    AppendNastavnici(joined, kolegijID, [](std::string& text, std::string_view name) { text += name; });
+    AppendNastavnici(joined, kolegijID);
     return joined;
 }
 
