@@ -5,6 +5,7 @@
 #include "support/ListWindow.h"
 #include "support/TestFolder.h"
 #include "support/Windows.h"
+#include "ui/main/CourseDeletion.h"
 #include "ui/main/frmMain.h"
 
 #include <wx/button.h>
@@ -365,6 +366,19 @@ TEST_F(MainWindow, DeleteAsksAndRemovesTheCourseWithItsLinks)
     EXPECT_EQ(LinesOf(modData::KolegijSmjerovi), (Texts{"2;2", "3;3", "4;4"}));
     EXPECT_EQ(modData::KolegijNastavnici.RowCount(), 4U);
     EXPECT_EQ(FolderState(Folder.Data()), before) << "nothing is written before the way out";
+}
+
+TEST_F(MainWindow, PaintedBetweenADeletionAndTheRefreshTheListIsBlank)
+{
+    Open();
+    ASSERT_EQ(ShownIDs(), (Texts{"1", "2", "5"}));
+    DeleteKolegij(4); // now the last row shown lies beyond the table
+    InnerList(Kolegiji())->Refresh();
+    Settle();
+    EXPECT_EQ(ColumnTexts(Kolegiji(), 1), (Texts{"", "", ""}));
+    EXPECT_EQ(Kolegiji()->CellColour(1, 0), *wxBLACK) << "an elective's row";
+    Window->RefreshListView();
+    EXPECT_EQ(ShownIDs(), (Texts{"1", "2", "5"}));
 }
 
 TEST_F(MainWindow, DeleteAnsweredWithNoChangesNothing)
