@@ -7,8 +7,9 @@ wxIMPLEMENT_APP_NO_MAIN(VarlostudijiApp);
 namespace
 {
 
-// Someone could plant a library beside the portable program, in the folder of downloads. From here on, libraries
-// come from the system's folder alone. Windows 7 may lack the call; the program then goes on without it.
+// Someone could plant a library beside the portable program, in the folder of downloads. From here on,
+// libraries come from the system's folder alone. Windows 7 may lack the call; the program then goes on
+// without it.
 void LoadLibrariesFromSystemOnly()
 {
     using SetDefaultDirectories = BOOL(WINAPI*)(DWORD);
