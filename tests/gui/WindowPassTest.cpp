@@ -2,6 +2,7 @@
 
 #include "support/EveryWindow.h"
 #include "support/ListWindow.h"
+#include "support/NamedFont.h"
 #include "support/SpokenName.h"
 #include "support/TextScale.h"
 
@@ -109,6 +110,20 @@ TEST_F(EveryWindow, ButtonsAndOptionsAreSpokenByTheirCaptions)
                 {
                     EXPECT_EQ(SpokenName(control), Caption(control));
                 }
+        });
+}
+
+// The font
+
+TEST_F(EveryWindow, IsInSegoeUiWhereTheSystemHasIt)
+{
+    ASSERT_TRUE(ProvideSegoeUi());
+    InEveryWindow(
+        [](wxTopLevelWindow& window)
+        {
+            EXPECT_EQ(window.GetFont().GetFaceName(), "Segoe UI");
+            for (wxWindow* control : ControlsOf(window))
+                EXPECT_EQ(control->GetFont().GetFaceName(), "Segoe UI") << control->GetName();
         });
 }
 

@@ -144,7 +144,7 @@ inline void ExpectColumns(const ListView* list, const std::vector<ExpectedColumn
         const int needed = InnerList(list)->GetTextExtent(column.Caption).x + list->FromDIP(padding);
         EXPECT_EQ(list->ColumnWidth(i), std::max(given, needed)) << column.Caption;
 #else
-        // How much a theme leaves around its bold captions is its own affair.
+        // Themes differ in what they leave around their bold captions.
         const wxFont bold = list->GetFont().Bold();
         wxSize caption;
         list->GetTextExtent(column.Caption, &caption.x, &caption.y, nullptr, nullptr, &bold);

@@ -53,8 +53,8 @@ void Open(wxChoice* box);
 /// Whether a drop-down list is open.
 bool IsOpen(const wxChoice* box);
 
-/// Chooses an entry of a drop-down list by the keyboard: GTK has no way to ask where the entries of an open
-/// one are on the screen.
+/// Chooses an entry of a drop-down list by the keyboard: GTK does not say where the entries are on the
+/// screen.
 void Choose(wxChoice* box, int position);
 void Choose(wxChoice* box, const char* entry); ///< UTF-8
 
