@@ -106,6 +106,21 @@ TEST(CourseListModel, IsBlankOnceACourseIsGoneOrNew)
     }
 }
 
+TEST(CourseListModel, FindsACourseAgainByItsIDAndItsNumberAmongEqualIDs)
+{
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Kolegiji = {"x;A;1;1;1;1;obvezni;1;1", "7;B;1;1;1;1;obvezni;1;1", " 7;C;1;1;1;1;obvezni;1;2",
+                          "7;D;1;1;1;1;obvezni;1;1"};
+    catalogue.Use();
+    const CourseListModel all({1, 2, 3});
+    const CourseListModel two({1, 3});
+    EXPECT_EQ(two.RowOf(all.MarkOf(0)), 0U);
+    EXPECT_EQ(two.RowOf(all.MarkOf(1)), std::nullopt);
+    EXPECT_EQ(two.RowOf(all.MarkOf(2)), 1U);
+    modData::Kolegiji.Append({"9", "E", "1", "1", "1", "1", "obvezni", "1", "1"});
+    EXPECT_EQ(two.RowOf(all.MarkOf(2)), 1U) << "a new course comes after all others";
+}
+
 TEST(CourseListModel, NeverReadsBeyondATableAndNeverThrows)
 {
     SmallCatalogue().Use();

@@ -87,17 +87,35 @@ void ListView::Show(std::unique_ptr<const ListModel> model)
     Native->ShowNewRows(RowCount());
 }
 
+void ListView::Show(std::unique_ptr<const ListModel> model, std::optional<std::size_t> selected)
+{
+    const int former = SelectedRow();
+    const NativeList::Place place = former >= 0 ? Native->PlaceOf(former) : NativeList::Place();
+    Show(std::move(model));
+    if (!selected)
+        return;
+    const int row = RowOf(*selected);
+    SelectRow(row);
+    if (former >= 0)
+        Native->ScrollTo(row, place);
+}
+
 void ListView::SortBy(ListOrder order)
 {
     Order = order;
     Native->ShowSortArrow(static_cast<int>(order.Column), order.Descending);
 
     const int selected = SelectedRow();
-    const std::size_t kept = selected >= 0 ? m_positions[Index(selected)] : 0;
+    const std::size_t kept = selected >= 0 ? ModelRow(selected) : 0;
     m_positions = PositionsOf(*m_model, Order);
     Native->ShowReorderedRows();
     if (selected >= 0)
-        SelectRow(static_cast<int>(std::ranges::find(m_positions, kept) - m_positions.begin()));
+        SelectModelRow(kept);
+}
+
+int ListView::RowOf(std::size_t modelRow) const
+{
+    return static_cast<int>(std::ranges::find(m_positions, modelRow) - m_positions.begin());
 }
 
 wxString ListView::ColumnCaption(int column) const
@@ -112,12 +130,12 @@ int ListView::ColumnWidth(int column) const
 
 std::string ListView::Text(int row, int column) const
 {
-    return m_model->Text(m_positions.at(Index(row)), Index(column));
+    return m_model->Text(ModelRow(row), Index(column));
 }
 
 CellStyle ListView::Style(int row, int column) const
 {
-    return m_model->Style(m_positions.at(Index(row)), Index(column));
+    return m_model->Style(ModelRow(row), Index(column));
 }
 
 wxString ListView::CellText(int row, int column) const

@@ -33,6 +33,10 @@ public:
     /// Shows the model's rows instead of what was shown, sorted if sorting is on; no row is selected then.
     void Show(std::unique_ptr<const ListModel> model);
 
+    /// The same with a row selected, by its number in the model: it takes the place on the screen that the
+    /// selected row had, or is scrolled to if none was selected.
+    void Show(std::unique_ptr<const ListModel> model, std::optional<std::size_t> selected);
+
     /// The same with rows that stay as they are.
     void ShowRows(std::vector<ListRow> rows) { Show(std::make_unique<KeptRows>(std::move(rows))); }
 
@@ -60,10 +64,12 @@ public:
     wxColour CellColour(int row, int column) const;
     bool CellBold(int row, int column) const;
     int SelectedRow() const; ///< -1 when none is selected.
+    std::size_t ModelRow(int row) const { return m_positions.at(static_cast<std::size_t>(row)); }
 
     // Driving it as the mouse does.
 
     void SelectRow(int row); ///< Also scrolls to the row; -1 selects none.
+    void SelectModelRow(std::size_t row) { SelectRow(RowOf(row)); }
     void ClickColumn(int column);
     void ActivateRow(int row);
 
@@ -71,6 +77,8 @@ protected:
     wxSize DoGetBestClientSize() const override;
 
 private:
+    int RowOf(std::size_t modelRow) const;
+
     std::span<const ListColumn> Columns;
     std::unique_ptr<const ListModel> m_model;
     std::vector<std::size_t> m_positions; ///< The model's rows in the order in which they are shown.

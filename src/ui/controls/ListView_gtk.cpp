@@ -7,6 +7,10 @@
 
 #include <wx/dataview.h>
 
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
 namespace
 {
 
@@ -128,12 +132,38 @@ public:
     void SelectRow(int row) override
     {
         if (row < 0)
-        {
             Control->UnselectAll();
+        else // scrolls by itself; the toolkit would scroll later, to a row that may be gone by then
+            SetTreeCursor(Control->GtkGetTreeView(), row);
+    }
+
+    Place PlaceOf(int row) const override
+    {
+        if (Scroll && Scroll->Row == row)
+            return Scroll->At;
+        const TreePlace place = TreePlaceOf(Control->GtkGetTreeView(), row);
+        if (place.Row.height <= 0)
+            return {};
+        const double height = place.Row.height;
+        return {place.Row.y / height, place.ViewHeight / height};
+    }
+
+    void ScrollTo(int row, const Place& place) override
+    {
+        // GTK scrolls when it has measured the new rows, which it does before the toolkit is idle.
+        Scroll = {row, place};
+        Control->CallAfter([this] { Scroll.reset(); });
+
+        const double last = place.Page - 1; // the last place that shows a row whole
+        if (place.Row >= 0 && place.Row <= last)
+        {
+            ScrollTree(Control->GtkGetTreeView(), row, last > 0 ? place.Row / last : 0);
             return;
         }
-        SetTreeCursor(Control->GtkGetTreeView(), row);
-        Control->EnsureVisible(Rows->GetItem(static_cast<unsigned>(row)));
+        // A row that is out of sight, or cut, cannot be aligned: the first row on the screen can.
+        const int first = row - static_cast<int>(std::lround(place.Row));
+        ScrollTree(Control->GtkGetTreeView(), std::clamp(first, 0, static_cast<int>(Rows->GetCount()) - 1),
+                   0);
     }
 
     void ClickColumn(int column) override
@@ -152,11 +182,18 @@ public:
     }
 
 private:
+    struct RowAtPlace
+    {
+        int Row;
+        Place At;
+    };
+
     int RowOf(const wxDataViewItem& item) const { return static_cast<int>(Rows->GetRow(item)); }
 
     Listener ToView;
     wxObjectDataPtr<Model> Rows;
     wxDataViewCtrl* Control;
+    std::optional<RowAtPlace> Scroll; // that GTK has yet to do
     wxFont HeaderFont = Control->GetFont().Bold();
 };
 

@@ -11,6 +11,9 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace
 {
 
@@ -77,6 +80,18 @@ public:
             return;
         SetItemState(row, marks, marks);
         EnsureVisible(row);
+    }
+
+    Place PlaceOf(int row) const override
+    {
+        return {static_cast<double>(row - GetTopItem()), static_cast<double>(GetCountPerPage())};
+    }
+
+    void ScrollTo(int row, const Place& place) override
+    {
+        // Upwards from the end, a row that is scrolled to becomes the first on the screen.
+        EnsureVisible(GetItemCount() - 1);
+        EnsureVisible(std::clamp<long>(row - std::lround(place.Row), 0, GetItemCount() - 1));
     }
 
     void ClickColumn(int column) override

@@ -41,6 +41,17 @@ public:
     virtual int SelectedRow() const = 0;
     virtual void SelectRow(int row) = 0;
 
+    /// How far a row is below the first place on the screen, and how many places there are, in rows.
+    struct Place
+    {
+        double Row = 0; ///< Less than 0 above the first place.
+        double Page = 0;
+    };
+
+    virtual Place PlaceOf(int row) const = 0;
+    /// Scrolls until a row is at a place, or as near to it as the rows allow.
+    virtual void ScrollTo(int row, const Place& place) = 0;
+
     // What a click on a header and a double click on a row set off.
 
     virtual void ClickColumn(int column) = 0;

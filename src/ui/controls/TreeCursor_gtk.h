@@ -2,21 +2,65 @@
 
 #include "ui/controls/NativeFunction_gtk.h"
 
-#include <wx/defs.h>
+#include <wx/gdicmn.h>
+
+// What the toolkit does not offer for the rows of a GTK tree view.
+
+/// Calls `use` with GTK's path of a row.
+template<typename Use>
+void WithTreePath(int row, const Use& use)
+{
+    const auto newPath = NativeFunction<void* (*)(int, ...)>("gtk_tree_path_new_from_indices");
+    const auto freePath = NativeFunction<void (*)(void*)>("gtk_tree_path_free");
+    if (newPath == nullptr || freePath == nullptr)
+        return;
+    constexpr int endOfIndices = -1;
+    void* path = newPath(row, endOfIndices);
+    use(path);
+    freePath(path);
+}
 
 /// Makes a row of a GTK tree view the current one, to which the keys and the focus go. That also selects it,
 /// unless the view allows no selection.
 inline void SetTreeCursor(GtkWidget* tree, int row)
 {
-    using Path = void;
-    const auto newPath = NativeFunction<Path* (*)(int, ...)>("gtk_tree_path_new_from_indices");
     const auto setCursor =
-        NativeFunction<void (*)(GtkWidget*, Path*, void*, int)>("gtk_tree_view_set_cursor");
-    const auto freePath = NativeFunction<void (*)(Path*)>("gtk_tree_path_free");
-    if (newPath == nullptr || setCursor == nullptr || freePath == nullptr)
+        NativeFunction<void (*)(GtkWidget*, void*, void*, int)>("gtk_tree_view_set_cursor");
+    if (setCursor != nullptr)
+        WithTreePath(row, [&](void* path) { setCursor(tree, path, nullptr, 0); });
+}
+
+/// Where a row is in the part of the rows that is on the screen, and how high that part is. A row's height is
+/// 0 until GTK has measured it.
+struct TreePlace
+{
+    wxRect Row;
+    int ViewHeight = 0;
+};
+
+inline TreePlace TreePlaceOf(GtkWidget* tree, int row)
+{
+    using RowArea = void (*)(GtkWidget*, void*, void*, wxRect*);
+    const auto rowArea = NativeFunction<RowArea>("gtk_tree_view_get_background_area");
+    const auto viewArea = NativeFunction<void (*)(GtkWidget*, wxRect*)>("gtk_tree_view_get_visible_rect");
+    if (rowArea == nullptr || viewArea == nullptr)
+        return {};
+    TreePlace place; // GDK's rectangle has the same members
+    wxRect view;
+    WithTreePath(row, [&](void* path) { rowArea(tree, path, nullptr, &place.Row); });
+    viewArea(tree, &view);
+    place.ViewHeight = view.height;
+    return place;
+}
+
+/// Scrolls to a row: 0 puts it at the upper edge, 1 at the lower one, as far as the rows allow.
+inline void ScrollTree(GtkWidget* tree, int row, double alignment)
+{
+    const auto scroll =
+        NativeFunction<void (*)(GtkWidget*, void*, void*, int, float, float)>("gtk_tree_view_scroll_to_cell");
+    if (scroll == nullptr)
         return;
-    constexpr int endOfIndices = -1;
-    Path* path = newPath(row, endOfIndices);
-    setCursor(tree, path, nullptr, 0);
-    freePath(path);
+    constexpr int useAlignment = 1;
+    WithTreePath(row, [&](void* path)
+                 { scroll(tree, path, nullptr, useAlignment, static_cast<float>(alignment), 0); });
 }

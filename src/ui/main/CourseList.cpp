@@ -2,9 +2,11 @@
 
 #include "data/Errors.h"
 #include "data/Lookups.h"
+#include "data/Numbers.h"
 #include "data/Text.h"
 #include "data/modData.h"
 
+#include <algorithm>
 #include <array>
 #include <iterator>
 #include <utility>
@@ -52,6 +54,13 @@ void AppendNastavnici(std::string& text, std::int32_t kolegijID)
     std::string_view separator;
     for (const modData::PlacedNastavnik& placed : modData::GetNastavniciForKolegij(kolegijID))
         text.append(std::exchange(separator, ", ")).append(placed.Nastavnik->Field(Nastavnik::PrezimeIme));
+}
+
+/// Whether a course has this ID; an ID that is no number is none.
+bool HasID(const Row& kolegij, std::int32_t id)
+{
+    std::int32_t read = 0;
+    return ReadLong(kolegij.Field(Kolegij::ID), read) == NumberReading::Whole && read == id;
 }
 
 } // namespace
@@ -135,6 +144,31 @@ CellStyle CourseListModel::Style(std::size_t row, std::size_t) const
     if (kolegij == nullptr || kolegij->FieldCount() <= Kolegij::Tip)
         return {};
     return {.Colour = ElectiveColour(kolegij->Field(Kolegij::Tip))};
+}
+
+CourseMark CourseListModel::MarkOf(std::size_t row) const
+{
+    CourseMark course = {ToLong(m_ids[row]), 0};
+    const std::size_t end = std::min<std::size_t>(m_positions[row], modData::Kolegiji.RowCount());
+    for (std::size_t position = 0; position < end; ++position)
+        if (HasID(modData::Kolegiji[position], course.ID))
+            ++course.Earlier;
+    return course;
+}
+
+std::optional<std::size_t> CourseListModel::RowOf(const CourseMark& course) const
+{
+    std::size_t earlier = 0;
+    for (std::uint32_t position = 0; position < modData::Kolegiji.RowCount(); ++position)
+    {
+        if (!HasID(modData::Kolegiji[position], course.ID) || earlier++ < course.Earlier)
+            continue;
+        const auto found = std::ranges::lower_bound(m_positions, position);
+        if (found == m_positions.end() || *found != position)
+            return std::nullopt;
+        return static_cast<std::size_t>(found - m_positions.begin());
+    }
+    return std::nullopt;
 }
 
 const Row* CourseListModel::CourseOf(std::size_t row) const

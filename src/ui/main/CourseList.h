@@ -58,6 +58,14 @@ bool PassesBoxes(const Row& kolegij, const CourseFilter& filter);
 /// error ends the refresh, never the painting.
 std::vector<std::uint32_t> CoursesThatPass(const CourseFilter& filter, Search& search);
 
+/// A course whatever becomes of the rows before and after it: its ID, and how many courses with the same ID
+/// come before it in the table.
+struct CourseMark
+{
+    std::int32_t ID;
+    std::size_t Earlier;
+};
+
 /// The rows of these courses, each cell made from the tables when it is asked for; electives are blue. Once
 /// the table has another number of courses the rows are blank, until the next refresh makes a new model. Only
 /// the ID is kept: the window's commands know the selected course by it.
@@ -69,6 +77,12 @@ public:
     std::size_t RowCount() const override { return m_positions.size(); }
     std::string Text(std::size_t row, std::size_t column) const override;
     CellStyle Style(std::size_t row, std::size_t column) const override;
+
+    /// The course of a row. Courses may have been added or changed since the model was made, not deleted.
+    CourseMark MarkOf(std::size_t row) const;
+
+    /// The row of a course of the table; none when it is not among these.
+    std::optional<std::size_t> RowOf(const CourseMark& course) const;
 
 private:
     const Row* CourseOf(std::size_t row) const;

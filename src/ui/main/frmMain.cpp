@@ -302,12 +302,15 @@ void frmMain::RefreshListView()
         return;
     const CourseFilter filter = CurrentFilter();
     Search search(filter.Search);
-    RefreshListView(filter, search);
+    RefreshListView(filter, search, SelectedCourse());
 }
 
-void frmMain::RefreshListView(const CourseFilter& filter, Search& search)
+void frmMain::RefreshListView(const CourseFilter& filter, Search& search,
+                              const std::optional<CourseMark>& selected)
 {
-    lvwKolegiji->Show(std::make_unique<CourseListModel>(CoursesThatPass(filter, search)));
+    auto courses = std::make_unique<CourseListModel>(CoursesThatPass(filter, search));
+    m_courses = courses.get();
+    lvwKolegiji->Show(std::move(courses), selected ? m_courses->RowOf(*selected) : std::nullopt);
 }
 
 void frmMain::RefreshStatistika(CourseFilter filter, Search& search)
@@ -319,13 +322,13 @@ void frmMain::RefreshStatistika(CourseFilter filter, Search& search)
     Panel->Layout(); // the sums are as high as their rows
 }
 
-void frmMain::RefreshGrids()
+void frmMain::RefreshGrids(const std::optional<CourseMark>& selected)
 {
     if (!FormReady)
         return;
     const CourseFilter filter = CurrentFilter();
     Search search(filter.Search);
-    RefreshListView(filter, search);
+    RefreshListView(filter, search, selected);
     RefreshStatistika(filter, search);
 }
 
@@ -422,14 +425,46 @@ std::optional<std::int32_t> frmMain::SelectedKolegijID() const
     return ToLong(lvwKolegiji->Text(row, 0));
 }
 
+std::optional<CourseMark> frmMain::SelectedCourse() const
+{
+    const int row = lvwKolegiji->SelectedRow();
+    if (row < 0)
+        return std::nullopt;
+    return m_courses->MarkOf(lvwKolegiji->ModelRow(row));
+}
+
+std::optional<CourseMark> frmMain::CourseBesideSelected() const
+{
+    const int selected = lvwKolegiji->SelectedRow();
+    const std::int32_t id = SelectedCourse()->ID;
+    const auto firstOther = [&](int row, int step) -> std::optional<CourseMark>
+    {
+        for (; row >= 0 && row < lvwKolegiji->RowCount(); row += step)
+            if (const CourseMark course = m_courses->MarkOf(lvwKolegiji->ModelRow(row)); course.ID != id)
+                return course;
+        return std::nullopt;
+    };
+    const std::optional<CourseMark> following = firstOther(selected + 1, 1);
+    return following ? following : firstOther(selected - 1, -1);
+}
+
+void frmMain::SelectNewCourse()
+{
+    const auto last = static_cast<std::uint32_t>(modData::Kolegiji.RowCount() - 1);
+    if (const std::optional<std::size_t> row = m_courses->RowOf(CourseListModel({last}).MarkOf(0)))
+        lvwKolegiji->SelectModelRow(*row);
+}
+
 void frmMain::cmdAdd_Click()
 {
     frmKolegij editor(this);
     editor.Mode = "ADD";
     editor.StartRazina = ChosenText(*cboRazina);
     editor.StartStudijID = SelectedData(*cboProgram);
-    editor.ShowModal();
+    const bool isAdded = editor.ShowModal() == wxID_OK;
     RefreshGrids();
+    if (isAdded)
+        SelectNewCourse();
 }
 
 void frmMain::cmdEdit_Click()
@@ -454,8 +489,9 @@ void frmMain::cmdDelete_Click()
     const std::optional<std::int32_t> id = SelectedKolegijID();
     if (!id || !AskYesNo(this, "Želite li obrisati ovaj kolegij?", "Potvrda"))
         return;
+    const std::optional<CourseMark> beside = CourseBesideSelected();
     DeleteKolegij(*id);
-    RefreshGrids();
+    RefreshGrids(beside);
 }
 
 void frmMain::cmdStatNositelji_Click()

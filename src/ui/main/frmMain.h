@@ -50,9 +50,12 @@ private:
     void FillSemestarCombo();
     CourseFilter CurrentFilter() const;
     StatistikaFilters ShownFilters() const;
-    void RefreshListView(const CourseFilter& filter, Search& search);
+    void RefreshListView(const CourseFilter& filter, Search& search,
+                         const std::optional<CourseMark>& selected);
     void RefreshStatistika(CourseFilter filter, Search& search);
-    void RefreshGrids();
+    void RefreshGrids() { RefreshGrids(SelectedCourse()); }
+    /// The same with a course selected, if it is shown.
+    void RefreshGrids(const std::optional<CourseMark>& selected);
 
     /// Moves the focus to the search text and selects it.
     void FindText();
@@ -84,10 +87,16 @@ private:
 
     /// The ID in the selected row's first column, none without a selection.
     std::optional<std::int32_t> SelectedKolegijID() const;
+    std::optional<CourseMark> SelectedCourse() const;
+    /// The course that follows the selected one with another ID; after the last one the nearest before.
+    std::optional<CourseMark> CourseBesideSelected() const;
+    /// Selects the last course of the table and scrolls to it, if it is shown.
+    void SelectNewCourse();
     void UnloadOtherWindows();
 
     bool FormReady = false; ///< False until the filter boxes are filled: no list is filled before.
     bool Unloading = false;
+    const CourseListModel* m_courses = nullptr; ///< What the course list shows; its own.
 
     // Controls
     wxPanel* Panel;
