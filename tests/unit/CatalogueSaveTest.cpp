@@ -369,6 +369,19 @@ TEST_F(CatalogueSaving, AFailureBeforeTheMarkNamesTheFileAndLeavesNoSet)
     EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
 }
 
+#ifndef _WIN32 // where no folder is read-only
+
+TEST_F(CatalogueSaving, AReadOnlyFolderIsRefusedEvenToRoot)
+{
+    fs::permissions(Folder.Data(), AnyWrite, fs::perm_options::remove);
+    EXPECT_THROW(modData::SaveAllTables(), FileError);
+    fs::permissions(Folder.Data(), fs::perms::owner_write, fs::perm_options::add);
+    EXPECT_EQ(OnDisk(), Old);
+    EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
+}
+
+#endif
+
 // A file that may not be replaced
 
 class HeldFile : public CatalogueSaving
