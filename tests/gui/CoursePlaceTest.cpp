@@ -48,11 +48,12 @@ protected:
         Open(catalogue);
     }
 
-    /// Selects a course in the middle of a page somewhere in the list, as the keys do.
+    /// Selects a course in the middle of a page, as the keys do: far enough from the end of the list that
+    /// half of the rows, on a higher page, can still have it in the same place.
     void GoToMiddle()
     {
         ClickRow(Kolegiji(), 2);
-        for (const int key : {WXK_PAGEDOWN, WXK_PAGEDOWN, WXK_PAGEDOWN, WXK_UP, WXK_UP})
+        for (const int key : {WXK_PAGEDOWN, WXK_PAGEDOWN, WXK_UP, WXK_UP})
             PressKey(Kolegiji(), key);
     }
 
