@@ -19,6 +19,9 @@ inline constexpr ListColumn TaughtCourseColumns[] = {
     {"Tip", 1200},     {"Sem", 600}, {"Studij", 800}, {"Nositelji", 2500},
 };
 
+/// What a course list says when it has no rows.
+inline constexpr std::string_view NoCourses = "Nema kolegija.";
+
 /// Takes the position of one of the program's courses.
 using CourseVisitor = std::function<void(std::size_t position)>;
 

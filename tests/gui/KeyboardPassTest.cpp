@@ -4,13 +4,10 @@
 #include "support/EveryWindow.h"
 #include "support/KeyAnswer.h"
 #include "support/SaveDialogKeys.h"
+#include "support/ScreenPicture.h"
 #include "ui/course_editor/frmKolegij.h"
 
-#include <wx/bitmap.h>
 #include <wx/button.h>
-#include <wx/dcmemory.h>
-#include <wx/dcscreen.h>
-#include <wx/image.h>
 #include <wx/listbox.h>
 #include <wx/radiobut.h>
 #include <wx/stattext.h>
@@ -161,12 +158,7 @@ std::vector<unsigned char> EdgeOf(const wxButton* button)
 {
     constexpr int width = 6;
     const wxRect place = button->GetScreenRect();
-    wxBitmap edge(width, 1);
-    wxMemoryDC copy(edge);
-    wxScreenDC screen;
-    copy.Blit(0, 0, width, 1, &screen, place.x, place.y + place.height / 2);
-    copy.SelectObject(wxNullBitmap);
-    const wxImage pixels = edge.ConvertToImage();
+    const wxImage pixels = ScreenPicture({place.x, place.y + place.height / 2, width, 1});
     return {pixels.GetData(), pixels.GetData() + 3 * width};
 }
 

@@ -80,6 +80,12 @@ void ListView::SetColumns(std::span<const ListColumn> columns)
     Native->ColumnsComplete();
 }
 
+void ListView::SetEmptyText(std::string_view text)
+{
+    m_emptyText = ToWx(text);
+    Native->Window()->Refresh();
+}
+
 void ListView::Show(std::unique_ptr<const ListModel> model)
 {
     m_model = std::move(model);

@@ -30,6 +30,9 @@ public:
     /// Sets the columns; once, before any row.
     void SetColumns(std::span<const ListColumn> columns);
 
+    /// What the list says in grey while it has no rows (UTF-8).
+    void SetEmptyText(std::string_view text);
+
     /// Shows the model's rows instead of what was shown, sorted if sorting is on; no row is selected then.
     void Show(std::unique_ptr<const ListModel> model);
 
@@ -63,6 +66,7 @@ public:
     wxString CellText(int row, int column) const;
     wxColour CellColour(int row, int column) const;
     bool CellBold(int row, int column) const;
+    const wxString& EmptyText() const { return m_emptyText; }
     int SelectedRow() const; ///< -1 when none is selected.
     std::size_t ModelRow(int row) const { return m_positions.at(static_cast<std::size_t>(row)); }
 
@@ -83,6 +87,7 @@ private:
     std::unique_ptr<const ListModel> m_model;
     std::vector<std::size_t> m_positions; ///< The model's rows in the order in which they are shown.
     std::optional<ListOrder> Order;
+    wxString m_emptyText;
     std::function<void(int)> ColumnClicked;
     std::function<void()> Activated;
     std::function<bool(const wxKeyEvent&)> KeyPressed;

@@ -6,9 +6,12 @@
 #include "ui/controls/TreeCursor_gtk.h"
 
 #include <wx/dataview.h>
+#include <wx/graphics.h>
+#include <wx/settings.h>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <optional>
 
 namespace
@@ -49,6 +52,21 @@ private:
     const ListView& View;
 };
 
+/// GTK calls this after it has painted the tree; 0 lets others paint, too.
+int PaintEmptyText(GtkWidget* tree, void* canvas, const ListView* view)
+{
+    if (view->RowCount() > 0)
+        return 0;
+    const std::unique_ptr<wxGraphicsContext> graphics(wxGraphicsContext::CreateFromNative(canvas));
+    graphics->SetFont(view->GetFont(), wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
+    double width = 0;
+    double height = 0;
+    graphics->GetTextExtent(view->EmptyText(), &width, &height);
+    const double left = std::max(0.0, (view->GetClientSize().x - width) / 2);
+    graphics->DrawText(view->EmptyText(), std::floor(left), TreeHeaderHeight(tree) + height);
+    return 0;
+}
+
 class GtkList : public NativeList
 {
 public:
@@ -63,6 +81,14 @@ public:
         if (const auto enableSearch =
                 NativeFunction<void (*)(GtkWidget*, int)>("gtk_tree_view_set_enable_search"))
             enableSearch(Control->GtkGetTreeView(), 0);
+        if (const auto connect =
+                NativeFunction<unsigned long (*)(void*, const char*, void (*)(), void*, void*, int)>(
+                    "g_signal_connect_data"))
+        {
+            constexpr int after = 1;
+            connect(Control->GtkGetTreeView(), "draw", reinterpret_cast<void (*)()>(&PaintEmptyText), &view,
+                    nullptr, after);
+        }
         Control->Bind(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK,
                       [this](wxDataViewEvent& event)
                       {

@@ -3,9 +3,11 @@
 #include "ui/controls/ListView.h"
 #include "ui/controls/NativeList.h"
 
+#include <wx/dcclient.h>
 #include <wx/imaglist.h>
 #include <wx/itemattr.h>
 #include <wx/listctrl.h>
+#include <wx/settings.h>
 
 #include <windows.h>
 
@@ -121,6 +123,18 @@ protected:
         return true;
     }
 
+    WXLRESULT MSWWindowProc(WXUINT message, WXWPARAM word, WXLPARAM data) override
+    {
+        const WXLRESULT result = wxListCtrl::MSWWindowProc(message, word, data);
+        if (View.RowCount() > 0)
+            return result;
+        if (message == WM_PAINT)
+            PaintEmptyText();
+        else if (message == WM_SIZE || message == WM_HSCROLL)
+            Refresh(); // the text stays in the middle
+        return result;
+    }
+
     wxString OnGetItemText(long row, long column) const override
     {
         return IsShown(row) ? View.CellText(static_cast<int>(row), static_cast<int>(column)) : wxString();
@@ -149,6 +163,18 @@ private:
 
     /// While the rows are replaced by fewer, the control still asks for some that are gone.
     bool IsShown(long row) const { return row < View.RowCount(); }
+
+    void PaintEmptyText()
+    {
+        RECT header = {};
+        ::GetClientRect(ListView_GetHeader(GetHWND()), &header);
+        wxClientDC canvas(this);
+        canvas.SetFont(GetFont());
+        canvas.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
+        const int top = static_cast<int>(header.bottom) + GetCharHeight();
+        canvas.DrawLabel(View.EmptyText(), wxRect(0, top, GetClientSize().x, GetCharHeight()),
+                         wxALIGN_CENTRE_HORIZONTAL);
+    }
 
     ListView& View;
     Listener ToView;

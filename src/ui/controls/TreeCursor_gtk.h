@@ -64,3 +64,13 @@ inline void ScrollTree(GtkWidget* tree, int row, double alignment)
     WithTreePath(row, [&](void* path)
                  { scroll(tree, path, nullptr, useAlignment, static_cast<float>(alignment), 0); });
 }
+
+/// The height of the headers above the rows of a GTK tree view.
+inline int TreeHeaderHeight(GtkWidget* tree)
+{
+    int height = 0;
+    if (const auto toWidget = NativeFunction<void (*)(GtkWidget*, int, int, int*, int*)>(
+            "gtk_tree_view_convert_bin_window_to_widget_coords"))
+        toWidget(tree, 0, 0, nullptr, &height);
+    return height;
+}

@@ -109,6 +109,7 @@ void frmStatZavodi::Form_Load()
 {
     lvwStatZavod->SetColumns(StatColumns);
     lvwKolegiji->SetColumns(TaughtCourseColumns);
+    lvwKolegiji->SetEmptyText(NoCourses);
     FillChoices(*cboRazina, WithSvi(RazinaChoices()));
     FillChoices(*cboZavodi, ZavodChoices());
     FillChoices(*lstSemestri, WithSvi({{"Zimski"}, {"Ljetni"}, {"1"}, {"2"}, {"3"}, {"4"}, {"5"}, {"6"}}));

@@ -113,6 +113,7 @@ void frmStatNositelji::Form_Load()
     FillChoices(*lstNastavnici, NastavnikChoices());
     LetFocusSelectNothing(*lstNastavnici);
     lvwKolegiji->SetColumns(TaughtCourseColumns);
+    lvwKolegiji->SetEmptyText("Odaberite nastavnika.");
     lvwStat->SetColumns(StatColumns);
     Panel->Layout(); // the lists have headers now
     CenterForm(*this);
@@ -127,6 +128,7 @@ LecturerFilter frmStatNositelji::CurrentFilter() const
 
 void frmStatNositelji::ShowSelected()
 {
+    lvwKolegiji->SetEmptyText(NoCourses);
     lvwKolegiji->ShowRows(LecturerCourseRows(SelectedNastavnikID, CurrentFilter()));
     lvwStat->ShowRows(LecturerLoadRows(SelectedNastavnikID, CurrentFilter()));
     Panel->Layout(); // the sums are as high as their rows

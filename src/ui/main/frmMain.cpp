@@ -250,6 +250,7 @@ void frmMain::Form_Load()
 void frmMain::SetupKolegijiColumns()
 {
     lvwKolegiji->SetColumns(CourseListColumns);
+    lvwKolegiji->SetEmptyText("Nijedan kolegij ne odgovara filtrima.");
 }
 
 void frmMain::SetupStatistikaColumns()

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <wx/gdicmn.h>
+#include <wx/image.h>
+
+/// A part of the screen as it is now.
+wxImage ScreenPicture(const wxRect& place);
