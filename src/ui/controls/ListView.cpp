@@ -1,11 +1,13 @@
 #include "ui/controls/ListView.h"
 
 #include "ui/controls/Controls.h"
+#include "ui/controls/ListMenu.h"
 #include "ui/controls/NativeList.h"
 #include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/sizer.h>
+#include <wx/tooltip.h>
 
 #include <algorithm>
 #include <numeric>
@@ -59,7 +61,14 @@ ListView::ListView(wxWindow* parent, const wxString& name, std::string_view spok
          },
          // Characters have no meaning in a list: the system must not search for them, nor activate a row.
          .KeyPressed = [this](const wxKeyEvent& key)
-         { return (KeyPressed && KeyPressed(key)) || IsCharacter(key); }});
+         { return (KeyPressed && KeyPressed(key)) || IsCharacter(key); },
+         .MenuWanted = [this](const wxPoint& place) { ShowMenu(place); }});
+    Native->Window()->Bind(wxEVT_MOTION,
+                           [this](wxMouseEvent& event)
+                           {
+                               ShowTip();
+                               event.Skip();
+                           });
     SetSpokenName(*Native->Window(), spokenName);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(Native->Window(), wxSizerFlags(1).Expand());
@@ -91,6 +100,7 @@ void ListView::Show(std::unique_ptr<const ListModel> model)
     m_model = std::move(model);
     m_positions = PositionsOf(*m_model, Order);
     Native->ShowNewRows(RowCount());
+    Native->Window()->UnsetToolTip();
 }
 
 void ListView::Show(std::unique_ptr<const ListModel> model, std::optional<std::size_t> selected)
@@ -122,6 +132,36 @@ void ListView::SortBy(ListOrder order)
 int ListView::RowOf(std::size_t modelRow) const
 {
     return static_cast<int>(std::ranges::find(m_positions, modelRow) - m_positions.begin());
+}
+
+void ListView::ShowMenu(wxPoint place)
+{
+    wxWindow* rows = Native->Window();
+    rows->SetFocus(); // not every system does so at a click with the right button
+    if (place == wxDefaultPosition)
+    {
+        const wxRect selected = SelectedRow() >= 0 ? Native->RowArea(SelectedRow()) : wxRect();
+        place = rows->ClientToScreen(selected.IsEmpty() ? wxPoint() : selected.GetBottomLeft());
+    }
+    ShowListMenu(*this, place, m_commands);
+}
+
+void ListView::ShowTip()
+{
+    wxWindow* rows = Native->Window();
+    wxString tip;
+    if (const std::optional<NativeList::Cell> cell =
+            Native->CellAt(rows->ScreenToClient(wxGetMousePosition())))
+    {
+        const wxString text = CellText(cell->Row, cell->Column);
+        const wxFont font = CellBold(cell->Row, cell->Column) ? rows->GetFont().Bold() : rows->GetFont();
+        wxSize extent;
+        rows->GetTextExtent(text, &extent.x, &extent.y, nullptr, nullptr, &font);
+        if (extent.x > Native->TextWidth(cell->Column))
+            tip = text;
+    }
+    if (tip != rows->GetToolTipText())
+        rows->SetToolTip(tip);
 }
 
 wxString ListView::ColumnCaption(int column) const

@@ -18,6 +18,14 @@
 class NativeList;
 class wxKeyEvent;
 
+/// A command of a list's context menu.
+struct ListCommand
+{
+    std::string_view Caption; ///< With its access key.
+    bool NeedsRow;            ///< Greyed while no row is selected.
+    std::function<void()> Run;
+};
+
 /// A report list with grid lines, full-row selection of one row, and colour and bold per cell: the system's
 /// own list view behind one face. Rows are counted in display order.
 class ListView : public wxNavigationEnabled<wxWindow>
@@ -55,6 +63,9 @@ public:
     /// What to call with a key pressed in the list; it answers whether the key is dealt with.
     void OnKey(std::function<bool(const wxKeyEvent& key)> handler) { KeyPressed = std::move(handler); }
 
+    /// The commands of the context menu. Those that copy rows, which every list has, follow them.
+    void SetCommands(std::vector<ListCommand> commands) { m_commands = std::move(commands); }
+
     // Reading the list as it is shown.
 
     int ColumnCount() const { return static_cast<int>(Columns.size()); }
@@ -83,10 +94,16 @@ protected:
 private:
     int RowOf(std::size_t modelRow) const;
 
+    /// Shows the context menu at a point of the screen; without a point at the selected row.
+    void ShowMenu(wxPoint place);
+    /// Shows the whole text of the cell at the pointer as a tooltip if it is cut.
+    void ShowTip();
+
     std::span<const ListColumn> Columns;
     std::unique_ptr<const ListModel> m_model;
     std::vector<std::size_t> m_positions; ///< The model's rows in the order in which they are shown.
     std::optional<ListOrder> Order;
+    std::vector<ListCommand> m_commands;
     wxString m_emptyText;
     std::function<void(int)> ColumnClicked;
     std::function<void()> Activated;

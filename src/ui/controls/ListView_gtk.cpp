@@ -97,6 +97,10 @@ public:
                       });
         Control->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED,
                       [this](wxDataViewEvent& event) { ToView.Activated(RowOf(event.GetItem())); });
+        Control->Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU,
+                      [this](wxDataViewEvent&) { ToView.MenuWanted(wxGetMousePosition()); });
+        Control->Bind(wxEVT_CONTEXT_MENU, // of the key
+                      [this](wxContextMenuEvent& event) { ToView.MenuWanted(event.GetPosition()); });
         Control->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!ToView.KeyPressed(event)); });
     }
 
@@ -104,8 +108,10 @@ public:
 
     void AddColumn(const wxString& caption, int pixels) override
     {
-        Control->AppendTextColumn(caption, Control->GetColumnCount(), wxDATAVIEW_CELL_INERT, pixels,
-                                  wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE);
+        wxDataViewColumn* column =
+            Control->AppendTextColumn(caption, Control->GetColumnCount(), wxDATAVIEW_CELL_INERT, pixels,
+                                      wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE);
+        column->GetRenderer()->EnableEllipsize(wxELLIPSIZE_END);
     }
 
     void ColumnsComplete() override
@@ -190,6 +196,27 @@ public:
         const int first = row - static_cast<int>(std::lround(place.Row));
         ScrollTree(Control->GtkGetTreeView(), std::clamp(first, 0, static_cast<int>(Rows->GetCount()) - 1),
                    0);
+    }
+
+    std::optional<Cell> CellAt(const wxPoint& point) const override
+    {
+        wxDataViewItem item;
+        wxDataViewColumn* column = nullptr;
+        Control->HitTest(point, item, column);
+        if (!item.IsOk() || column == nullptr || column->GetModelColumn() >= Rows->GetColumnCount())
+            return std::nullopt;
+        return Cell{RowOf(item), static_cast<int>(column->GetModelColumn())};
+    }
+
+    wxRect RowArea(int row) const override
+    {
+        return Control->GetItemRect(Rows->GetItem(static_cast<unsigned>(row)));
+    }
+
+    int TextWidth(int column) const override
+    {
+        constexpr int padding = 8; // of the cell and its text, on both sides
+        return ColumnWidth(column) - padding;
     }
 
     void ClickColumn(int column) override

@@ -35,6 +35,8 @@ public:
                      ToView.ColumnClicked(event.GetColumn());
              });
         Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent& event) { ToView.Activated(event.GetIndex()); });
+        Bind(wxEVT_CONTEXT_MENU,
+             [this](wxContextMenuEvent& event) { ToView.MenuWanted(event.GetPosition()); });
         Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!ToView.KeyPressed(event)); });
     }
 
@@ -45,7 +47,11 @@ public:
         AppendColumn(caption, wxLIST_FORMAT_LEFT, pixels);
     }
 
-    void ColumnsComplete() override {}
+    void ColumnsComplete() override
+    {
+        // The system's own tips show the first column alone.
+        ListView_SetExtendedListViewStyleEx(GetHWND(), LVS_EX_LABELTIP, 0);
+    }
 
     int CaptionWidth(const wxString& caption) const override
     {
@@ -94,6 +100,29 @@ public:
         // Upwards from the end, a row that is scrolled to becomes the first on the screen.
         EnsureVisible(GetItemCount() - 1);
         EnsureVisible(std::clamp<long>(row - std::lround(place.Row), 0, GetItemCount() - 1));
+    }
+
+    std::optional<Cell> CellAt(const wxPoint& point) const override
+    {
+        int flags = 0;
+        long column = 0;
+        const long row = HitTest(point, flags, &column);
+        if (row < 0 || column < 0)
+            return std::nullopt;
+        return Cell{static_cast<int>(row), static_cast<int>(column)};
+    }
+
+    wxRect RowArea(int row) const override
+    {
+        wxRect area;
+        GetItemRect(row, area);
+        return area;
+    }
+
+    int TextWidth(int column) const override
+    {
+        constexpr int padding = 12; // at 96 dots to the inch; the system's own, on both sides
+        return ColumnWidth(column) - FromDIP(padding);
     }
 
     void ClickColumn(int column) override

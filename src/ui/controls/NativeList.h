@@ -2,9 +2,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class ListView;
 class wxKeyEvent;
+class wxPoint;
+class wxRect;
 class wxString;
 class wxWindow;
 
@@ -18,6 +21,7 @@ public:
         std::function<void(int column)> ColumnClicked;
         std::function<void(int row)> Activated;
         std::function<bool(const wxKeyEvent& key)> KeyPressed;
+        std::function<void(const wxPoint& pointer)> MenuWanted; ///< On the screen; no point for a key.
     };
 
     virtual ~NativeList() = default;
@@ -51,6 +55,19 @@ public:
     virtual Place PlaceOf(int row) const = 0;
     /// Scrolls until a row is at a place, or as near to it as the rows allow.
     virtual void ScrollTo(int row, const Place& place) = 0;
+
+    struct Cell
+    {
+        int Row;
+        int Column;
+    };
+
+    /// The cell at a point of Window(), if there is one.
+    virtual std::optional<Cell> CellAt(const wxPoint& point) const = 0;
+    /// Where a row is in Window(); empty while it is out of sight.
+    virtual wxRect RowArea(int row) const = 0;
+    /// How much of a column's width its cells have for their text, in pixels.
+    virtual int TextWidth(int column) const = 0;
 
     // What a click on a header and a double click on a row set off.
 

@@ -194,6 +194,9 @@ void frmMain::BindEvents()
     lvwKolegiji->OnColumnClick([this](int column) { lvwKolegiji_ColumnClick(column); });
     lvwKolegiji->OnActivate([this] { lvwKolegiji_DblClick(); });
     lvwKolegiji->OnKey([this](const wxKeyEvent& key) { return lvwKolegiji_KeyDown(key); });
+    lvwKolegiji->SetCommands({{"&Dodaj", false, [this] { cmdAdd_Click(); }},
+                              {"&Edit", true, [this] { cmdEdit_Click(); }},
+                              {"De&lete", true, [this] { cmdDelete_Click(); }}});
     lvwStatistika->OnColumnClick([this](int column) { lvwStatistika_ColumnClick(column); });
     cmdAdd->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdAdd_Click(); });
     cmdEdit->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdEdit_Click(); });
