@@ -56,21 +56,12 @@ constexpr int MenuKeyCode = WXK_WINDOWS_MENU;
 constexpr int MenuKeyCode = WXK_MENU;
 #endif
 
-std::string Clipboard()
-{
-    const wxClipboardLocker lock;
-    wxTextDataObject text;
-    if (!lock || !wxTheClipboard->GetData(text))
-        return "none";
-    return text.GetText().utf8_string().c_str(); // without the zero that may end it
-}
-
 /// What the clipboard has after the text that was put on it before; that one if nothing comes.
 std::string CopiedOver(const std::string& former)
 {
-    for (const wxStopWatch watch; Clipboard() == former && watch.Time() < 2000;)
+    for (const wxStopWatch watch; TextOnClipboard() == former && watch.Time() < 2000;)
         Settle();
-    return Clipboard();
+    return TextOnClipboard();
 }
 
 /// Lines as the system ends them.
@@ -198,7 +189,7 @@ TEST_F(CourseListMenu, EscapeLeavesEverythingAsItWas)
     const MenuKey escape(Window, WXK_ESCAPE);
     RightClick(Kolegiji(), 2);
     Settle();
-    EXPECT_EQ(Clipboard(), "before");
+    EXPECT_EQ(TextOnClipboard(), "before");
     EXPECT_EQ(Kolegiji()->SelectedRow(), 2);
     EXPECT_EQ(Kolegiji()->RowCount(), 3);
 }

@@ -25,3 +25,19 @@ inline void PutOnClipboard(const std::string& text, bool primary = false)
     if (!put)
         throw std::runtime_error("no clipboard");
 }
+
+/// The text (UTF-8) on the system's clipboard with its line breaks as they are; "none" if there is none.
+inline std::string TextOnClipboard()
+{
+    const wxClipboardLocker lock;
+    wxCustomDataObject data{wxDataFormat(wxDF_UNICODETEXT)};
+    if (!lock || !wxTheClipboard->GetData(data))
+        return "none";
+#ifdef _WIN32
+    const auto* text = static_cast<const wchar_t*>(data.GetData());
+    const wxString whole(text, data.GetSize() / sizeof(wchar_t));
+#else
+    const wxString whole = wxString::FromUTF8(static_cast<const char*>(data.GetData()), data.GetSize());
+#endif
+    return whole.BeforeFirst('\0').utf8_string(); // some systems end it with a zero
+}
