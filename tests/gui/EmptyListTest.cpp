@@ -86,6 +86,8 @@ class ListsWithoutRows : public EveryWindowTest
 {
 };
 
+using ListsWithRows = EveryWindowTest;
+
 TEST_F(ListsWithoutRows, TheCourseListSaysThatNoCoursePassesTheFilters)
 {
     OpenMain();
@@ -128,5 +130,21 @@ TEST_F(ListsWithoutRows, TheLecturersWindowAsksForALecturerFirst)
                  ExpectSays(list, "Nema kolegija.");
              });
 }
+
+#ifdef _WIN32
+
+TEST_F(ListsWithRows, AreNotErasedOnTheScreen)
+{
+    OpenMain();
+    const auto* list = Find<ListView>(Main, "lvwStatistika");
+    const wxImage rows = PictureOnce(list, [](const wxImage& picture) { return !InkIn(picture).IsEmpty(); });
+    const HWND window = InnerList(list)->GetHWND();
+    const HDC screen = GetDC(window);
+    SendMessageW(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(screen), 0);
+    ReleaseDC(window, screen);
+    EXPECT_TRUE(AreEqual(PictureOf(list), rows));
+}
+
+#endif
 
 } // namespace

@@ -15,8 +15,8 @@
 namespace
 {
 
-/// Puts the captions and rows on the clipboard, `count` rows from `first`. The system beeps if another program
-/// keeps the clipboard for itself.
+/// Puts the captions and rows on the clipboard, `count` rows from `first`. The system beeps if another
+/// program keeps the clipboard for itself.
 void CopyRows(const ListView& list, int first, int count)
 {
     std::vector<std::vector<std::string>> rows(static_cast<std::size_t>(count) + 1);

@@ -3,7 +3,8 @@
 #include "ui/controls/ListView.h"
 #include "ui/controls/NativeList.h"
 
-#include <wx/dcclient.h>
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
 #include <wx/imaglist.h>
 #include <wx/itemattr.h>
 #include <wx/listctrl.h>
@@ -24,7 +25,7 @@ class MswList : public wxListCtrl, public NativeList
 public:
     MswList(ListView& view, Listener listener)
         : wxListCtrl(&view, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                     wxLC_REPORT | wxLC_VIRTUAL | wxLC_SINGLE_SEL | wxLC_HRULES | wxLC_VRULES),
+                     wxLC_REPORT | wxLC_VIRTUAL | wxLC_SINGLE_SEL),
           View(view),
           ToView(std::move(listener))
     {
@@ -154,13 +155,16 @@ protected:
 
     WXLRESULT MSWWindowProc(WXUINT message, WXWPARAM word, WXLPARAM data) override
     {
-        const WXLRESULT result = wxListCtrl::MSWWindowProc(message, word, data);
-        if (View.RowCount() > 0)
-            return result;
+        if (message == WM_ERASEBKGND)
+            return 1; // PaintBuffered erases
         if (message == WM_PAINT)
-            PaintEmptyText();
-        else if (message == WM_SIZE || message == WM_HSCROLL)
-            Refresh(); // the text stays in the middle
+        {
+            PaintBuffered();
+            return 0;
+        }
+        const WXLRESULT result = wxListCtrl::MSWWindowProc(message, word, data);
+        if (View.RowCount() == 0 && (message == WM_SIZE || message == WM_HSCROLL))
+            Refresh(); // the text of the empty list stays in the middle
         return result;
     }
 
@@ -193,15 +197,53 @@ private:
     /// While the rows are replaced by fewer, the control still asks for some that are gone.
     bool IsShown(long row) const { return row < View.RowCount(); }
 
-    void PaintEmptyText()
+    /// Paints in memory first: painted in place, the list would be empty for a moment at every refresh.
+    void PaintBuffered()
     {
+        PAINTSTRUCT paint;
+        const HDC screen = BeginPaint(GetHWND(), &paint);
+        const RECT& part = paint.rcPaint;
+        wxBitmap picture(std::max<int>(part.right, 1), std::max<int>(part.bottom, 1));
+        wxMemoryDC canvas(picture);
+        const auto memory = reinterpret_cast<WXWPARAM>(canvas.GetHDC());
+        MSWDefWindowProc(WM_ERASEBKGND, memory, 0);
+        MSWDefWindowProc(WM_PAINT, memory, 0);
         RECT header = {};
         ::GetClientRect(ListView_GetHeader(GetHWND()), &header);
-        wxClientDC canvas(this);
+        if (View.RowCount() == 0)
+            DrawEmptyText(canvas, static_cast<int>(header.bottom));
+        else
+            DrawGrid(canvas);
+        ExcludeClipRect(screen, header.left, header.top, header.right, header.bottom);
+        BitBlt(screen, part.left, part.top, part.right - part.left, part.bottom - part.top, canvas.GetHDC(),
+               part.left, part.top, SRCCOPY);
+        EndPaint(GetHWND(), &paint);
+    }
+
+    void DrawGrid(wxDC& canvas) const
+    {
+        const int top = static_cast<int>(GetTopItem());
+        wxRect row;
+        if (!GetItemRect(top, row))
+            return;
+        const int rows = std::min(GetCountPerPage() + 1, GetItemCount() - top); // the last one may be cut
+        const int bottom = row.y + rows * row.height;
+        canvas.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_3DLIGHT)));
+        for (int y = row.y; y <= bottom; y += row.height)
+            canvas.DrawLine(0, y - 1, GetClientSize().x, y - 1);
+        for (int column = 0, x = row.x; column < GetColumnCount(); ++column)
+        {
+            x += GetColumnWidth(column);
+            canvas.DrawLine(x - 1, row.y, x - 1, bottom);
+        }
+    }
+
+    void DrawEmptyText(wxDC& canvas, int top) const
+    {
         canvas.SetFont(GetFont());
         canvas.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
-        const int top = static_cast<int>(header.bottom) + GetCharHeight();
-        canvas.DrawLabel(View.EmptyText(), wxRect(0, top, GetClientSize().x, GetCharHeight()),
+        canvas.DrawLabel(View.EmptyText(),
+                         wxRect(0, top + GetCharHeight(), GetClientSize().x, GetCharHeight()),
                          wxALIGN_CENTRE_HORIZONTAL);
     }
 
