@@ -105,6 +105,7 @@ select_first_course() {
     window=$main
     focus "$main"
     click_at first_row
+    key Home # the list keeps the place of the course that was selected
 }
 
 # first_course_is NAME: opens the course in the list's first row and reads its name.
@@ -394,6 +395,103 @@ start_again() {
     check "a visit without a change leaves every file as it was" test "$(sha256sum "$data"/*.csv)" = "$before"
 }
 
+# A day's work by keyboard alone, with its keys counted.
+
+press() { keys=$((keys + $#)) && key "$@"; }
+write() { keys=$((keys + ${#1})) && type_text "$1"; }
+
+save_editor() {
+    press alt+s
+    closes '^Kolegij$' && focus "$main"
+}
+
+set_credits() {
+    press F2
+    opens '^Kolegij$' || return 1
+    press Tab Tab Tab Tab Tab Tab ctrl+a
+    write "$1"
+    save_editor
+}
+
+# add_by_keyboard NAME: a course of the first semester, direction and lecturer.
+add_by_keyboard() {
+    local number
+    press ctrl+n
+    opens '^Kolegij$' || return 1
+    write "$1"
+    press Tab Tab
+    for number in 2 1 0 5; do
+        press Tab
+        write "$number"
+    done
+    press Tab
+    write obvezni
+    press Tab Down Tab Down Tab Down
+    save_editor
+}
+
+delete_by_keyboard() {
+    press Delete
+    opens '^Potvrda$' || return 1
+    press alt+y
+    closes '^Potvrda$' && focus "$main"
+}
+
+# look_up TEXT NAME: whether the first course found by the text has this name.
+look_up() {
+    local name
+    press ctrl+f
+    write "$1"
+    press Return F2
+    opens '^Kolegij$' || return 1
+    name=$(field_text)
+    press Escape
+    closes '^Kolegij$' && focus "$main" && [[ $name == "$2" ]]
+}
+
+# Adds, changes, deletes and looks up five courses each: no key is pressed to find a place in the list again.
+day_by_keyboard() {
+    local keys=0 i before
+    before=$(mktemp)
+    cp "$data/db_kolegij.csv" "$before"
+    start_program
+    shows "the program opens for a day's work" "$main_title"
+    main=$window
+    use_croatian_keyboard
+    press Return # from the search box to the first course
+    for i in 1 2 3 4 5; do
+        check "course $i of the day is added" add_by_keyboard "Novi $i"
+        check "the new course is selected, and changed" set_credits 8
+    done
+    press Home
+    for i in 1 2 3 4 5; do
+        check "course $i is changed" set_credits 9
+        press Down
+    done
+    for i in 6 7 8 9 10; do
+        check "course $i is deleted" delete_by_keyboard
+    done
+    check "a course is found" look_up 'baze' 'Baze podataka'
+    check "another is found" look_up 'crtanje' 'Tehničko crtanje i CAD'
+    check "a third is found" look_up 'vodni' 'Željeznički i vodni prijevoz'
+    check "a fourth is found" look_up 'novi 3' 'Novi 3'
+    check "a fifth is found" look_up 'novi 5' 'Novi 5'
+    picture day-done
+    press alt+i
+    check "Izlaz ends the program" ended_well
+    check "the file holds the whole day's work" day_is_saved "$before"
+    rm "$before"
+    echo "# keys pressed in the day: $keys"
+}
+
+# day_is_saved FORMER: whether the file of courses has the former ones but the deleted ones, the five changed ones with nine credits, the new ones.
+day_is_saved() {
+    diff <(
+        awk -F ';' -v OFS=';' '$1 >= 6 && $1 <= 10 { next } $1 >= 1 && $1 <= 5 { $6 = 9 } { print }' "$1"
+        for i in 1 2 3 4 5; do printf '%d;Novi %d;2;1;0;8;obvezni;1;1\r\n' $((new_id + i)) "$i"; done
+    ) "$data/db_kolegij.csv"
+}
+
 # through_the_program: from the first look at the catalogue to the last.
 through_the_program() {
     mkdir -p "$exports"
@@ -414,6 +512,7 @@ through_the_program() {
     about
     leave
     start_again
+    day_by_keyboard
 }
 
 # splash_shown: the splash lasts a second, too short to wait for stillness.
