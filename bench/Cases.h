@@ -3,8 +3,8 @@
 #include "Sqlite.h"
 #include "Workplace.h"
 
+#include "data/Choice.h"
 #include "data/System.h"
-#include "lists/Choice.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
 #include "ui/main/CourseList.h"

@@ -1,8 +1,8 @@
 #include "Generator.h"
 
 #include "data/Files.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <random>

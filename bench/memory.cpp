@@ -1,6 +1,6 @@
+#include "data/Choice.h"
 #include "data/Errors.h"
-#include "lists/Choice.h"
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
 #include "ui/main/CourseList.h"

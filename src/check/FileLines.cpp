@@ -1,6 +1,6 @@
 #include "check/FileLines.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 namespace Check
 {

@@ -4,9 +4,9 @@
 #include "check/Letters.h"
 #include "check/Quotes.h"
 #include "check/Values.h"
-#include "data/Numbers.h"
 #include "data/Windows1250.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
 
 #include <utility>
 

@@ -1,9 +1,9 @@
 #include "check/Letters.h"
 
 #include "check/FileLines.h"
-#include "data/Text.h"
 #include "data/Windows1250.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "check/RowRules.h"
 
 #include "check/Values.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "data/Errors.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 #include "data/Table.h"
 
 #include "data/Errors.h"
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <utility>

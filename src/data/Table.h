@@ -2,7 +2,7 @@
 
 #include "data/ColumnIndex.h"
 #include "data/Errors.h"
-#include "data/Numbers.h"
+#include "text/Numbers.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "data/Windows1250.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <array>
 #include <cstddef>

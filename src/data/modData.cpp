@@ -4,11 +4,11 @@
 #include "data/DatedCopies.h"
 #include "data/Errors.h"
 #include "data/Files.h"
-#include "data/Numbers.h"
 #include "data/Product.h"
 #include "data/System.h"
-#include "data/Text.h"
 #include "data/Windows1250.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <filesystem>

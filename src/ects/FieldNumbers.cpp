@@ -1,6 +1,6 @@
 #include "ects/FieldNumbers.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>

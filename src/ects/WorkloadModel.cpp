@@ -1,9 +1,9 @@
 #include "ects/WorkloadModel.h"
 
 #include "data/Errors.h"
-#include "data/Numbers.h"
-#include "data/Text.h"
 #include "ects/FieldNumbers.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,8 +3,8 @@
 #include "ects/frmECTSCalc.h"
 
 #include "ects/WorkloadLabels.h"
+#include "ui/controls/AccessibleName.h"
 #include "ui/controls/Controls.h"
-#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>

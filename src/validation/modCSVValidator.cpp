@@ -1,8 +1,8 @@
 #include "validation/modCSVValidator.h"
 
-#include "data/Numbers.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <string_view>
 

@@ -2,7 +2,7 @@
 
 #include "data/Errors.h"
 #include "data/Windows1250.h"
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
 #include "ui/main/CourseList.h"

@@ -1,6 +1,6 @@
-#include "data/Numbers.h"
 #include "ects/FieldNumbers.h"
 #include "fuzz/Fuzz.h"
+#include "text/Numbers.h"
 
 #include <cmath>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "data/System.h"
 #include "data/modData.h"
-#include "support/LoadWindows.h"
+#include "support/TeachingLoadWindows.h"
 #include "ui/lecturer_stats/frmStatNositelji.h"
 
 #include <wx/uiaction.h>

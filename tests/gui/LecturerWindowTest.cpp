@@ -5,7 +5,7 @@
 #include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/FolderState.h"
-#include "support/LoadWindows.h"
+#include "support/TeachingLoadWindows.h"
 #include "ui/department_stats/frmStatZavodi.h"
 
 #include <wx/uiaction.h>

@@ -1,9 +1,9 @@
 // One pass over every window: what a screen reader says, and whether all that is shown can be read.
 
+#include "support/AccessibleName.h"
 #include "support/EveryWindow.h"
 #include "support/ListWindow.h"
 #include "support/NamedFont.h"
-#include "support/SpokenName.h"
 #include "support/TextScale.h"
 
 #include <wx/button.h>

@@ -1,7 +1,7 @@
 #include "reference/Scan.h"
 
 #include "data/Errors.h"
-#include "data/Numbers.h"
+#include "text/Numbers.h"
 
 #include <iterator>
 

@@ -1,8 +1,8 @@
 #include "reference/Scan.h"
 
 #include "data/Errors.h"
-#include "data/Numbers.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
 
 #include <array>
 #include <limits>

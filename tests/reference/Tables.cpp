@@ -2,10 +2,10 @@
 
 #include "data/Errors.h"
 #include "data/Files.h"
-#include "data/Numbers.h"
 #include "data/System.h"
 #include "data/Windows1250.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
 
 #include <algorithm>
 #include <limits>

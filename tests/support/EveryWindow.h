@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 #include "support/Windows.h"
 #include "ui/main/frmMain.h"
 

@@ -3,7 +3,7 @@
 #include "data/Errors.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "data/Files.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "data/Numbers.h"
+#include "text/Numbers.h"
 #include "data/Errors.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "data/Text.h"
+#include "text/Text.h"
 #include "data/Windows1250.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "ui/controls/ListView.h"
 
+#include "ui/controls/AccessibleName.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/NativeList.h"
-#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/sizer.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <wx/containr.h>
 #include <wx/window.h>

@@ -1,9 +1,9 @@
 #include "ui/course_editor/CourseEntry.h"
 
-#include "data/Numbers.h"
-#include "data/Text.h"
+#include "data/TableChoices.h"
 #include "data/modData.h"
-#include "lists/TableChoices.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <string_view>

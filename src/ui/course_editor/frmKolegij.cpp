@@ -1,7 +1,7 @@
 #include "ui/course_editor/frmKolegij.h"
 
-#include "data/Numbers.h"
-#include "lists/TableChoices.h"
+#include "data/TableChoices.h"
+#include "text/Numbers.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"

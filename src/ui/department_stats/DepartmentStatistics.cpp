@@ -1,8 +1,8 @@
 #include "ui/department_stats/DepartmentStatistics.h"
 
+#include "data/Choice.h"
 #include "data/modData.h"
-#include "lists/Choice.h"
-#include "statistics/TaughtCourses.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 namespace
 {

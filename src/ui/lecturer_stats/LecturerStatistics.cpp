@@ -1,8 +1,8 @@
 #include "ui/lecturer_stats/LecturerStatistics.h"
 
+#include "data/Choice.h"
 #include "data/modData.h"
-#include "lists/Choice.h"
-#include "statistics/TaughtCourses.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 namespace
 {

@@ -1,7 +1,6 @@
 #include "ui/lecturer_stats/frmStatNositelji.h"
 
-#include "lists/TableChoices.h"
-#include "statistics/TaughtCourses.h"
+#include "data/TableChoices.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
@@ -10,6 +9,7 @@
 #include "ui/controls/ListView.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 #include <wx/button.h>
 #include <wx/choice.h>

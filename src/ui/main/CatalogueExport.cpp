@@ -2,8 +2,8 @@
 
 #include "data/Files.h"
 #include "data/Lookups.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 #include <string>
 #include <vector>

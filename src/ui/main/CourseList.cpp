@@ -2,9 +2,9 @@
 
 #include "data/Errors.h"
 #include "data/Lookups.h"
-#include "data/Numbers.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/Table.h"
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <cstdint>
 #include <optional>

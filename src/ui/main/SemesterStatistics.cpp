@@ -1,9 +1,9 @@
 #include "ui/main/SemesterStatistics.h"
 
 #include "data/Errors.h"
-#include "data/Numbers.h"
 #include "data/modData.h"
-#include "statistics/LoadTable.h"
+#include "statistics/TeachingLoad.h"
+#include "text/Numbers.h"
 
 namespace
 {

@@ -2,8 +2,8 @@
 
 #include "data/Product.h"
 #include "data/modData.h"
+#include "ui/controls/AccessibleName.h"
 #include "ui/controls/Controls.h"
-#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>

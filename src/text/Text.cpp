@@ -1,4 +1,4 @@
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>

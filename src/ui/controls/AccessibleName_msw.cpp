@@ -1,6 +1,6 @@
 // Names for screen readers on Windows: an accessible object that answers for the name alone.
 
-#include "ui/controls/SpokenName.h"
+#include "ui/controls/AccessibleName.h"
 
 #include "ui/controls/Controls.h"
 #include "ui/controls/Strings.h"

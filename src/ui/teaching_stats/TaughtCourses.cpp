@@ -1,4 +1,4 @@
-#include "statistics/TaughtCourses.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 #include "data/Errors.h"
 #include "data/Files.h"

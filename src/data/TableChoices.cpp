@@ -1,7 +1,7 @@
-#include "lists/TableChoices.h"
+#include "data/TableChoices.h"
 
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
-#include "lists/CroatianOrder.h"
+#include "text/CroatianOrder.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <array>
 #include <cstddef>

@@ -2,7 +2,7 @@
 
 #include "support/Catalogue.h"
 #include "support/ListWindow.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 #include "support/Windows.h"
 #include "ui/main/frmMain.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "data/Numbers.h"
 #include "data/Table.h"
-#include "lists/ListModel.h"
-#include "statistics/LoadTable.h"
+#include "statistics/TeachingLoad.h"
+#include "text/Numbers.h"
+#include "ui/controls/ListModel.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,6 +1,6 @@
 // Names for screen readers on GTK.
 
-#include "ui/controls/SpokenName.h"
+#include "ui/controls/AccessibleName.h"
 
 #include "ui/controls/NativeFunction_gtk.h"
 #include "ui/controls/Strings.h"

@@ -1,7 +1,7 @@
-#include "data/Numbers.h"
+#include "text/Numbers.h"
 
 #include "data/Errors.h"
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
-#include "statistics/LoadTable.h"
+#include "statistics/TeachingLoad.h"
 
-#include "data/Numbers.h"
-#include "data/Text.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <iterator>
 #include <string>

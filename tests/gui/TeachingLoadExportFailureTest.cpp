@@ -1,7 +1,7 @@
 // The exports of teaching load in the whole program: an error in writing ends it with the last report.
 
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 #include "support/Windows.h"
 
 #include <wx/filename.h>

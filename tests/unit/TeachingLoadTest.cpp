@@ -1,4 +1,4 @@
-#include "statistics/LoadTable.h"
+#include "statistics/TeachingLoad.h"
 
 #include "data/Errors.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lists/ListModel.h"
 #include "support/TestFolder.h"
+#include "ui/controls/ListModel.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,7 +1,7 @@
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
-#include "data/Text.h"
-#include "lists/CroatianOrder.h"
+#include "text/CroatianOrder.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <numeric>
