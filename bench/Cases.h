@@ -45,7 +45,7 @@ struct Bench
     std::vector<std::string> TablePaths() const
     {
         std::vector<std::string> paths;
-        for (const Table* table : modData::AllTables())
+        for (const modData::Table* table : modData::AllTables())
             paths.push_back(Place.DataFolder() + "/" + std::string(table->Layout().FileName));
         return paths;
     }

@@ -114,7 +114,7 @@ private:
 class TableFile
 {
 public:
-    explicit TableFile(const TableLayout& layout) : Layout(layout) { File.AddLine(layout.Header()); }
+    explicit TableFile(const modData::TableLayout& layout) : Layout(layout) { File.AddLine(layout.Header()); }
 
     void Add(const std::vector<std::string>& fields) { File.AddLine(Joined(fields, ";")); }
 
@@ -125,7 +125,7 @@ public:
     }
 
 private:
-    const TableLayout& Layout;
+    const modData::TableLayout& Layout;
     TextFile File;
 };
 
@@ -282,7 +282,7 @@ private:
 
     /// The links in course order, except that those of some courses stand at the end: editing a course moves
     /// them there.
-    TableFile LinkFile(const TableLayout& layout, const std::vector<Fields>& links)
+    TableFile LinkFile(const modData::TableLayout& layout, const std::vector<Fields>& links)
     {
         TableFile file(layout);
         std::vector<const Fields*> edited;

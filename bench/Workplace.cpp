@@ -45,7 +45,7 @@ void Workplace::Enter()
 
     // The tables that were in use go back to their own workplace.
     if (Entered != nullptr)
-        for (Table* table : modData::AllTables())
+        for (modData::Table* table : modData::AllTables())
             Entered->Tables.push_back(std::move(*table));
     if (Tables.empty())
         modData::LoadAllTables();

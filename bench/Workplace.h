@@ -33,6 +33,6 @@ public:
 private:
     CatalogueSize Fixed;
     std::filesystem::path Folder;
-    std::vector<Table> Tables; // while another workplace is entered
+    std::vector<modData::Table> Tables; // while another workplace is entered
     std::unique_ptr<reference::Catalogue> PlainTables;
 };

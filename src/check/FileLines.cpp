@@ -38,7 +38,9 @@ bool IsSeparatorsOnly(std::string_view line)
     return line.find_first_not_of("; ") == std::string_view::npos && line.find(';') != std::string_view::npos;
 }
 
-EditorLines::EditorLines(std::string_view bytes, const TableLayout& layout) : Bytes(bytes), Layout(layout)
+EditorLines::EditorLines(std::string_view bytes, const modData::TableLayout& layout)
+    : Bytes(bytes),
+      Layout(layout)
 {
     if (!HasLoneLF(bytes))
         return;

@@ -55,7 +55,7 @@ bool IsSeparatorsOnly(std::string_view line);
 class EditorLines
 {
 public:
-    EditorLines(std::string_view bytes, const TableLayout& layout);
+    EditorLines(std::string_view bytes, const modData::TableLayout& layout);
 
     FieldPlace Shown(FieldPlace place) const;
 
@@ -67,7 +67,7 @@ private:
     };
 
     std::string_view Bytes;
-    const TableLayout& Layout;
+    const modData::TableLayout& Layout;
     std::vector<Start> Starts; // of the table's lines; none where both count alike
 };
 

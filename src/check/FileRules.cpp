@@ -32,7 +32,7 @@ constexpr std::string_view WordsOfQuotedEnd = "polje u navodnicima sadrži točk
 class FileRules
 {
 public:
-    FileRules(std::string_view bytes, const TableLayout& layout, Findings& findings)
+    FileRules(std::string_view bytes, const modData::TableLayout& layout, Findings& findings)
         : Bytes(bytes),
           Layout(layout),
           Found(findings),
@@ -84,7 +84,7 @@ private:
         const std::string header = Layout.Header();
         if (line == header)
             return;
-        for (const Table* table : modData::AllTables())
+        for (const modData::Table* table : modData::AllTables())
             if (line == table->Layout().Header())
                 return Add(Group::Danger, 1,
                            "zaglavlje je od datoteke " + std::string(table->Layout().FileName) + ": " +
@@ -152,7 +152,7 @@ private:
     }
 
     std::string_view Bytes;
-    const TableLayout& Layout;
+    const modData::TableLayout& Layout;
     Findings& Found;
     Writing Written;
     std::size_t LoneLFs = 0;
@@ -164,7 +164,7 @@ private:
 
 } // namespace
 
-void FindInFile(std::string_view bytes, const TableLayout& layout, Findings& findings)
+void FindInFile(std::string_view bytes, const modData::TableLayout& layout, Findings& findings)
 {
     if (!bytes.empty())
         FileRules(bytes, layout, findings).Run();

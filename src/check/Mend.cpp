@@ -49,7 +49,7 @@ bool IsWholeRow(const FileLine& record, std::size_t columns)
 class RecordMender
 {
 public:
-    RecordMender(const TableLayout& layout, bool isUtf8, Mended& result)
+    RecordMender(const modData::TableLayout& layout, bool isUtf8, Mended& result)
         : Layout(layout),
           Columns(layout.Columns.size()),
           IsUtf8(isUtf8),
@@ -152,7 +152,7 @@ private:
         return text;
     }
 
-    const TableLayout& Layout;
+    const modData::TableLayout& Layout;
     std::size_t Columns;
     bool IsUtf8;
     Mended& Result;
@@ -176,7 +176,7 @@ std::string WhyLettersStay(std::string_view bytes, const Writing& writing)
     return {};
 }
 
-Mended MendOnce(std::string_view bytes, const TableLayout& layout)
+Mended MendOnce(std::string_view bytes, const modData::TableLayout& layout)
 {
     const auto told = [&](std::string text) {
         return std::vector<Change>{{{layout.FileName, 0, {}}, std::move(text)}};
@@ -204,7 +204,7 @@ Mended MendOnce(std::string_view bytes, const TableLayout& layout)
 
 } // namespace
 
-Mended Mend(std::string_view bytes, const TableLayout& layout)
+Mended Mend(std::string_view bytes, const modData::TableLayout& layout)
 {
     Mended mended = MendOnce(bytes, layout);
     if (mended.Changes.empty() || MendOnce(mended.Bytes, layout).Changes.empty())

@@ -1,10 +1,15 @@
 #include "data/Table.h"
 
+#include "data/CheckedNumbers.h"
 #include "data/Errors.h"
+#include "text/Numbers.h"
 #include "text/Text.h"
 
 #include <algorithm>
 #include <utility>
+
+namespace modData
+{
 
 namespace
 {
@@ -33,11 +38,11 @@ std::int32_t Row::Number(std::size_t column, Conversion conversion) const
     if (conversion == Conversion::Safe)
         return ToLongOrZero(text);
     std::int32_t value = 0;
-    const NumberReading reading = ReadLong(text, value);
-    if (reading == NumberReading::NotNumeric)
+    const NumberKind reading = ParseLong(text, value);
+    if (reading == NumberKind::NotNumeric)
         throw TypeMismatch(text, Place(column));
-    if (reading == NumberReading::TooLarge)
-        throw Overflow(text, Place(column));
+    if (reading == NumberKind::TooLarge)
+        throw OverflowError(text, Place(column));
     return value;
 }
 
@@ -154,7 +159,7 @@ Table::IndexedColumn Table::MakeIndex(std::size_t column) const
         if (column >= row.FieldCount())
             break;
         std::int32_t number = 0;
-        if (ReadLong(row.Field(column), number) != NumberReading::Whole && !numbersEnd)
+        if (ParseLong(row.Field(column), number) != NumberKind::Whole && !numbersEnd)
             numbersEnd = numbers.size();
         numbers.push_back(number);
     }
@@ -172,3 +177,5 @@ const Table::IndexedColumn& Table::Indexed(std::size_t column) const
         indexed = MakeIndex(column);
     return *indexed;
 }
+
+} // namespace modData

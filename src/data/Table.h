@@ -1,8 +1,8 @@
 #pragma once
 
+#include "data/CheckedNumbers.h"
 #include "data/ColumnIndex.h"
 #include "data/Errors.h"
-#include "text/Numbers.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -14,6 +14,9 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace modData
+{
 
 /// What the program knows of a table's file: its name in the data folder and its columns.
 struct TableLayout
@@ -189,3 +192,5 @@ private:
     std::vector<Row> Rows;
     mutable std::vector<std::optional<IndexedColumn>> m_indexes; // by column; none after a change
 };
+
+} // namespace modData

@@ -145,7 +145,7 @@ void WorkloadModel::UpdateWarnings()
 {
     const std::string_view warning = FirstWarning();
     Fields.Upozorenje = warning.empty() ? NoWarning : warning;
-    Fields.BojaUpozorenja = warning.empty() ? Blue : Red;
+    Fields.BojaUpozorenja = warning.empty() ? ListColours::Blue : ListColours::Red;
 }
 
 std::string_view WorkloadModel::FirstWarning() const

@@ -97,7 +97,7 @@ struct WorkloadFields
     std::string SatiPoEcts; ///< The chosen hours per point; empty when none is chosen.
 
     std::string_view Upozorenje;
-    ListColour BojaUpozorenja = Red;
+    ListColour BojaUpozorenja = ListColours::Red;
 };
 
 /// Estimates a student's workload for a course, in hours a semester, and turns it into ECTS points. Every

@@ -78,7 +78,7 @@ void frmECTSCalc::OnLostFocus(std::span<wxTextCtrl* const> boxes, const std::fun
 void frmECTSCalc::Form_Load()
 {
     CenterForm(*this);
-    lblUpozorenje->SetForegroundColour(wxColour(Red));
+    lblUpozorenje->SetForegroundColour(wxColour(ListColours::Red));
     for (const std::string_view hours : HoursPerEctsChoices)
         cbo1ECTS->Append(ToWx(hours));
     cbo1ECTS->SetSelection(InitialHoursPerEcts);

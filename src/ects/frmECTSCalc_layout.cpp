@@ -42,7 +42,7 @@ wxFlexGridSizer* NewGrid(const wxWindow* window, int columns)
 void AddHeads(wxFlexGridSizer& grid, wxWindow* parent, std::span<const std::string_view> captions)
 {
     for (const std::string_view caption : captions)
-        grid.Add(NewRemark(parent, "lblHead", caption), wxSizerFlags().CenterVertical());
+        grid.Add(NewCaption(parent, "lblHead", caption), wxSizerFlags().CenterVertical());
 }
 
 /// Adds the label of the box that follows.
@@ -56,7 +56,7 @@ wxStaticText* AddLabel(wxFlexGridSizer& grid, wxWindow* parent, std::string_view
 /// Adds the caption of a row whose boxes are named each for itself.
 void AddRowCaption(wxFlexGridSizer& grid, wxWindow* parent, std::string_view caption)
 {
-    grid.Add(NewRemark(parent, "lblRow", caption), wxSizerFlags().CenterVertical());
+    grid.Add(NewCaption(parent, "lblRow", caption), wxSizerFlags().CenterVertical());
 }
 
 /// Adds a box that the label before it names.
@@ -69,7 +69,7 @@ void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box)
 void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box, std::string_view outer, std::string_view own)
 {
     AddBox(grid, box);
-    SetSpokenName(*box, std::string(outer) + ", " + std::string(own));
+    SetAccessibleName(*box, std::string(outer) + ", " + std::string(own));
 }
 
 /// A box that shows a figure. Tab does not stop at it: there is nothing to type.
@@ -101,7 +101,7 @@ frmECTSCalc::frmECTSCalc(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(EctsCaption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmECTSCalc");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
     Panel = new wxScrolledWindow(this, wxID_ANY);
 
     // The controls are made in tab order: column by column, then the results and the commands. They are the
@@ -125,7 +125,7 @@ frmECTSCalc::frmECTSCalc(wxWindow* parent)
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(columns, wxSizerFlags(1).Expand());
     content->Add(TotalsFrame(), below);
-    content->Add(lblUpozorenje = NewRemark(Panel, "lblUpozorenje", ""), below);
+    content->Add(lblUpozorenje = NewCaption(Panel, "lblUpozorenje", ""), below);
     content->Add(CommandRow(), below);
     auto* margin = new wxBoxSizer(wxVERTICAL);
     margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap(this)));
@@ -248,7 +248,7 @@ wxSizer* frmECTSCalc::WrittenFrame()
     AddBox(*grid, txtPismeniProcjena = NewField("txtPismeniProcjena", Fields.PismeniProcjena));
     AddWide(*frame, grid);
     auto* note = new wxBoxSizer(wxHORIZONTAL);
-    note->Add(NewRemark(Panel, "lblPismeniNormativ", WrittenNormNote));
+    note->Add(NewCaption(Panel, "lblPismeniNormativ", WrittenNormNote));
     AddWide(*frame, note);
     return frame;
 }
@@ -294,7 +294,7 @@ wxSizer* frmECTSCalc::CommandRow()
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     AddLabelled(*row, Panel, "lbl1ECTS", "1 ECTS",
                 [this] { return cbo1ECTS = NewChoice(Panel, "cbo1ECTS", 4); });
-    row->Add(NewRemark(Panel, "lblSati", "sati"), wxSizerFlags().CenterVertical());
+    row->Add(NewCaption(Panel, "lblSati", "sati"), wxSizerFlags().CenterVertical());
     row->AddStretchSpacer();
     const auto add = [&](std::string_view name, std::string_view caption)
     {

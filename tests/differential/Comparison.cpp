@@ -20,7 +20,7 @@ namespace
 std::vector<std::string> ProgramRows()
 {
     std::vector<std::string> lines;
-    for (const Table* table : modData::AllTables())
+    for (const modData::Table* table : modData::AllTables())
         for (const std::string& line : LinesOf(*table))
             lines.push_back(std::string(table->Layout().FileName) + ": " + line);
     return lines;
@@ -238,17 +238,17 @@ bool Comparison::CompareLoadOf(std::int32_t id, const reference::Catalogue& cata
                [&] { return LecturerCourseRows(id, ofLecturer); },
                [&] { return reference::LecturerCourseRows(catalogue, id, ofLecturer); }) &&
            Ask(
-               "LecturerLoadRows" + Shown(ofLecturer) + argument,
-               [&] { return LecturerLoadRows(id, ofLecturer); },
-               [&] { return reference::LecturerLoadRows(catalogue, id, ofLecturer); }) &&
+               "LecturerTeachingLoadRows" + Shown(ofLecturer) + argument,
+               [&] { return LecturerTeachingLoadRows(id, ofLecturer); },
+               [&] { return reference::LecturerTeachingLoadRows(catalogue, id, ofLecturer); }) &&
            Ask(
                "DepartmentCourseRows" + Shown(ofDepartment) + argument,
                [&] { return DepartmentCourseRows(id, ofDepartment); },
                [&] { return reference::DepartmentCourseRows(catalogue, id, ofDepartment); }) &&
            Ask(
-               "DepartmentLoadRows" + Shown(ofDepartment) + argument,
-               [&] { return DepartmentLoadRows(id, ofDepartment); },
-               [&] { return reference::DepartmentLoadRows(catalogue, id, ofDepartment); });
+               "DepartmentTeachingLoadRows" + Shown(ofDepartment) + argument,
+               [&] { return DepartmentTeachingLoadRows(id, ofDepartment); },
+               [&] { return reference::DepartmentTeachingLoadRows(catalogue, id, ofDepartment); });
 }
 
 bool Comparison::CompareExports(const reference::Catalogue& catalogue)

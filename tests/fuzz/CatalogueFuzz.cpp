@@ -4,7 +4,6 @@
 #include "fuzz/Fuzz.h"
 #include "support/Lists.h"
 #include "support/TestFolder.h"
-#include "text/Numbers.h"
 #include "ui/course_editor/CourseEntry.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
@@ -19,7 +18,7 @@
 namespace
 {
 
-const std::array<Table*, 7> Tables = modData::AllTables();
+const std::array<modData::Table*, 7> Tables = modData::AllTables();
 
 /// Stands between the files of an input: no text has it.
 constexpr char BetweenFiles = '\x01';
@@ -45,9 +44,9 @@ void RefreshEverything()
         for (const char* razina : {"Svi", "Diplomski"})
         {
             Succeeds([&] { LecturerCourseRows(id, {razina, "Svi"}); });
-            Succeeds([&] { LecturerLoadRows(id, {razina, "Svi"}); });
+            Succeeds([&] { LecturerTeachingLoadRows(id, {razina, "Svi"}); });
             Succeeds([&] { DepartmentCourseRows(id, {razina, "Svi"}); });
-            Succeeds([&] { DepartmentLoadRows(id, {razina, "Zimski"}); });
+            Succeeds([&] { DepartmentTeachingLoadRows(id, {razina, "Zimski"}); });
         }
         Succeeds([&] { SmjerChoices(id); });
         Succeeds([&] { EntryOf(id); });

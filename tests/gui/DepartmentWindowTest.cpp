@@ -15,10 +15,10 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-class DepartmentWindow : public LoadWindowTest<frmStatZavodi>
+class DepartmentWindow : public TeachingLoadWindowTest<frmStatZavodi>
 {
 protected:
-    DepartmentWindow() : LoadWindowTest("cmdStatZavodi") {}
+    DepartmentWindow() : TeachingLoadWindowTest("cmdStatZavodi") {}
 
     wxListBox* Semestri() { return Find<wxListBox>(Stat, "lstSemestri"); }
     ListView* Kolegiji() { return List("lvwKolegiji"); }

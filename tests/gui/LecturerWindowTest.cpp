@@ -17,10 +17,10 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-class LecturerWindow : public LoadWindowTest<frmStatNositelji>
+class LecturerWindow : public TeachingLoadWindowTest<frmStatNositelji>
 {
 protected:
-    LecturerWindow() : LoadWindowTest("cmdStatNositelji") {}
+    LecturerWindow() : TeachingLoadWindowTest("cmdStatNositelji") {}
 
     wxListBox* Nastavnici() { return Find<wxListBox>(Stat, "lstNastavnici"); }
     ListView* Kolegiji() { return List("lvwKolegiji"); }

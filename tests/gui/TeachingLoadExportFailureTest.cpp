@@ -18,16 +18,16 @@ struct Outcome
 };
 
 /// By the button that opens the window of load.
-class LoadExportInProgram : public testing::TestWithParam<const char*>
+class TeachingLoadExportInProgram : public testing::TestWithParam<const char*>
 {
 protected:
-    LoadExportInProgram()
+    TeachingLoadExportInProgram()
     {
         SmallCatalogue().WriteTo(Folder.Data());
         // A blank line, which saving drops: it tells whether the program has saved.
         WriteBytes(Folder.Data() / "db_zavod.csv", Unsaved);
     }
-    ~LoadExportInProgram() override { SetEnvironment("VARLO_EXPORT_LOAD", ""); }
+    ~TeachingLoadExportInProgram() override { SetEnvironment("VARLO_EXPORT_LOAD", ""); }
 
     static Outcome Run()
     {
@@ -46,7 +46,7 @@ protected:
     TestFolder Folder;
 };
 
-TEST_P(LoadExportInProgram, WrittenItTellsAndGoesOn)
+TEST_P(TeachingLoadExportInProgram, WrittenItTellsAndGoesOn)
 {
     const Outcome outcome = Run();
     EXPECT_EQ(outcome.ExitCode, 0);
@@ -57,7 +57,7 @@ TEST_P(LoadExportInProgram, WrittenItTellsAndGoesOn)
     EXPECT_TRUE(HasSaved());
 }
 
-TEST_P(LoadExportInProgram, AFileThatMayNotBeWrittenEndsTheProgramAndStays)
+TEST_P(TeachingLoadExportInProgram, AFileThatMayNotBeWrittenEndsTheProgramAndStays)
 {
     WriteBytes(Folder.Path() / "load.csv", "older");
     const ReadOnly marked(Folder.Path() / "load.csv");
@@ -71,7 +71,7 @@ TEST_P(LoadExportInProgram, AFileThatMayNotBeWrittenEndsTheProgramAndStays)
     EXPECT_FALSE(HasSaved());
 }
 
-TEST_P(LoadExportInProgram, AFolderInTheFilesPlaceEndsTheProgram)
+TEST_P(TeachingLoadExportInProgram, AFolderInTheFilesPlaceEndsTheProgram)
 {
     std::filesystem::create_directory(Folder.Path() / "load.csv");
     const Outcome outcome = Run();
@@ -81,6 +81,7 @@ TEST_P(LoadExportInProgram, AFolderInTheFilesPlaceEndsTheProgram)
     EXPECT_FALSE(HasSaved());
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, LoadExportInProgram, testing::Values("cmdStatNositelji", "cmdStatZavodi"));
+INSTANTIATE_TEST_SUITE_P(Windows, TeachingLoadExportInProgram,
+                         testing::Values("cmdStatNositelji", "cmdStatZavodi"));
 
 } // namespace

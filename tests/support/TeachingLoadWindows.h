@@ -47,10 +47,10 @@ inline void GoDown(wxControlWithItems* box)
 
 /// A main window on a test's data, and the window of load that its button opens.
 template<typename Window>
-class LoadWindowTest : public testing::Test
+class TeachingLoadWindowTest : public testing::Test
 {
 protected:
-    explicit LoadWindowTest(const char* button) : Button(button) {}
+    explicit TeachingLoadWindowTest(const char* button) : Button(button) {}
 
     void TearDown() override { CloseAllWindows(); }
 

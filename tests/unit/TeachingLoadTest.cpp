@@ -19,7 +19,7 @@ std::string Shown(const ListRow& row)
     for (const ListCell& cell : row)
     {
         shown += shown.empty() ? "" : "|";
-        shown += (cell.Bold ? "*" : "") + std::string(cell.Colour == Red ? "!" : "") + cell.Text;
+        shown += (cell.Bold ? "*" : "") + std::string(cell.Colour == ListColours::Red ? "!" : "") + cell.Text;
     }
     return shown;
 }
@@ -34,7 +34,7 @@ std::vector<std::string> Shown(const std::vector<ListRow>& rows)
 
 // Types
 
-TEST(LoadTable, ATypeIsRecognisedInAnyCaseAndWithBlanksAround)
+TEST(TeachingLoad, ATypeIsRecognisedInAnyCaseAndWithBlanksAround)
 {
     for (const OtherTypes others : {OtherTypes::CountAsElective, OtherTypes::DoNotCount})
     {
@@ -45,7 +45,7 @@ TEST(LoadTable, ATypeIsRecognisedInAnyCaseAndWithBlanksAround)
     }
 }
 
-TEST(LoadTable, AnyOtherTypeIsElectiveOrDoesNotCount)
+TEST(TeachingLoad, AnyOtherTypeIsElectiveOrDoesNotCount)
 {
     for (const char* text : {"", "  ", "fakultativni", "obvezni.", "obv ezni"})
     {
@@ -56,7 +56,7 @@ TEST(LoadTable, AnyOtherTypeIsElectiveOrDoesNotCount)
 
 // Sums
 
-void ExpectLoad(const Load& load, std::int32_t p, std::int32_t s, std::int32_t v, std::int32_t ects,
+void ExpectLoad(const TeachingLoad& load, std::int32_t p, std::int32_t s, std::int32_t v, std::int32_t ects,
                 std::int32_t count)
 {
     EXPECT_EQ(load.P, p);
@@ -66,35 +66,35 @@ void ExpectLoad(const Load& load, std::int32_t p, std::int32_t s, std::int32_t v
     EXPECT_EQ(load.Kolegija, count);
 }
 
-TEST(LoadTable, LoadsAddAndMultiplyFieldByField)
+TEST(TeachingLoad, LoadsAddAndMultiplyFieldByField)
 {
-    Load load{1, 2, 3, 4, 5};
-    load += Load{10, 20, 30, 40, 50};
+    TeachingLoad load{1, 2, 3, 4, 5};
+    load += TeachingLoad{10, 20, 30, 40, 50};
     ExpectLoad(load, 11, 22, 33, 44, 55);
     ExpectLoad(load.Times(3), 33, 66, 99, 132, 165);
     ExpectLoad(load.Times(0), 0, 0, 0, 0, 0);
 }
 
-TEST(LoadTable, ASumOrProductThatDoesNotFitIsAnErrorInEveryField)
+TEST(TeachingLoad, ASumOrProductThatDoesNotFitIsAnErrorInEveryField)
 {
-    const Load large[] = {
+    const TeachingLoad large[] = {
         {.P = Largest}, {.S = Largest}, {.V = Largest}, {.ECTS = Largest}, {.Kolegija = Largest}};
-    const Load one = {1, 1, 1, 1, 1};
-    for (Load load : large)
+    const TeachingLoad one = {1, 1, 1, 1, 1};
+    for (TeachingLoad load : large)
     {
-        EXPECT_THROW(load += one, Overflow);
-        EXPECT_THROW(load.Times(2), Overflow);
+        EXPECT_THROW(load += one, OverflowError);
+        EXPECT_THROW(load.Times(2), OverflowError);
         EXPECT_NO_THROW(load.Times(1));
     }
-    Load small = {.P = -Largest};
-    small += Load{.P = -1};
+    TeachingLoad small = {.P = -Largest};
+    small += TeachingLoad{.P = -1};
     EXPECT_EQ(small.P, std::numeric_limits<std::int32_t>::min());
-    EXPECT_THROW(small += Load{.P = -1}, Overflow);
+    EXPECT_THROW(small += TeachingLoad{.P = -1}, OverflowError);
 }
 
-TEST(LoadTable, SumsKeepSemestersAndTypesApart)
+TEST(TeachingLoad, SumsKeepSemestersAndTypesApart)
 {
-    LoadSums sums;
+    TeachingLoadSums sums;
     sums.Add(1, Tip::Obvezni, {1, 0, 0, 5, 1});
     sums.Add(1, Tip::Obvezni, {2, 1, 0, 6, 1});
     sums.Add(1, Tip::Izborni, {4, 0, 0, 3, 1});
@@ -107,9 +107,9 @@ TEST(LoadTable, SumsKeepSemestersAndTypesApart)
     ExpectLoad(sums.Total(Tip::Izborni, 5), 4, 0, 0, 3, 1);
 }
 
-TEST(LoadTable, SemestersThatAreNoneAreLeftOut)
+TEST(TeachingLoad, SemestersThatAreNoneAreLeftOut)
 {
-    LoadSums sums;
+    TeachingLoadSums sums;
     for (const std::int32_t semestar : {0, 7, -1, Largest, std::numeric_limits<std::int32_t>::min()})
         sums.Add(semestar, Tip::Obvezni, {1, 1, 1, 1, 1});
     ExpectLoad(sums.Total(Tip::Obvezni, 6), 0, 0, 0, 0, 0);
@@ -117,65 +117,66 @@ TEST(LoadTable, SemestersThatAreNoneAreLeftOut)
 
 // Rows
 
-TEST(LoadTable, ListsSemestersThenTypesThenBoldTotals)
+TEST(TeachingLoad, ListsSemestersThenTypesThenBoldTotals)
 {
-    LoadSums sums;
+    TeachingLoadSums sums;
     sums.Add(1, Tip::Obvezni, {3, 2, 1, 30, 4});
     sums.Add(2, Tip::Izborni, {1, 1, 1, 31, 2});
-    EXPECT_EQ(Shown(LoadRows(sums, FlaggingStyle, {.Last = 2})), (std::vector<std::string>{
-                                                                     "1|Obvezni|3|2|1|30|4",
-                                                                     "1|Izborni|0|0|0|0|0",
-                                                                     "2|Obvezni|0|0|0|0|0",
-                                                                     "2|Izborni|1|1|1|!31|2",
-                                                                     "*UKUPNO|*Obvezni|*3|*2|*1|*30|*4",
-                                                                     "*UKUPNO|*Izborni|*1|*1|*1|*31|*2",
-                                                                     "*TOTAL|*Sve|*4|*3|*2|*61|*6",
-                                                                 }));
+    EXPECT_EQ(Shown(TeachingLoadRows(sums, FlaggingStyle, {.Last = 2})),
+              (std::vector<std::string>{
+                  "1|Obvezni|3|2|1|30|4",
+                  "1|Izborni|0|0|0|0|0",
+                  "2|Obvezni|0|0|0|0|0",
+                  "2|Izborni|1|1|1|!31|2",
+                  "*UKUPNO|*Obvezni|*3|*2|*1|*30|*4",
+                  "*UKUPNO|*Izborni|*1|*1|*1|*31|*2",
+                  "*TOTAL|*Sve|*4|*3|*2|*61|*6",
+              }));
 }
 
-TEST(LoadTable, ThePlainStyleHasItsOwnLabelsAndNoRed)
+TEST(TeachingLoad, ThePlainStyleHasItsOwnLabelsAndNoRed)
 {
-    LoadSums sums;
+    TeachingLoadSums sums;
     sums.Add(1, Tip::Obvezni, {3, 2, 1, 31, 4});
-    EXPECT_EQ(Shown(LoadRows(sums, PlainStyle, {.Last = 1})), (std::vector<std::string>{
-                                                                  "1|Obvezni|3|2|1|31|4",
-                                                                  "1|Izborni|0|0|0|0|0",
-                                                                  "*Ukupno|*Obvezni|*3|*2|*1|*31|*4",
-                                                                  "*Ukupno|*Izborni|*0|*0|*0|*0|*0",
-                                                                  "*Ukupno|*Total|*3|*2|*1|*31|*4",
-                                                              }));
+    EXPECT_EQ(Shown(TeachingLoadRows(sums, PlainStyle, {.Last = 1})), (std::vector<std::string>{
+                                                                          "1|Obvezni|3|2|1|31|4",
+                                                                          "1|Izborni|0|0|0|0|0",
+                                                                          "*Ukupno|*Obvezni|*3|*2|*1|*31|*4",
+                                                                          "*Ukupno|*Izborni|*0|*0|*0|*0|*0",
+                                                                          "*Ukupno|*Total|*3|*2|*1|*31|*4",
+                                                                      }));
 }
 
-TEST(LoadTable, HasTwoRowsPerSemesterAndThreeOfTotals)
+TEST(TeachingLoad, HasTwoRowsPerSemesterAndThreeOfTotals)
 {
-    EXPECT_EQ(LoadRows({}, FlaggingStyle).size(), 15U);
-    EXPECT_EQ(LoadRows({}, FlaggingStyle, {.Last = 4}).size(), 11U);
-    EXPECT_EQ(LoadRows({}, FlaggingStyle, {.Last = 6, .Only = 5}).size(), 5U);
-    EXPECT_EQ(LoadRows({}, FlaggingStyle, {.Last = 4, .Only = 5}).size(), 3U) << "no such semester";
+    EXPECT_EQ(TeachingLoadRows({}, FlaggingStyle).size(), 15U);
+    EXPECT_EQ(TeachingLoadRows({}, FlaggingStyle, {.Last = 4}).size(), 11U);
+    EXPECT_EQ(TeachingLoadRows({}, FlaggingStyle, {.Last = 6, .Only = 5}).size(), 5U);
+    EXPECT_EQ(TeachingLoadRows({}, FlaggingStyle, {.Last = 4, .Only = 5}).size(), 3U) << "no such semester";
 }
 
-TEST(LoadTable, TheTotalsOfOneSemesterCoverAllThatAreSummed)
+TEST(TeachingLoad, TheTotalsOfOneSemesterCoverAllThatAreSummed)
 {
-    LoadSums sums;
+    TeachingLoadSums sums;
     sums.Add(1, Tip::Obvezni, {1, 0, 0, 0, 1});
     sums.Add(2, Tip::Obvezni, {2, 0, 0, 0, 1});
     sums.Add(5, Tip::Obvezni, {4, 0, 0, 0, 1});
-    const std::vector<ListRow> rows = LoadRows(sums, FlaggingStyle, {.Last = 4, .Only = 2});
+    const std::vector<ListRow> rows = TeachingLoadRows(sums, FlaggingStyle, {.Last = 4, .Only = 2});
     EXPECT_EQ(Shown(rows.front()), "2|Obvezni|2|0|0|0|1");
     EXPECT_EQ(Shown(rows.back()), "*TOTAL|*Sve|*3|*0|*0|*0|*2");
 }
 
-TEST(LoadTable, ATotalThatDoesNotFitIsAnError)
+TEST(TeachingLoad, ATotalThatDoesNotFitIsAnError)
 {
-    LoadSums ofOneType;
+    TeachingLoadSums ofOneType;
     ofOneType.Add(1, Tip::Obvezni, {.P = Largest});
     ofOneType.Add(2, Tip::Obvezni, {.P = 1});
-    EXPECT_THROW(LoadRows(ofOneType, FlaggingStyle), Overflow);
+    EXPECT_THROW(TeachingLoadRows(ofOneType, FlaggingStyle), OverflowError);
 
-    LoadSums ofBothTypes;
+    TeachingLoadSums ofBothTypes;
     ofBothTypes.Add(1, Tip::Obvezni, {.P = Largest});
     ofBothTypes.Add(1, Tip::Izborni, {.P = 1});
-    EXPECT_THROW(LoadRows(ofBothTypes, FlaggingStyle), Overflow);
+    EXPECT_THROW(TeachingLoadRows(ofBothTypes, FlaggingStyle), OverflowError);
 }
 
 } // namespace

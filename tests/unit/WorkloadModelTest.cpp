@@ -42,7 +42,7 @@ TEST(WorkloadModel, ShowsZerosForAnEmptyForm)
         EXPECT_EQ(fields.OstaleMetodeUkupno, zero);
         EXPECT_EQ(fields.UkupnoOpter, (std::array{zero, zero, zero, zero + "0", zero + "0"}));
         EXPECT_EQ(fields.Upozorenje, NoPages);
-        EXPECT_EQ(fields.BojaUpozorenja, Red);
+        EXPECT_EQ(fields.BojaUpozorenja, ListColours::Red);
         EXPECT_EQ(fields.KontaktniSati, (std::array<std::string, 3>{})) << "entries stay as they are";
     }
 }
@@ -242,7 +242,8 @@ TEST(WorkloadModel, WarnsOfTheFirstThingThatIsWrong)
     const auto warning = [&]
     {
         fields = Recalculated(fields);
-        EXPECT_EQ(fields.BojaUpozorenja, fields.Upozorenje == NoWarning ? Blue : Red);
+        EXPECT_EQ(fields.BojaUpozorenja,
+                  fields.Upozorenje == NoWarning ? ListColours::Blue : ListColours::Red);
         return fields.Upozorenje;
     };
 

@@ -32,12 +32,12 @@ private:
 
 } // namespace
 
-void SetSpokenName(wxWindow& control, std::string_view name)
+void SetAccessibleName(wxWindow& control, std::string_view name)
 {
     control.SetAccessible(new NamedAccessible(&control, ToWx(name)));
 }
 
-wxStaticText* NewRemark(wxWindow* parent, std::string_view name, std::string_view caption)
+wxStaticText* NewCaption(wxWindow* parent, std::string_view name, std::string_view caption)
 {
     return NewLabel(parent, name, caption); // what comes behind it has a name of its own
 }

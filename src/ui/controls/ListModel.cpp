@@ -8,7 +8,7 @@
 
 ListColour ElectiveColour(std::string_view tip)
 {
-    return IsWord(tip, "IZBORNI") ? Blue : Black;
+    return EqualsIgnoreCase(tip, "IZBORNI") ? ListColours::Blue : ListColours::Black;
 }
 
 ListRow UniformRow(const std::vector<std::string>& texts, ListColour colour, bool bold)

@@ -39,7 +39,7 @@ std::vector<std::size_t> PositionsOf(const ListModel& model, std::optional<ListO
 
 } // namespace
 
-ListView::ListView(wxWindow* parent, const wxString& name, std::string_view spokenName)
+ListView::ListView(wxWindow* parent, const wxString& name, std::string_view accessibleName)
     : m_model(std::make_unique<KeptRows>(std::vector<ListRow>()))
 {
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxTAB_TRAVERSAL, name);
@@ -60,7 +60,7 @@ ListView::ListView(wxWindow* parent, const wxString& name, std::string_view spok
          // Characters have no meaning in a list: the system must not search for them, nor activate a row.
          .KeyPressed = [this](const wxKeyEvent& key)
          { return (KeyPressed && KeyPressed(key)) || IsCharacter(key); }});
-    SetSpokenName(*Native->Window(), spokenName);
+    SetAccessibleName(*Native->Window(), accessibleName);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(Native->Window(), wxSizerFlags(1).Expand());
     SetSizer(sizer);

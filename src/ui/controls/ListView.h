@@ -23,8 +23,8 @@ class wxKeyEvent;
 class ListView : public wxNavigationEnabled<wxWindow>
 {
 public:
-    /// `spokenName` is what a screen reader says for the list (UTF-8).
-    ListView(wxWindow* parent, const wxString& name, std::string_view spokenName);
+    /// `accessibleName` is what a screen reader says for the list (UTF-8).
+    ListView(wxWindow* parent, const wxString& name, std::string_view accessibleName);
     ~ListView() override;
 
     /// Sets the columns; once, before any row.

@@ -37,7 +37,7 @@ public:
             return false;
         const CellStyle style = View.Style(static_cast<int>(row), static_cast<int>(column));
         // Black is left to the theme, whose text may be light on dark.
-        if (style.Colour != Black)
+        if (style.Colour != ListColours::Black)
             attr.SetColour(wxColour(style.Colour));
         attr.SetBold(style.Bold);
         return style != CellStyle();

@@ -136,7 +136,7 @@ protected:
         if (!IsShown(row))
             return &Attributes;
         const CellStyle style = View.Style(static_cast<int>(row), static_cast<int>(column));
-        if (style.Colour != Black)
+        if (style.Colour != ListColours::Black)
             Attributes.SetTextColour(wxColour(style.Colour));
         if (style.Bold)
             Attributes.SetFont(GetFont().Bold());

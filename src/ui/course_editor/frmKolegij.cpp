@@ -1,7 +1,7 @@
 #include "ui/course_editor/frmKolegij.h"
 
+#include "data/CheckedNumbers.h"
 #include "data/TableChoices.h"
-#include "text/Numbers.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
@@ -46,7 +46,7 @@ frmKolegij::frmKolegij(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Title), wxDefaultPosition, wxDefaultSize,
            wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, "frmKolegij");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
 
     // The controls are made in tab order: fields, lists, buttons.
     auto* content = new wxBoxSizer(wxVERTICAL);
@@ -237,7 +237,7 @@ void frmKolegij::cboProgram_Click()
 void frmKolegij::cmdSave_Click()
 {
     const CourseEntry entry = CurrentEntry();
-    if (const std::optional<EntryFault> fault = CheckEntry(entry))
+    if (const std::optional<ValidationError> fault = CheckEntry(entry))
     {
         ShowWarning(this, fault->Message, Title);
         ControlOf(fault->Field)->SetFocus();

@@ -40,7 +40,7 @@ frmStatZavodi::frmStatZavodi(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmStatZavodi");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: filters, lists, buttons.
@@ -136,7 +136,7 @@ void frmStatZavodi::ShowSelected()
             return;
     const std::int32_t zavodID = SelectedData(*cboZavodi);
     lvwKolegiji->ShowRows(DepartmentCourseRows(zavodID, CurrentFilter()));
-    lvwStatZavod->ShowRows(DepartmentLoadRows(zavodID, CurrentFilter()));
+    lvwStatZavod->ShowRows(DepartmentTeachingLoadRows(zavodID, CurrentFilter()));
     Panel->Layout(); // the sums are as high as their rows
 }
 

@@ -42,7 +42,7 @@ frmStatNositelji::frmStatNositelji(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmStatNositelji");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: lecturers, filters, lists, buttons.
@@ -128,7 +128,7 @@ LecturerFilter frmStatNositelji::CurrentFilter() const
 void frmStatNositelji::ShowSelected()
 {
     lvwKolegiji->ShowRows(LecturerCourseRows(SelectedNastavnikID, CurrentFilter()));
-    lvwStat->ShowRows(LecturerLoadRows(SelectedNastavnikID, CurrentFilter()));
+    lvwStat->ShowRows(LecturerTeachingLoadRows(SelectedNastavnikID, CurrentFilter()));
     Panel->Layout(); // the sums are as high as their rows
 }
 

@@ -1,11 +1,11 @@
 #include "ui/main/frmMain.h"
 
+#include "data/CheckedNumbers.h"
 #include "data/Errors.h"
 #include "data/Lookups.h"
 #include "data/TableChoices.h"
 #include "data/modData.h"
 #include "ects/frmECTSCalc.h"
-#include "text/Numbers.h"
 #include "text/Text.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
@@ -69,7 +69,7 @@ frmMain::frmMain()
 {
     Create(nullptr, wxID_ANY, ToWx(ProductName), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmMain");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: filters, lists, commands.
@@ -475,7 +475,7 @@ void frmMain::cmdEdit_Click()
     frmKolegij editor(this);
     editor.Mode = "EDIT";
     editor.EditKolegijID = *id;
-    if (const Row* kolegij = modData::Kolegiji.FindFirst(Kolegij::ID, *id))
+    if (const modData::Row* kolegij = modData::Kolegiji.FindFirst(Kolegij::ID, *id))
     {
         editor.StartStudijID = kolegij->Number(Kolegij::StudijID);
         editor.StartRazina = modData::GetStudijRazina(editor.StartStudijID);
