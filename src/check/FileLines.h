@@ -66,9 +66,9 @@ private:
         std::size_t Number;
     };
 
-    std::string_view Bytes;
-    const modData::TableLayout& Layout;
-    std::vector<Start> Starts; // of the table's lines; none where both count alike
+    std::string_view m_bytes;
+    const modData::TableLayout& m_layout;
+    std::vector<Start> m_starts; // of the table's lines; none where both count alike
 };
 
 } // namespace Check

@@ -142,6 +142,6 @@ private:
     void WriteTotals();
     std::string_view FirstWarning() const;
 
-    WorkloadFields& Fields;
-    std::string DecimalSeparator;
+    WorkloadFields& m_fields;
+    std::string m_decimalSeparator;
 };

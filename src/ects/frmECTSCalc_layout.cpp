@@ -150,7 +150,7 @@ wxTextCtrl* frmECTSCalc::NewOutput(const std::string& name, std::string& text)
 
 wxTextCtrl* frmECTSCalc::AddField(wxTextCtrl* box, std::string& text)
 {
-    Boxes.push_back({box, &text});
+    m_boxes.push_back({box, &text});
     return box;
 }
 
@@ -161,13 +161,13 @@ wxSizer* frmECTSCalc::CourseFrame()
     grid->AddGrowableCol(1);
     grid->AddGrowableRow(2);
     AddLabel(*grid, Panel, EctsLabel::NazivKolegija);
-    AddBox(*grid, txtNazivKolegija = NewField("txtNazivKolegija", Fields.NazivKolegija));
+    AddBox(*grid, txtNazivKolegija = NewField("txtNazivKolegija", m_fields.NazivKolegija));
     AddLabel(*grid, Panel, "Nositelj(i):");
-    AddBox(*grid, txtNositelj = NewField("txtNositelj", Fields.Nositelj));
+    AddBox(*grid, txtNositelj = NewField("txtNositelj", m_fields.Nositelj));
     AddLabel(*grid, Panel, EctsLabel::Komentar);
     txtKomentar = new wxTextCtrl(Panel, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE,
                                  wxDefaultValidator, "txtKomentar");
-    AddBox(*grid, AddField(txtKomentar, Fields.Komentar));
+    AddBox(*grid, AddField(txtKomentar, m_fields.Komentar));
     txtKomentar->SetMinSize({-1, CommentLines * GetCharHeight() + FromDIP(10)});
     AddWide(*frame, grid, 1);
     return frame;
@@ -185,15 +185,15 @@ wxSizer* frmECTSCalc::ContactFrame()
     {
         const std::string_view row = ContactRows[i].Label;
         AddRowCaption(*grid, Panel, row);
-        txtKontaktniSati[i] = NewField(Element("txtKontaktniSati", i), Fields.KontaktniSati[i]);
+        txtKontaktniSati[i] = NewField(Element("txtKontaktniSati", i), m_fields.KontaktniSati[i]);
         AddBox(*grid, txtKontaktniSati[i], row, EctsLabel::KontaktniSati);
-        txtSamostalniSati[i] = NewField(Element("txtSamostalniSati", i), Fields.SamostalniSati[i]);
+        txtSamostalniSati[i] = NewField(Element("txtSamostalniSati", i), m_fields.SamostalniSati[i]);
         AddBox(*grid, txtSamostalniSati[i], row, EctsLabel::SamostalniSati);
     }
     AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
-    txtKontaktniUkupno = NewOutput("txtKontaktniUkupno(3)", Fields.KontaktniUkupno);
+    txtKontaktniUkupno = NewOutput("txtKontaktniUkupno(3)", m_fields.KontaktniUkupno);
     AddBox(*grid, txtKontaktniUkupno, EctsLabel::Ukupno, EctsLabel::KontaktniSati);
-    txtSamostalniUkupno = NewOutput("txtSamostalniUkupno(3)", Fields.SamostalniUkupno);
+    txtSamostalniUkupno = NewOutput("txtSamostalniUkupno(3)", m_fields.SamostalniUkupno);
     AddBox(*grid, txtSamostalniUkupno, EctsLabel::Ukupno, EctsLabel::SamostalniSati);
     AddWide(*frame, grid);
     return frame;
@@ -213,18 +213,18 @@ wxSizer* frmECTSCalc::LiteratureFrame()
     {
         const std::string_view row = LiteratureRows[i].Label;
         AddRowCaption(*grid, Panel, row);
-        txtLitStranice[i] = NewField(Element("txtLitStranice", i), Fields.LitStranice[i]);
+        txtLitStranice[i] = NewField(Element("txtLitStranice", i), m_fields.LitStranice[i]);
         AddBox(*grid, txtLitStranice[i], row, EctsLabel::BrojStranica);
         AddRowCaption(*grid, Panel, LiteratureRows[i].NormLabel);
-        txtLitIzracun[i] = NewOutput(Element("txtLitIzracun", i), Fields.LitIzracun[i]);
+        txtLitIzracun[i] = NewOutput(Element("txtLitIzracun", i), m_fields.LitIzracun[i]);
         AddBox(*grid, txtLitIzracun[i], row, EctsLabel::IzracunSati);
-        txtLitProcjena[i] = NewField(Element("txtLitProcjena", i), Fields.LitProcjena[i]);
+        txtLitProcjena[i] = NewField(Element("txtLitProcjena", i), m_fields.LitProcjena[i]);
         AddBox(*grid, txtLitProcjena[i], row, EctsLabel::Procjena);
     }
     AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
     grid->AddStretchSpacer();
     grid->AddStretchSpacer();
-    txtLitUkupno = NewOutput("txtLitUkupno", Fields.LitUkupno);
+    txtLitUkupno = NewOutput("txtLitUkupno", m_fields.LitUkupno);
     AddBox(*grid, txtLitUkupno, EctsGroup::Literatura, EctsLabel::Ukupno);
     AddWide(*frame, grid);
     return frame;
@@ -238,14 +238,14 @@ wxSizer* frmECTSCalc::WrittenFrame()
     wxFlexGridSizer* grid = NewGrid(this, 2);
     grid->AddGrowableCol(0);
     AddLabel(*grid, Panel, EctsLabel::OpsegStranice);
-    AddBox(*grid, txtOpsegStranice = NewField("txtOpsegStranice", Fields.OpsegStranice));
+    AddBox(*grid, txtOpsegStranice = NewField("txtOpsegStranice", m_fields.OpsegStranice));
     AddLabel(*grid, Panel, EctsLabel::OpsegRijeci);
-    AddBox(*grid, txtOpsegRijeci = NewField("txtOpsegRijeci", Fields.OpsegRijeci));
+    AddBox(*grid, txtOpsegRijeci = NewField("txtOpsegRijeci", m_fields.OpsegRijeci));
     AddRowCaption(*grid, Panel, EctsLabel::IzracunatoVrijeme);
-    txtPismeniIzracun = NewOutput("txtPismeniIzracun", Fields.PismeniIzracun);
+    txtPismeniIzracun = NewOutput("txtPismeniIzracun", m_fields.PismeniIzracun);
     AddBox(*grid, txtPismeniIzracun, EctsGroup::Pismeni, EctsLabel::IzracunatoVrijeme);
     AddLabel(*grid, Panel, EctsLabel::VlastitaProcjena);
-    AddBox(*grid, txtPismeniProcjena = NewField("txtPismeniProcjena", Fields.PismeniProcjena));
+    AddBox(*grid, txtPismeniProcjena = NewField("txtPismeniProcjena", m_fields.PismeniProcjena));
     AddWide(*frame, grid);
     auto* note = new wxBoxSizer(wxHORIZONTAL);
     note->Add(NewCaption(Panel, "lblPismeniNormativ", WrittenNormNote));
@@ -262,13 +262,13 @@ wxSizer* frmECTSCalc::OtherMethodsFrame()
     {
         const auto index = static_cast<std::size_t>(OtherMethods[i].Index);
         wxStaticText* label = AddLabel(*grid, Panel, OtherMethods[i].Label);
-        if (i == 0 || label->GetBestSize().x > WidestLabel->GetBestSize().x)
-            WidestLabel = label;
-        txtOstaleMetode[i] = NewField(Element("txtOstaleMetode", index), Fields.OstaleMetode[i]);
+        if (i == 0 || label->GetBestSize().x > m_widestLabel->GetBestSize().x)
+            m_widestLabel = label;
+        txtOstaleMetode[i] = NewField(Element("txtOstaleMetode", index), m_fields.OstaleMetode[i]);
         grid->Add(txtOstaleMetode[i], wxSizerFlags().CenterVertical());
     }
     AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
-    txtOstaleMetodeUkupno = NewOutput("txtOstaleMetodeUkupno", Fields.OstaleMetodeUkupno);
+    txtOstaleMetodeUkupno = NewOutput("txtOstaleMetodeUkupno", m_fields.OstaleMetodeUkupno);
     AddBox(*grid, txtOstaleMetodeUkupno, EctsGroup::Ostale, EctsLabel::Ukupno);
     AddWide(*frame, grid);
     return frame;
@@ -282,7 +282,7 @@ wxSizer* frmECTSCalc::TotalsFrame()
     for (std::size_t i = 0; i < TotalLabels.size(); ++i)
     {
         grid->AddGrowableCol(i, 1);
-        txtUkupnoOpter[i] = NewOutput(Element("txtUkupnoOpter", i), Fields.UkupnoOpter[i]);
+        txtUkupnoOpter[i] = NewOutput(Element("txtUkupnoOpter", i), m_fields.UkupnoOpter[i]);
         AddBox(*grid, txtUkupnoOpter[i], EctsGroup::UkupnoOpter, TotalLabels[i]);
     }
     AddWide(*frame, grid);
@@ -332,7 +332,7 @@ void frmECTSCalc::FitToScreen(wxSizer& content)
     wxSize size = content.CalcMin();
     if (size.x > screen.x)
     {
-        WidestLabel->Wrap(WidestLabel->GetBestSize().x - (size.x - screen.x));
+        m_widestLabel->Wrap(m_widestLabel->GetBestSize().x - (size.x - screen.x));
         size = content.CalcMin();
     }
     // On a screen that is still too small the content scrolls.

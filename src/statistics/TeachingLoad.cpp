@@ -53,12 +53,12 @@ TeachingLoad TeachingLoad::Times(std::int32_t weight) const
 void TeachingLoadSums::Add(std::int32_t semestar, Tip tip, const TeachingLoad& load)
 {
     if (semestar >= 1 && semestar <= MaxSemesters)
-        Sums[static_cast<std::size_t>(semestar - 1)][static_cast<std::size_t>(tip)] += load;
+        m_sums[static_cast<std::size_t>(semestar - 1)][static_cast<std::size_t>(tip)] += load;
 }
 
 const TeachingLoad& TeachingLoadSums::Of(int semestar, Tip tip) const
 {
-    return Sums.at(static_cast<std::size_t>(semestar - 1))[static_cast<std::size_t>(tip)];
+    return m_sums.at(static_cast<std::size_t>(semestar - 1))[static_cast<std::size_t>(tip)];
 }
 
 TeachingLoad TeachingLoadSums::Total(Tip tip, int last) const

@@ -64,7 +64,7 @@ public:
     TeachingLoad Total(Tip tip, int last) const;
 
 private:
-    std::array<std::array<TeachingLoad, 2>, MaxSemesters> Sums;
+    std::array<std::array<TeachingLoad, 2>, MaxSemesters> m_sums;
 };
 
 /// How a window words its totals, and whether it flags a semester's type with more than 30 ECTS.

@@ -31,7 +31,7 @@ public:
     }
     ~CroatianDesktop()
     {
-        for (const auto& [name, value] : Former)
+        for (const auto& [name, value] : m_former)
             SetEnvironment(name, value);
     }
     CroatianDesktop(const CroatianDesktop&) = delete;
@@ -42,11 +42,11 @@ private:
     {
         wxString former;
         wxGetEnv(name, &former);
-        Former.emplace_back(name, former.utf8_string());
+        m_former.emplace_back(name, former.utf8_string());
         SetEnvironment(name, value);
     }
 
-    std::vector<std::pair<const char*, std::string>> Former;
+    std::vector<std::pair<const char*, std::string>> m_former;
 };
 
 TEST(DesktopLanguage, ButtonsFollowTheDesktopAndNumbersAndSortingDoNot)

@@ -326,9 +326,9 @@ struct Entry
 class RandomEntries
 {
 public:
-    explicit RandomEntries(unsigned seed) : Engine(seed) {}
+    explicit RandomEntries(unsigned seed) : m_engine(seed) {}
 
-    int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(Engine); }
+    int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(m_engine); }
 
     Entry Next()
     {
@@ -378,7 +378,7 @@ public:
     }
 
 private:
-    std::mt19937 Engine;
+    std::mt19937 m_engine;
 };
 
 /// A quotient of whole numbers rounded to a whole number, halves away from zero.

@@ -16,18 +16,18 @@ namespace
 class NamedAccessible : public wxAccessible
 {
 public:
-    NamedAccessible(wxWindow* control, wxString name) : wxAccessible(control), Name(std::move(name)) {}
+    NamedAccessible(wxWindow* control, wxString name) : wxAccessible(control), m_name(std::move(name)) {}
 
     wxAccStatus GetName(int child, wxString* name) override
     {
         if (child != wxACC_SELF)
             return wxACC_NOT_IMPLEMENTED; // the system's own answer
-        *name = Name;
+        *name = m_name;
         return wxACC_OK;
     }
 
 private:
-    wxString Name;
+    wxString m_name;
 };
 
 } // namespace

@@ -43,26 +43,26 @@ ListView::ListView(wxWindow* parent, const wxString& name, std::string_view acce
     : m_model(std::make_unique<KeptRows>(std::vector<ListRow>()))
 {
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxTAB_TRAVERSAL, name);
-    Native = CreateNativeList(
+    m_native = CreateNativeList(
         *this,
         {.ColumnClicked =
              [this](int column)
          {
-             if (ColumnClicked)
-                 ColumnClicked(column);
+             if (m_columnClicked)
+                 m_columnClicked(column);
          },
          .Activated =
              [this](int)
          {
-             if (Activated)
-                 Activated();
+             if (m_activated)
+                 m_activated();
          },
          // Characters have no meaning in a list: the system must not search for them, nor activate a row.
          .KeyPressed = [this](const wxKeyEvent& key)
-         { return (KeyPressed && KeyPressed(key)) || IsCharacter(key); }});
-    SetAccessibleName(*Native->Window(), accessibleName);
+         { return (m_keyPressed && m_keyPressed(key)) || IsCharacter(key); }});
+    SetAccessibleName(*m_native->Window(), accessibleName);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
-    sizer->Add(Native->Window(), wxSizerFlags(1).Expand());
+    sizer->Add(m_native->Window(), wxSizerFlags(1).Expand());
     SetSizer(sizer);
 }
 
@@ -70,45 +70,45 @@ ListView::~ListView() = default;
 
 void ListView::SetColumns(std::span<const ListColumn> columns)
 {
-    Columns = columns;
+    m_columns = columns;
     for (const ListColumn& column : columns)
     {
         const wxString caption = ToWx(column.Caption);
         const int pixels = WithTextSize(*this, FromDIP(column.Twips / TwipsPerPixel));
-        Native->AddColumn(caption, std::max(pixels, Native->CaptionWidth(caption)));
+        m_native->AddColumn(caption, std::max(pixels, m_native->CaptionWidth(caption)));
     }
-    Native->ColumnsComplete();
+    m_native->ColumnsComplete();
 }
 
 void ListView::Show(std::unique_ptr<const ListModel> model)
 {
     m_model = std::move(model);
-    m_positions = PositionsOf(*m_model, Order);
-    Native->ShowNewRows(RowCount());
+    m_positions = PositionsOf(*m_model, m_order);
+    m_native->ShowNewRows(RowCount());
 }
 
 void ListView::Show(std::unique_ptr<const ListModel> model, std::optional<std::size_t> selected)
 {
     const int former = SelectedRow();
-    const NativeList::Place place = former >= 0 ? Native->PlaceOf(former) : NativeList::Place();
+    const NativeList::Place place = former >= 0 ? m_native->PlaceOf(former) : NativeList::Place();
     Show(std::move(model));
     if (!selected)
         return;
     const int row = RowOf(*selected);
     SelectRow(row);
     if (former >= 0)
-        Native->ScrollTo(row, place);
+        m_native->ScrollTo(row, place);
 }
 
 void ListView::SortBy(ListOrder order)
 {
-    Order = order;
-    Native->ShowSortArrow(static_cast<int>(order.Column), order.Descending);
+    m_order = order;
+    m_native->ShowSortArrow(static_cast<int>(order.Column), order.Descending);
 
     const int selected = SelectedRow();
     const std::size_t kept = selected >= 0 ? ModelRow(selected) : 0;
-    m_positions = PositionsOf(*m_model, Order);
-    Native->ShowReorderedRows();
+    m_positions = PositionsOf(*m_model, m_order);
+    m_native->ShowReorderedRows();
     if (selected >= 0)
         SelectModelRow(kept);
 }
@@ -120,12 +120,12 @@ int ListView::RowOf(std::size_t modelRow) const
 
 wxString ListView::ColumnCaption(int column) const
 {
-    return ToWx(Columns[Index(column)].Caption);
+    return ToWx(m_columns[Index(column)].Caption);
 }
 
 int ListView::ColumnWidth(int column) const
 {
-    return Native->ColumnWidth(column);
+    return m_native->ColumnWidth(column);
 }
 
 std::string ListView::Text(int row, int column) const
@@ -155,22 +155,22 @@ bool ListView::CellBold(int row, int column) const
 
 int ListView::SelectedRow() const
 {
-    return Native->SelectedRow();
+    return m_native->SelectedRow();
 }
 
 void ListView::SelectRow(int row)
 {
-    Native->SelectRow(row);
+    m_native->SelectRow(row);
 }
 
 void ListView::ClickColumn(int column)
 {
-    Native->ClickColumn(column);
+    m_native->ClickColumn(column);
 }
 
 void ListView::ActivateRow(int row)
 {
-    Native->ActivateRow(row);
+    m_native->ActivateRow(row);
 }
 
 wxSize ListView::DoGetBestClientSize() const

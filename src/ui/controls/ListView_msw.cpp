@@ -23,17 +23,17 @@ public:
     MswList(ListView& view, Listener listener)
         : wxListCtrl(&view, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                      wxLC_REPORT | wxLC_VIRTUAL | wxLC_SINGLE_SEL | wxLC_HRULES | wxLC_VRULES),
-          View(view),
-          ToView(std::move(listener))
+          m_view(view),
+          m_toView(std::move(listener))
     {
         Bind(wxEVT_LIST_COL_CLICK,
              [this](wxListEvent& event)
              {
                  if (event.GetColumn() >= 0)
-                     ToView.ColumnClicked(event.GetColumn());
+                     m_toView.ColumnClicked(event.GetColumn());
              });
-        Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent& event) { ToView.Activated(event.GetIndex()); });
-        Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!ToView.KeyPressed(event)); });
+        Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent& event) { m_toView.Activated(event.GetIndex()); });
+        Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!m_toView.KeyPressed(event)); });
     }
 
     wxWindow* Window() override { return this; }
@@ -123,7 +123,7 @@ protected:
 
     wxString OnGetItemText(long row, long column) const override
     {
-        return IsShown(row) ? View.CellText(static_cast<int>(row), static_cast<int>(column)) : wxString();
+        return IsShown(row) ? m_view.CellText(static_cast<int>(row), static_cast<int>(column)) : wxString();
     }
 
     int OnGetItemImage(long) const override { return NoImage; }
@@ -132,15 +132,15 @@ protected:
 
     wxItemAttr* OnGetItemColumnAttr(long row, long column) const override
     {
-        Attributes = wxItemAttr();
+        m_attributes = wxItemAttr();
         if (!IsShown(row))
-            return &Attributes;
-        const CellStyle style = View.Style(static_cast<int>(row), static_cast<int>(column));
+            return &m_attributes;
+        const CellStyle style = m_view.Style(static_cast<int>(row), static_cast<int>(column));
         if (style.Colour != ListColours::Black)
-            Attributes.SetTextColour(wxColour(style.Colour));
+            m_attributes.SetTextColour(wxColour(style.Colour));
         if (style.Bold)
-            Attributes.SetFont(GetFont().Bold());
-        return &Attributes;
+            m_attributes.SetFont(GetFont().Bold());
+        return &m_attributes;
     }
 
 private:
@@ -148,11 +148,11 @@ private:
     static constexpr int NoRow = -1;
 
     /// While the rows are replaced by fewer, the control still asks for some that are gone.
-    bool IsShown(long row) const { return row < View.RowCount(); }
+    bool IsShown(long row) const { return row < m_view.RowCount(); }
 
-    ListView& View;
-    Listener ToView;
-    mutable wxItemAttr Attributes; // of the cell asked for last: the list takes it over before it asks again
+    ListView& m_view;
+    Listener m_toView;
+    mutable wxItemAttr m_attributes; // of the cell asked for last: the list copies it before it asks again
 };
 
 } // namespace

@@ -127,8 +127,8 @@ LecturerFilter frmStatNositelji::CurrentFilter() const
 
 void frmStatNositelji::ShowSelected()
 {
-    lvwKolegiji->ShowRows(LecturerCourseRows(SelectedNastavnikID, CurrentFilter()));
-    lvwStat->ShowRows(LecturerTeachingLoadRows(SelectedNastavnikID, CurrentFilter()));
+    lvwKolegiji->ShowRows(LecturerCourseRows(m_selectedNastavnikID, CurrentFilter()));
+    lvwStat->ShowRows(LecturerTeachingLoadRows(m_selectedNastavnikID, CurrentFilter()));
     Panel->Layout(); // the sums are as high as their rows
 }
 
@@ -136,7 +136,7 @@ void frmStatNositelji::lstNastavnici_Click()
 {
     if (lstNastavnici->GetSelection() == wxNOT_FOUND)
         return;
-    SelectedNastavnikID = SelectedData(*lstNastavnici);
+    m_selectedNastavnikID = SelectedData(*lstNastavnici);
     ShowSelected();
 }
 

@@ -561,14 +561,14 @@ void frmMain::cmdExit_Click()
     }
     modData::SaveAllTables();
     UnloadOtherWindows();
-    if (!Unloading)
+    if (!m_unloading)
         Close(true);
 }
 
 void frmMain::Form_Unload()
 {
     // The window closes whatever the exit command says: with faulty data it closes without saving.
-    Unloading = true;
+    m_unloading = true;
     cmdExit_Click();
     Destroy();
 }

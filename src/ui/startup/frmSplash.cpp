@@ -48,9 +48,9 @@ void frmSplash::BindEvents()
 
 void frmSplash::CloseSplash()
 {
-    if (Closing)
+    if (m_closing)
         return;
-    Closing = true;
+    m_closing = true;
     Timer1.Stop();
     try
     {
