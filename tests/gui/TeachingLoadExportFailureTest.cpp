@@ -1,21 +1,12 @@
 // The exports of teaching load in the whole program: an error in writing ends it with the last report.
 
 #include "support/Catalogue.h"
+#include "support/ScriptedProgram.h"
 #include "support/TeachingLoadChecks.h"
 #include "support/Windows.h"
 
-#include <wx/filename.h>
-#include <wx/stdpaths.h>
-#include <wx/utils.h>
-
 namespace
 {
-
-struct Outcome
-{
-    long ExitCode;
-    std::string Output; ///< The message boxes, a line each: title, severity, text.
-};
 
 /// By the button that opens the window of load.
 class TeachingLoadExportInProgram : public testing::TestWithParam<const char*>
@@ -32,12 +23,7 @@ protected:
     static Outcome Run()
     {
         SetEnvironment("VARLO_EXPORT_LOAD", GetParam());
-        wxFileName program(wxStandardPaths::Get().GetExecutablePath());
-        program.SetName("scripted_program");
-        wxArrayString output;
-        wxArrayString errors;
-        const long exitCode = wxExecute("\"" + program.GetFullPath() + "\"", output, errors, wxEXEC_SYNC);
-        return {exitCode, wxJoin(output, '\n', '\0').utf8_string()};
+        return RunScriptedProgram();
     }
 
     bool HasSaved() const { return ReadBytes(Folder.Data() / "db_zavod.csv") != Unsaved; }

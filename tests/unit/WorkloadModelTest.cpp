@@ -1,6 +1,7 @@
 #include "ects/WorkloadModel.h"
 
 #include "data/Errors.h"
+#include "support/WorkloadWarnings.h"
 
 #include <gtest/gtest.h>
 
@@ -10,16 +11,6 @@
 
 namespace
 {
-
-const char* const NoEstimate = "Odabrana je vlastita procjena literature, ali procjena nije unesena.";
-const char* const NoPages = "Odabran je normativ literature, ali broj stranica nije unesen.";
-const char* const PagesAndWords = "Za pismeni zadatak unesite ili stranice ili riječi, ne oboje.";
-const char* const NoWrittenEstimate =
-    "Odabrana je vlastita procjena pismenog zadatka, ali procjena nije unesena.";
-const char* const NoWrittenExtent = "Odabran je normativ pismenog zadatka, ali nije unesen opseg.";
-const char* const NoSelfStudy = "Unesena je kontaktna nastava, ali samostalni sati nisu uneseni.";
-const char* const NoWorkload = "Ukupno opterećenje nije uneseno.";
-const char* const NoWarning = "Nema upozorenja.";
 
 WorkloadFields Recalculated(WorkloadFields fields, const std::string& separator = ",")
 {
