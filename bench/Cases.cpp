@@ -28,8 +28,8 @@ constexpr std::string_view Floor = "floor";
 
 void ForgetTables()
 {
-    for (Table* table : modData::AllTables())
-        *table = Table(table->Layout());
+    for (modData::Table* table : modData::AllTables())
+        *table = modData::Table(table->Layout());
 }
 
 void RequireValid(bool valid, std::string_view by)
@@ -42,7 +42,7 @@ void RequireValid(bool valid, std::string_view by)
 /// something to do.
 void EditFirstCourse(Bench& bench)
 {
-    const Row& kolegij = modData::Kolegiji[0];
+    const modData::Row& kolegij = modData::Kolegiji[0];
     const std::int32_t id = kolegij.Number(Kolegij::ID);
     CourseEntry entry = *EntryOf(id);
     entry.StudijID = kolegij.Number(Kolegij::StudijID);

@@ -3,8 +3,8 @@
 #include "Sqlite.h"
 #include "Workplace.h"
 
+#include "data/Choice.h"
 #include "data/System.h"
-#include "lists/Choice.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
 #include "ui/main/CourseList.h"
@@ -45,7 +45,7 @@ struct Bench
     std::vector<std::string> TablePaths() const
     {
         std::vector<std::string> paths;
-        for (const Table* table : modData::AllTables())
+        for (const modData::Table* table : modData::AllTables())
             paths.push_back(Place.DataFolder() + "/" + std::string(table->Layout().FileName));
         return paths;
     }

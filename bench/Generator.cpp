@@ -1,8 +1,8 @@
 #include "Generator.h"
 
 #include "data/Files.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <random>
@@ -86,10 +86,10 @@ constexpr int HolderPlaces = 3;
 class Dice
 {
 public:
-    explicit Dice(std::uint64_t seed) : Engine(seed) {}
+    explicit Dice(std::uint64_t seed) : m_engine(seed) {}
 
     /// From 0 to `count` - 1.
-    int Below(int count) { return static_cast<int>(Engine() % static_cast<std::uint64_t>(count)); }
+    int Below(int count) { return static_cast<int>(m_engine() % static_cast<std::uint64_t>(count)); }
 
     std::string_view OneOf(std::span<const std::string_view> texts)
     {
@@ -107,26 +107,29 @@ public:
     }
 
 private:
-    std::mt19937_64 Engine;
+    std::mt19937_64 m_engine;
 };
 
 /// A table's file while it is made.
 class TableFile
 {
 public:
-    explicit TableFile(const TableLayout& layout) : Layout(layout) { File.AddLine(layout.Header()); }
+    explicit TableFile(const modData::TableLayout& layout) : m_layout(layout)
+    {
+        m_file.AddLine(layout.Header());
+    }
 
-    void Add(const std::vector<std::string>& fields) { File.AddLine(Joined(fields, ";")); }
+    void Add(const std::vector<std::string>& fields) { m_file.AddLine(Joined(fields, ";")); }
 
     void SaveIn(const std::filesystem::path& folder) const
     {
-        const std::u8string path = (folder / ToPath(Layout.FileName)).u8string();
-        File.SaveAs(std::string(path.begin(), path.end()));
+        const std::u8string path = (folder / ToPath(m_layout.FileName)).u8string();
+        m_file.SaveAs(std::string(path.begin(), path.end()));
     }
 
 private:
-    const TableLayout& Layout;
-    TextFile File;
+    const modData::TableLayout& m_layout;
+    TextFile m_file;
 };
 
 /// Part `index` of a whole that is shared out as evenly as whole numbers allow.
@@ -154,7 +157,7 @@ std::string_view RazinaOf(int studij)
 class Generation
 {
 public:
-    Generation(const CatalogueSize& size, std::uint64_t seed) : Size(size), Random(seed) {}
+    Generation(const CatalogueSize& size, std::uint64_t seed) : m_size(size), m_random(seed) {}
 
     void SaveIn(const std::filesystem::path& folder)
     {
@@ -179,7 +182,7 @@ private:
     TableFile MakeZavodi() const
     {
         TableFile file(modData::Zavodi.Layout());
-        for (int i = 0; i < Size.Zavodi; ++i)
+        for (int i = 0; i < m_size.Zavodi; ++i)
         {
             const std::string_view subject = Subjects[static_cast<std::size_t>(i) % std::size(Subjects)];
             file.Add({std::to_string(i + 1),
@@ -192,14 +195,14 @@ private:
     TableFile MakeNastavnici()
     {
         TableFile file(modData::Nastavnici.Layout());
-        for (int i = 0; i < Size.Nastavnici; ++i)
+        for (int i = 0; i < m_size.Nastavnici; ++i)
         {
             std::string name = Surname();
-            if (Random.Below(12) == 0)
+            if (m_random.Below(12) == 0)
                 name += "-" + Surname();
-            name.append(" ").append(Random.OneOf(GivenNames));
-            file.Add({std::to_string(i + 1), std::move(name), std::string(Random.OneOf(Titles)),
-                      std::to_string(Random.Below(Size.Zavodi) + 1)});
+            name.append(" ").append(m_random.OneOf(GivenNames));
+            file.Add({std::to_string(i + 1), std::move(name), std::string(m_random.OneOf(Titles)),
+                      std::to_string(m_random.Below(m_size.Zavodi) + 1)});
         }
         return file;
     }
@@ -207,7 +210,7 @@ private:
     TableFile MakeStudiji() const
     {
         TableFile file(modData::Studiji.Layout());
-        for (int i = 0; i < Size.Studiji; ++i)
+        for (int i = 0; i < m_size.Studiji; ++i)
         {
             const auto subject = static_cast<std::size_t>(i / 2) % std::size(Subjects);
             file.Add({std::to_string(i + 1), "Studij " + std::string(Subjects[subject]), Letters(i / 2),
@@ -220,11 +223,11 @@ private:
     TableFile MakeSmjerovi()
     {
         TableFile file(modData::Smjerovi.Layout());
-        for (int i = 0; i < Size.Smjerovi; ++i)
+        for (int i = 0; i < m_size.Smjerovi; ++i)
         {
-            const int studij = i % Size.Studiji;
-            file.Add({std::to_string(i + 1), "Smjer " + std::string(Random.OneOf(Subjects)), "S" + Letters(i),
-                      std::to_string(studij + 1), std::string(RazinaOf(studij))});
+            const int studij = i % m_size.Studiji;
+            file.Add({std::to_string(i + 1), "Smjer " + std::string(m_random.OneOf(Subjects)),
+                      "S" + Letters(i), std::to_string(studij + 1), std::string(RazinaOf(studij))});
         }
         return file;
     }
@@ -233,16 +236,16 @@ private:
     {
         TableFile file(modData::Kolegiji.Layout());
         int id = 0;
-        for (int i = 0; i < Size.Kolegiji; ++i)
+        for (int i = 0; i < m_size.Kolegiji; ++i)
         {
-            id += Random.Below(10) == 0 ? 2 : 1; // a course in between was deleted once
-            const int studij = Random.Below(Size.Studiji);
-            Courses.push_back({id, studij});
+            id += m_random.Below(10) == 0 ? 2 : 1; // a course in between was deleted once
+            const int studij = m_random.Below(m_size.Studiji);
+            m_courses.push_back({id, studij});
             const int semesters = modData::LastSemestar(RazinaOf(studij));
-            std::string title(Random.OneOf(TitleBeginnings));
-            title.append(" ").append(Random.OneOf(Subjects)).append(Random.OneOf(TitleNumbers));
+            std::string title(m_random.OneOf(TitleBeginnings));
+            title.append(" ").append(m_random.OneOf(Subjects)).append(m_random.OneOf(TitleNumbers));
             file.Add({std::to_string(id), std::move(title), Number(0, 4), Number(0, 2), Number(0, 4),
-                      Number(2, 10), std::string(Random.OneOf(Types)), Number(1, semesters),
+                      Number(2, 10), std::string(m_random.OneOf(Types)), Number(1, semesters),
                       std::to_string(studij + 1)});
         }
         return file;
@@ -251,13 +254,13 @@ private:
     TableFile MakeKolegijSmjerovi()
     {
         std::vector<Fields> links;
-        for (std::size_t i = 0; i < Courses.size(); ++i)
+        for (std::size_t i = 0; i < m_courses.size(); ++i)
         {
-            const int directions = Share(Size.Smjerovi, Size.Studiji, 0);
-            const int count = Uneven(i, Size.KolegijSmjerovi);
-            for (const int choice : Random.Different(std::min(count, directions), directions))
-                links.push_back({std::to_string(Courses[i].ID),
-                                 std::to_string(choice * Size.Studiji + Courses[i].Studij + 1)});
+            const int directions = Share(m_size.Smjerovi, m_size.Studiji, 0);
+            const int count = Uneven(i, m_size.KolegijSmjerovi);
+            for (const int choice : m_random.Different(std::min(count, directions), directions))
+                links.push_back({std::to_string(m_courses[i].ID),
+                                 std::to_string(choice * m_size.Studiji + m_courses[i].Studij + 1)});
         }
         return LinkFile(modData::KolegijSmjerovi.Layout(), links);
     }
@@ -265,14 +268,14 @@ private:
     TableFile MakeKolegijNastavnici()
     {
         std::vector<Fields> links;
-        for (std::size_t i = 0; i < Courses.size(); ++i)
+        for (std::size_t i = 0; i < m_courses.size(); ++i)
         {
             const std::vector<int> lecturers =
-                Random.Different(Uneven(i, Size.KolegijNastavnici), Size.Nastavnici);
+                m_random.Different(Uneven(i, m_size.KolegijNastavnici), m_size.Nastavnici);
             for (std::size_t j = 0; j < lecturers.size(); ++j)
             {
                 const bool holds = j < HolderPlaces;
-                links.push_back({std::to_string(Courses[i].ID), std::to_string(lecturers[j] + 1),
+                links.push_back({std::to_string(m_courses[i].ID), std::to_string(lecturers[j] + 1),
                                  holds ? "Nositelj" : "Suradnik",
                                  std::to_string(holds ? j + 1 : HolderPlaces)});
             }
@@ -282,7 +285,7 @@ private:
 
     /// The links in course order, except that those of some courses stand at the end: editing a course moves
     /// them there.
-    TableFile LinkFile(const TableLayout& layout, const std::vector<Fields>& links)
+    TableFile LinkFile(const modData::TableLayout& layout, const std::vector<Fields>& links)
     {
         TableFile file(layout);
         std::vector<const Fields*> edited;
@@ -291,7 +294,7 @@ private:
         for (const Fields& link : links)
         {
             if (link.front() != course)
-                isEdited = Random.Below(10) == 0;
+                isEdited = m_random.Below(10) == 0;
             course = link.front();
             if (isEdited)
                 edited.push_back(&link);
@@ -306,7 +309,7 @@ private:
     /// How many of all links fall to a course: in every second pair one gives a link to the other.
     int Uneven(std::size_t course, int links) const
     {
-        const int even = Share(links, Size.Kolegiji, static_cast<int>(course));
+        const int even = Share(links, m_size.Kolegiji, static_cast<int>(course));
         if (course / 2 % 2 == 0)
             return even;
         return course % 2 == 0 ? even - 1 : even + 1;
@@ -314,19 +317,19 @@ private:
 
     std::string Surname()
     {
-        std::string surname(Random.OneOf(SurnameBeginnings));
-        surname.append(Random.OneOf(SurnameMiddles)).append(Random.OneOf(SurnameEndings));
+        std::string surname(m_random.OneOf(SurnameBeginnings));
+        surname.append(m_random.OneOf(SurnameMiddles)).append(m_random.OneOf(SurnameEndings));
         return surname;
     }
 
     std::string Number(int smallest, int largest)
     {
-        return std::to_string(smallest + Random.Below(largest - smallest + 1));
+        return std::to_string(smallest + m_random.Below(largest - smallest + 1));
     }
 
-    CatalogueSize Size;
-    Dice Random;
-    std::vector<Course> Courses;
+    CatalogueSize m_size;
+    Dice m_random;
+    std::vector<Course> m_courses;
 };
 
 } // namespace

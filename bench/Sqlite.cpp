@@ -188,7 +188,7 @@ SqliteCatalogue::SqliteCatalogue(const std::string& dataFolder)
     sqlite3* database = nullptr;
     const int opened = sqlite3_open_v2(
         ":memory:", &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
-    Database.reset(database);
+    m_database.reset(database);
     if (opened != SQLITE_OK)
         throw std::runtime_error("SQLite opens no database");
 
@@ -287,16 +287,16 @@ void SqliteCatalogue::ExportKolegiji(const std::string& path)
 
 void SqliteCatalogue::Run(std::string_view sql)
 {
-    if (sqlite3_exec(Database.get(), std::string(sql).c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sqlite3_errmsg(Database.get()));
+    if (sqlite3_exec(m_database.get(), std::string(sql).c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw std::runtime_error(sqlite3_errmsg(m_database.get()));
 }
 
 SqliteCatalogue::Statement SqliteCatalogue::Prepare(std::string_view sql)
 {
     sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(Database.get(), sql.data(), static_cast<int>(sql.size()), &statement, nullptr) !=
+    if (sqlite3_prepare_v2(m_database.get(), sql.data(), static_cast<int>(sql.size()), &statement, nullptr) !=
         SQLITE_OK)
-        throw std::runtime_error(sqlite3_errmsg(Database.get()));
+        throw std::runtime_error(sqlite3_errmsg(m_database.get()));
     return Statement(statement);
 }
 
@@ -304,7 +304,7 @@ std::int64_t SqliteCatalogue::FirstNumber(std::string_view sql)
 {
     const Statement statement = Prepare(sql);
     if (sqlite3_step(statement.get()) != SQLITE_ROW)
-        throw std::runtime_error(sqlite3_errmsg(Database.get()));
+        throw std::runtime_error(sqlite3_errmsg(m_database.get()));
     return sqlite3_column_int64(statement.get(), 0);
 }
 
@@ -321,7 +321,7 @@ void SqliteCatalogue::Import(const std::string& path, std::string_view insert, s
         for (const char type : columnTypes)
             Bind(statement.get(), ++place, type, TakeUntil(line, ";"));
         if (sqlite3_step(statement.get()) != SQLITE_DONE)
-            throw std::runtime_error(sqlite3_errmsg(Database.get()));
+            throw std::runtime_error(sqlite3_errmsg(m_database.get()));
         sqlite3_reset(statement.get());
     }
 }

@@ -49,5 +49,5 @@ private:
     std::int64_t FirstNumber(std::string_view sql);
     void Import(const std::string& path, std::string_view insert, std::string_view columnTypes);
 
-    std::unique_ptr<sqlite3, CloseDatabase> Database;
+    std::unique_ptr<sqlite3, CloseDatabase> m_database;
 };

@@ -19,10 +19,10 @@ std::string Utf8(const std::filesystem::path& path)
 } // namespace
 
 Workplace::Workplace(const CatalogueSize& size, const std::filesystem::path& folder)
-    : Fixed(size),
-      Folder(folder / size.Name)
+    : m_fixed(size),
+      m_folder(folder / size.Name)
 {
-    std::filesystem::remove_all(Folder);
+    std::filesystem::remove_all(m_folder);
     std::filesystem::create_directories(ToPath(DataFolder()));
     GenerateCatalogue(size, UsualSeed, ToPath(DataFolder()));
 }
@@ -34,31 +34,31 @@ std::string Workplace::DataFolder() const
 
 std::string Workplace::PathOf(std::string_view name) const
 {
-    return Utf8(Folder / ToPath(name));
+    return Utf8(m_folder / ToPath(name));
 }
 
 void Workplace::Enter()
 {
     if (Entered == this)
         return;
-    ::setenv("LOCALAPPDATA", Utf8(Folder).c_str(), 1);
+    ::setenv("LOCALAPPDATA", Utf8(m_folder).c_str(), 1);
 
     // The tables that were in use go back to their own workplace.
     if (Entered != nullptr)
-        for (Table* table : modData::AllTables())
-            Entered->Tables.push_back(std::move(*table));
-    if (Tables.empty())
+        for (modData::Table* table : modData::AllTables())
+            Entered->m_tables.push_back(std::move(*table));
+    if (m_tables.empty())
         modData::LoadAllTables();
     else
-        for (std::size_t i = 0; i < Tables.size(); ++i)
-            *modData::AllTables()[i] = std::move(Tables[i]);
-    Tables.clear();
+        for (std::size_t i = 0; i < m_tables.size(); ++i)
+            *modData::AllTables()[i] = std::move(m_tables[i]);
+    m_tables.clear();
     Entered = this;
 }
 
 reference::Catalogue& Workplace::Plain()
 {
-    if (!PlainTables)
-        PlainTables = std::make_unique<reference::Catalogue>(reference::Load(DataFolder()));
-    return *PlainTables;
+    if (!m_plainTables)
+        m_plainTables = std::make_unique<reference::Catalogue>(reference::Load(DataFolder()));
+    return *m_plainTables;
 }

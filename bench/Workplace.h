@@ -16,7 +16,7 @@ public:
     /// Generates a catalogue below the folder. @throws FileError
     Workplace(const CatalogueSize& size, const std::filesystem::path& folder);
 
-    const CatalogueSize& Size() const { return Fixed; }
+    const CatalogueSize& Size() const { return m_fixed; }
 
     /// The data folder, as UTF-8.
     std::string DataFolder() const;
@@ -31,8 +31,8 @@ public:
     reference::Catalogue& Plain();
 
 private:
-    CatalogueSize Fixed;
-    std::filesystem::path Folder;
-    std::vector<Table> Tables; // while another workplace is entered
-    std::unique_ptr<reference::Catalogue> PlainTables;
+    CatalogueSize m_fixed;
+    std::filesystem::path m_folder;
+    std::vector<modData::Table> m_tables; // while another workplace is entered
+    std::unique_ptr<reference::Catalogue> m_plainTables;
 };

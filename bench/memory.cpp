@@ -1,6 +1,6 @@
+#include "data/Choice.h"
 #include "data/Errors.h"
-#include "lists/Choice.h"
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
 #include "ui/main/CourseList.h"
@@ -42,10 +42,10 @@ void LoadAndRefresh()
 
     const std::int32_t lecturer = modData::Nastavnici[0].Number(Nastavnik::ID);
     const std::vector<ListRow> lecturerCourses = LecturerCourseRows(lecturer, {all, all});
-    const std::vector<ListRow> lecturerLoad = LecturerLoadRows(lecturer, {all, all});
+    const std::vector<ListRow> lecturerLoad = LecturerTeachingLoadRows(lecturer, {all, all});
     const std::int32_t department = modData::Zavodi[0].Number(Zavod::ID);
     const std::vector<ListRow> departmentCourses = DepartmentCourseRows(department, {all, all});
-    const std::vector<ListRow> departmentLoad = DepartmentLoadRows(department, {all, all});
+    const std::vector<ListRow> departmentLoad = DepartmentTeachingLoadRows(department, {all, all});
 }
 
 } // namespace

@@ -23,6 +23,16 @@ tests_at_once=$(($(nproc) + 3)) # more than processors, since the window tests m
 say() { echo "== $*" >&2; }
 fail() { echo "$*" >&2; exit 1; }
 
+# within SECONDS COMMAND...: whether the command succeeds before the time is over.
+within() {
+    local end=$((SECONDS + $1))
+    shift
+    until "$@"; do
+        ((SECONDS < end)) || return 1
+        sleep 0.2
+    done
+}
+
 # as_root COMMAND...: runs a command as root, through sudo where need be; fails where neither is to be had.
 as_root() {
     if [[ $EUID -eq 0 ]]; then "$@"; else sudo "$@"; fi

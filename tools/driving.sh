@@ -49,16 +49,6 @@ closes() {
     done
 }
 
-# within SECONDS COMMAND...: whether the command succeeds before the time is over.
-within() {
-    local end=$((SECONDS + $1))
-    shift
-    until "$@"; do
-        ((SECONDS < end)) || return 1
-        sleep 0.2
-    done
-}
-
 # still_picture WINDOW FILE: takes a picture once it looks the same twice; "root" is the whole screen.
 still_picture() {
     local before='' now='' end=$((SECONDS + still_wait))

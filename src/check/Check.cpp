@@ -63,8 +63,8 @@ std::size_t IndexIn(const Range& range, const Value& value, Projection projectio
 Position PositionOf(const Finding& finding)
 {
     const auto tables = modData::AllTables();
-    const std::size_t file =
-        IndexIn(tables, finding.Place.FileName, [](const Table* table) { return table->Layout().FileName; });
+    const std::size_t file = IndexIn(tables, finding.Place.FileName,
+                                     [](const modData::Table* table) { return table->Layout().FileName; });
     return {file, finding.Place.Line, IndexIn(tables[file]->Layout().Columns, finding.Place.Column)};
 }
 
@@ -72,7 +72,7 @@ Position PositionOf(const Finding& finding)
 void Validate(Findings& findings)
 {
     for (const modCSVValidator::RowCheck& check : modCSVValidator::RowChecks)
-        for (const Row& row : check.Rows)
+        for (const modData::Row& row : check.Rows)
         {
             modCSVValidator::Messages messages;
             try
@@ -124,7 +124,7 @@ Findings FindInTables(const Contents& contents)
 CatalogueOnDisk OnDisk(const std::string& folder)
 {
     CatalogueOnDisk files = {folder, {}};
-    for (const Table* table : modData::AllTables())
+    for (const modData::Table* table : modData::AllTables())
         files.Names.push_back(table->Layout().FileName);
     return files;
 }
@@ -147,7 +147,7 @@ Findings FindingsOf(const Contents& contents)
     for (std::size_t i = 0; i < contents.size(); ++i)
     {
         const std::string_view bytes = contents[i].Bytes ? *contents[i].Bytes : std::string_view();
-        const TableLayout& layout = tables[i]->Layout();
+        const modData::TableLayout& layout = tables[i]->Layout();
         if (contents[i].Failure)
             findings.push_back({Group::Error, {layout.FileName, 0, {}}, ErrorText(*contents[i].Failure)});
         else

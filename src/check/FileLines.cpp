@@ -1,6 +1,6 @@
 #include "check/FileLines.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 namespace Check
 {
@@ -38,7 +38,9 @@ bool IsSeparatorsOnly(std::string_view line)
     return line.find_first_not_of("; ") == std::string_view::npos && line.find(';') != std::string_view::npos;
 }
 
-EditorLines::EditorLines(std::string_view bytes, const TableLayout& layout) : Bytes(bytes), Layout(layout)
+EditorLines::EditorLines(std::string_view bytes, const modData::TableLayout& layout)
+    : m_bytes(bytes),
+      m_layout(layout)
 {
     if (!HasLoneLF(bytes))
         return;
@@ -48,24 +50,24 @@ EditorLines::EditorLines(std::string_view bytes, const TableLayout& layout) : By
         [&](const FileLine& line)
         {
             if (isStart)
-                Starts.push_back({static_cast<std::size_t>(line.Text.data() - bytes.data()), line.Number});
+                m_starts.push_back({static_cast<std::size_t>(line.Text.data() - bytes.data()), line.Number});
             isStart = line.End != "\n";
         });
 }
 
 FieldPlace EditorLines::Shown(FieldPlace place) const
 {
-    if (place.Line == 0 || place.Line > Starts.size())
+    if (place.Line == 0 || place.Line > m_starts.size())
         return place;
-    const auto column = std::ranges::find(Layout.Columns, place.Column);
-    auto before = column == Layout.Columns.end() ? 0 : column - Layout.Columns.begin(); // fields
-    const Start& start = Starts[place.Line - 1];
+    const auto column = std::ranges::find(m_layout.Columns, place.Column);
+    auto before = column == m_layout.Columns.end() ? 0 : column - m_layout.Columns.begin(); // fields
+    const Start& start = m_starts[place.Line - 1];
     place.Line = start.Number;
-    for (std::size_t i = start.Offset; before > 0 && i < Bytes.size(); ++i)
+    for (std::size_t i = start.Offset; before > 0 && i < m_bytes.size(); ++i)
     {
-        if (Bytes[i] == '\n')
+        if (m_bytes[i] == '\n')
             ++place.Line;
-        else if (Bytes[i] == ';')
+        else if (m_bytes[i] == ';')
             --before;
     }
     return place;

@@ -55,7 +55,7 @@ bool IsSeparatorsOnly(std::string_view line);
 class EditorLines
 {
 public:
-    EditorLines(std::string_view bytes, const TableLayout& layout);
+    EditorLines(std::string_view bytes, const modData::TableLayout& layout);
 
     FieldPlace Shown(FieldPlace place) const;
 
@@ -66,9 +66,9 @@ private:
         std::size_t Number;
     };
 
-    std::string_view Bytes;
-    const TableLayout& Layout;
-    std::vector<Start> Starts; // of the table's lines; none where both count alike
+    std::string_view m_bytes;
+    const modData::TableLayout& m_layout;
+    std::vector<Start> m_starts; // of the table's lines; none where both count alike
 };
 
 } // namespace Check

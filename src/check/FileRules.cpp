@@ -4,9 +4,9 @@
 #include "check/Letters.h"
 #include "check/Quotes.h"
 #include "check/Values.h"
-#include "data/Numbers.h"
 #include "data/Windows1250.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
 
 #include <utility>
 
@@ -32,59 +32,59 @@ constexpr std::string_view WordsOfQuotedEnd = "polje u navodnicima sadrži točk
 class FileRules
 {
 public:
-    FileRules(std::string_view bytes, const TableLayout& layout, Findings& findings)
-        : Bytes(bytes),
-          Layout(layout),
-          Found(findings),
-          Written(WritingOf(bytes))
+    FileRules(std::string_view bytes, const modData::TableLayout& layout, Findings& findings)
+        : m_bytes(bytes),
+          m_layout(layout),
+          m_found(findings),
+          m_written(WritingOf(bytes))
     {
     }
 
     void Run()
     {
-        if (Written.In == Letters::Utf16)
+        if (m_written.In == Letters::Utf16)
             return Add(Group::Danger, 0, WordsOfUtf16);
-        if (Written.HasMark)
-            Bytes.remove_prefix(modData::Utf8Mark.size());
-        if (Written.HasMark && Written.In != Letters::Utf8)
-            AddMendable(Group::Danger, {Layout.FileName, 1, {}}, std::string(WordsOfMark));
-        HasQuotes = Bytes.find('"') != std::string_view::npos;
-        HasNuls = Bytes.find('\0') != std::string_view::npos;
+        if (m_written.HasMark)
+            m_bytes.remove_prefix(modData::Utf8Mark.size());
+        if (m_written.HasMark && m_written.In != Letters::Utf8)
+            AddMendable(Group::Danger, {m_layout.FileName, 1, {}}, std::string(WordsOfMark));
+        m_hasQuotes = m_bytes.find('"') != std::string_view::npos;
+        m_hasNuls = m_bytes.find('\0') != std::string_view::npos;
         FindHeader();
-        ForEachLine(Bytes, [this](const FileLine& line) { FindInLine(line); });
+        ForEachLine(m_bytes, [this](const FileLine& line) { FindInLine(line); });
         AddLoneLF();
     }
 
 private:
     void Add(Group group, std::size_t line, std::string_view text, std::string_view column = {})
     {
-        Found.push_back({group, {Layout.FileName, line, column}, std::string(text)});
+        m_found.push_back({group, {m_layout.FileName, line, column}, std::string(text)});
     }
 
     void AddMendable(Group group, const FieldPlace& place, std::string text)
     {
-        Found.push_back({group, place, std::move(text), true});
+        m_found.push_back({group, place, std::move(text), true});
     }
 
     std::string_view ColumnAt(std::size_t position) const
     {
-        return position < Layout.Columns.size() ? Layout.Columns[position] : std::string_view();
+        return position < m_layout.Columns.size() ? m_layout.Columns[position] : std::string_view();
     }
 
     /// Bytes of the file as text.
     std::string Decoded(std::string_view bytes) const
     {
-        return Written.In == Letters::Utf8 ? std::string(bytes) : FromWindows1250(bytes);
+        return m_written.In == Letters::Utf8 ? std::string(bytes) : FromWindows1250(bytes);
     }
 
     void FindHeader()
     {
-        std::string_view bytes = Bytes;
+        std::string_view bytes = m_bytes;
         const std::string_view line = bytes.empty() ? bytes : TakeFileLine(bytes, 1).Text;
-        const std::string header = Layout.Header();
+        const std::string header = m_layout.Header();
         if (line == header)
             return;
-        for (const Table* table : modData::AllTables())
+        for (const modData::Table* table : modData::AllTables())
             if (line == table->Layout().Header())
                 return Add(Group::Danger, 1,
                            "zaglavlje je od datoteke " + std::string(table->Layout().FileName) + ": " +
@@ -98,23 +98,24 @@ private:
 
     void FindInLine(const FileLine& line)
     {
-        if (line.End == "\n" && LoneLFs++ == 0)
-            FirstLoneLF = line.Number;
-        const FieldPlace place = {Layout.FileName, line.Number, {}};
+        if (line.End == "\n" && m_loneLFs++ == 0)
+            m_firstLoneLF = line.Number;
+        const FieldPlace place = {m_layout.FileName, line.Number, {}};
         if (line.Number > 1 && IsSeparatorsOnly(line.Text))
             AddMendable(Group::Note, place, "redak ima samo razdjelnike, bez podataka");
-        if (!Written.HasMark && Written.In == Letters::Mixed && IsUtf8Text(line.Text))
+        if (!m_written.HasMark && m_written.In == Letters::Mixed && IsUtf8Text(line.Text))
             Add(Group::Danger, line.Number, WordsOfUtf8Line);
-        if (!Written.HasMark && Written.In == Letters::Utf8 && !IsUtf8Told && IsBeyondAsciiUtf8(line.Text))
+        if (!m_written.HasMark && m_written.In == Letters::Utf8 && !m_isUtf8Told &&
+            IsBeyondAsciiUtf8(line.Text))
         {
             AddMendable(Group::Danger, place, std::string(WordsOfUtf8));
-            IsUtf8Told = true;
+            m_isUtf8Told = true;
         }
-        const bool hasQuote = HasQuotes && line.Text.find('"') != std::string_view::npos;
-        if (hasQuote || HasNuls || Written.In == Letters::Utf8) // in most files nothing is to be found
+        const bool hasQuote = m_hasQuotes && line.Text.find('"') != std::string_view::npos;
+        if (hasQuote || m_hasNuls || m_written.In == Letters::Utf8) // in most files nothing is to be found
             ForEachField(line.Text,
                          [&](std::string_view field, std::size_t position) {
-                             FindInField(field, {Layout.FileName, line.Number, ColumnAt(position)});
+                             FindInField(field, {m_layout.FileName, line.Number, ColumnAt(position)});
                          });
         if (hasQuote)
             FindQuotedEnd(line);
@@ -123,48 +124,49 @@ private:
     void FindInField(std::string_view field, const FieldPlace& place)
     {
         if (field.find('\0') != std::string_view::npos)
-            Found.push_back({Group::Danger, place, "polje sadrži znak NUL: " + InQuotes(Decoded(field))});
-        if (Written.In == Letters::Utf8)
+            m_found.push_back({Group::Danger, place, "polje sadrži znak NUL: " + InQuotes(Decoded(field))});
+        if (m_written.In == Letters::Utf8)
             if (const std::string lost = LettersLost(field); !lost.empty())
-                Found.push_back({Group::Danger, place,
-                                 "u zapisu windows-1250 nema ovih znakova, program bi ih zamijenio "
-                                 "upitnicima: " +
-                                     Shown(lost)});
+                m_found.push_back({Group::Danger, place,
+                                   "u zapisu windows-1250 nema ovih znakova, program bi ih zamijenio "
+                                   "upitnicima: " +
+                                       Shown(lost)});
         if (field.starts_with('"') && IsQuoted(field))
             AddMendable(Group::Note, place, std::string(WordsOfQuotes) + Shown(Decoded(field)));
     }
 
     void FindQuotedEnd(const FileLine& line)
     {
-        const std::string_view rest = Bytes.substr(static_cast<std::size_t>(line.Text.data() - Bytes.data()));
-        if (const std::size_t size = QuotedRecordSize(rest, Layout.Columns.size()); size > 0)
+        const std::string_view rest =
+            m_bytes.substr(static_cast<std::size_t>(line.Text.data() - m_bytes.data()));
+        if (const std::size_t size = QuotedRecordSize(rest, m_layout.Columns.size()); size > 0)
             Add(Group::Note, line.Number,
                 std::string(WordsOfQuotedEnd) + Shown(Decoded(rest.substr(0, size))));
     }
 
     void AddLoneLF()
     {
-        if (LoneLFs > 0)
+        if (m_loneLFs > 0)
             AddMendable(
-                Group::Danger, {Layout.FileName, FirstLoneLF, {}},
+                Group::Danger, {m_layout.FileName, m_firstLoneLF, {}},
                 "kraj retka je samo LF umjesto CR LF, pa program redak i sljedeći čita kao jedan (takvih: " +
-                    std::to_string(LoneLFs) + ")");
+                    std::to_string(m_loneLFs) + ")");
     }
 
-    std::string_view Bytes;
-    const TableLayout& Layout;
-    Findings& Found;
-    Writing Written;
-    std::size_t LoneLFs = 0;
-    std::size_t FirstLoneLF = 0;
-    bool IsUtf8Told = false;
-    bool HasQuotes = false;
-    bool HasNuls = false;
+    std::string_view m_bytes;
+    const modData::TableLayout& m_layout;
+    Findings& m_found;
+    Writing m_written;
+    std::size_t m_loneLFs = 0;
+    std::size_t m_firstLoneLF = 0;
+    bool m_isUtf8Told = false;
+    bool m_hasQuotes = false;
+    bool m_hasNuls = false;
 };
 
 } // namespace
 
-void FindInFile(std::string_view bytes, const TableLayout& layout, Findings& findings)
+void FindInFile(std::string_view bytes, const modData::TableLayout& layout, Findings& findings)
 {
     if (!bytes.empty())
         FileRules(bytes, layout, findings).Run();

@@ -9,6 +9,6 @@ namespace Check
 {
 
 /// What the bytes of a table's file show before anything is read as a number.
-void FindInFile(std::string_view bytes, const TableLayout& layout, Findings& findings);
+void FindInFile(std::string_view bytes, const modData::TableLayout& layout, Findings& findings);
 
 } // namespace Check

@@ -1,9 +1,9 @@
 #include "check/Letters.h"
 
 #include "check/FileLines.h"
-#include "data/Text.h"
 #include "data/Windows1250.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ namespace
 
 bool IsAscii(std::string_view bytes)
 {
-    TakeAscii(bytes);
+    TakeAsciiPrefix(bytes);
     return bytes.empty();
 }
 
@@ -37,11 +37,11 @@ void ForEachBeyondAscii(std::string_view text, const Visit& visit)
 {
     while (!text.empty())
     {
-        TakeAscii(text);
+        TakeAsciiPrefix(text);
         if (text.empty())
             return;
         const std::string_view before = text;
-        const bool isReplaced = TakeCodePoint(text) == U'\uFFFD';
+        const bool isReplaced = DecodeUtf8(text) == U'\uFFFD';
         const std::string_view character = before.substr(0, before.size() - text.size());
         if (!visit(character, !isReplaced || character.size() > 1))
             return;

@@ -49,21 +49,21 @@ bool IsWholeRow(const FileLine& record, std::size_t columns)
 class RecordMender
 {
 public:
-    RecordMender(const TableLayout& layout, bool isUtf8, Mended& result)
-        : Layout(layout),
-          Columns(layout.Columns.size()),
-          IsUtf8(isUtf8),
-          Result(result)
+    RecordMender(const modData::TableLayout& layout, bool isUtf8, Mended& result)
+        : m_layout(layout),
+          m_columns(layout.Columns.size()),
+          m_isUtf8(isUtf8),
+          m_result(result)
     {
     }
 
     void Run(std::string_view bytes)
     {
-        const std::vector<FileLine> records = RecordsOf(bytes, Columns);
+        const std::vector<FileLine> records = RecordsOf(bytes, m_columns);
         if (records.empty())
             return;
-        HeaderIsQuoted = IsQuotedThroughout(records.front().Text);
-        HasCR =
+        m_headerIsQuoted = IsQuotedThroughout(records.front().Text);
+        m_hasCR =
             std::ranges::any_of(records, [](const FileLine& record) { return record.End.starts_with('\r'); });
         for (auto begin = records.begin(); begin != records.end();)
         {
@@ -74,20 +74,20 @@ public:
             MendTableLine({begin, end});
             begin = end;
         }
-        if (LoneLFs > 0)
-            Tell(Result.Changes, FirstLoneLF, {},
-                 "krajevi redaka LF zamijenjeni su s CR LF (takvih: " + std::to_string(LoneLFs) + ")");
+        if (m_loneLFs > 0)
+            Tell(m_result.Changes, m_firstLoneLF, {},
+                 "krajevi redaka LF zamijenjeni su s CR LF (takvih: " + std::to_string(m_loneLFs) + ")");
     }
 
 private:
     void Tell(std::vector<Change>& changes, std::size_t line, std::string_view column, std::string text)
     {
-        changes.push_back({{Layout.FileName, line, column}, std::move(text)});
+        changes.push_back({{m_layout.FileName, line, column}, std::move(text)});
     }
 
     std::string Quoted(std::string_view bytes) const
     {
-        return InQuotes(IsUtf8 ? std::string(bytes) : FromWindows1250(bytes));
+        return InQuotes(m_isUtf8 ? std::string(bytes) : FromWindows1250(bytes));
     }
 
     /// Where other lines end in CR, a lone LF may be part of a field: it is mended where whole rows are on
@@ -95,47 +95,47 @@ private:
     void MendTableLine(std::span<const FileLine> records)
     {
         const bool hasLoneLF = records.front().End == LoneLF;
-        const bool isClear = !hasLoneLF || !HasCR ||
+        const bool isClear = !hasLoneLF || !m_hasCR ||
                              std::ranges::all_of(records, [this](const FileLine& record)
-                                                 { return IsWholeRow(record, Columns); });
+                                                 { return IsWholeRow(record, m_columns); });
         if (!isClear)
-            Tell(Result.Left, records.front().Number, {},
+            Tell(m_result.Left, records.front().Number, {},
                  "LF usred retka nije zamijenjen, jer nije jasno gdje redak završava");
         for (const FileLine& record : records)
             if (isClear)
                 MendRecord(record);
             else
-                Result.Bytes.append(record.Text).append(record.End);
+                m_result.Bytes.append(record.Text).append(record.End);
     }
 
     void MendRecord(const FileLine& record)
     {
         const bool isHeader = record.Number == 1;
         if (!isHeader && IsSeparatorsOnly(record.Text))
-            return Tell(Result.Changes, record.Number, {}, "uklonjen je redak samih razdjelnika");
-        if (record.End == LoneLF && LoneLFs++ == 0)
-            FirstLoneLF = record.Number;
+            return Tell(m_result.Changes, record.Number, {}, "uklonjen je redak samih razdjelnika");
+        if (record.End == LoneLF && m_loneLFs++ == 0)
+            m_firstLoneLF = record.Number;
         MendQuotes(record);
-        Result.Bytes += record.End == LoneLF ? "\r\n" : record.End;
+        m_result.Bytes += record.End == LoneLF ? "\r\n" : record.End;
     }
 
     void MendQuotes(const FileLine& record)
     {
-        if (QuotedRecordSize(record.Text, Columns) > 0)
-            Tell(Result.Left, record.Number, {},
+        if (QuotedRecordSize(record.Text, m_columns) > 0)
+            Tell(m_result.Left, record.Number, {},
                  "navodnici oko točke-zareza ili prijeloma retka nisu uklonjeni: " + Quoted(record.Text));
-        if (FieldCount(record.Text) != Columns || QuotedRecordSize(record.Text, Columns) > 0)
+        if (FieldCount(record.Text) != m_columns || QuotedRecordSize(record.Text, m_columns) > 0)
         {
-            Result.Bytes += record.Text;
+            m_result.Bytes += record.Text;
             return;
         }
         ForEachField(record.Text,
                      [&](std::string_view field, std::size_t position)
                      {
                          if (position > 0)
-                             Result.Bytes += ';';
-                         Result.Bytes +=
-                             MendedField(field, {Layout.FileName, record.Number, Layout.Columns[position]});
+                             m_result.Bytes += ';';
+                         m_result.Bytes += MendedField(
+                             field, {m_layout.FileName, record.Number, m_layout.Columns[position]});
                      });
     }
 
@@ -144,22 +144,22 @@ private:
     std::string MendedField(std::string_view field, const FieldPlace& place)
     {
         if (!IsQuoted(field) ||
-            !(HeaderIsQuoted || field.substr(1, field.size() - 2).find('"') != std::string_view::npos))
+            !(m_headerIsQuoted || field.substr(1, field.size() - 2).find('"') != std::string_view::npos))
             return std::string(field);
         std::string text = Unquoted(field);
-        Result.Changes.push_back(
+        m_result.Changes.push_back(
             {place, "uklonjeni su navodnici: " + Quoted(field) + " je sada " + Quoted(text)});
         return text;
     }
 
-    const TableLayout& Layout;
-    std::size_t Columns;
-    bool IsUtf8;
-    Mended& Result;
-    bool HeaderIsQuoted = false;
-    bool HasCR = false;
-    std::size_t LoneLFs = 0;
-    std::size_t FirstLoneLF = 0;
+    const modData::TableLayout& m_layout;
+    std::size_t m_columns;
+    bool m_isUtf8;
+    Mended& m_result;
+    bool m_headerIsQuoted = false;
+    bool m_hasCR = false;
+    std::size_t m_loneLFs = 0;
+    std::size_t m_firstLoneLF = 0;
 };
 
 /// Why the letters of a file cannot be mended without a decision; empty when they can.
@@ -176,7 +176,7 @@ std::string WhyLettersStay(std::string_view bytes, const Writing& writing)
     return {};
 }
 
-Mended MendOnce(std::string_view bytes, const TableLayout& layout)
+Mended MendOnce(std::string_view bytes, const modData::TableLayout& layout)
 {
     const auto told = [&](std::string text) {
         return std::vector<Change>{{{layout.FileName, 0, {}}, std::move(text)}};
@@ -204,7 +204,7 @@ Mended MendOnce(std::string_view bytes, const TableLayout& layout)
 
 } // namespace
 
-Mended Mend(std::string_view bytes, const TableLayout& layout)
+Mended Mend(std::string_view bytes, const modData::TableLayout& layout)
 {
     Mended mended = MendOnce(bytes, layout);
     if (mended.Changes.empty() || MendOnce(mended.Bytes, layout).Changes.empty())

@@ -26,6 +26,6 @@ struct Mended
 
 /// Mends in a table's file what needs no decision: lone LFs, UTF-8 without a mark, a mark before windows-1250
 /// text, a spreadsheet's quotes around a whole field, rows of separators. Mending again changes nothing.
-Mended Mend(std::string_view bytes, const TableLayout& layout);
+Mended Mend(std::string_view bytes, const modData::TableLayout& layout);
 
 } // namespace Check

@@ -39,7 +39,7 @@ MendedCatalogue MendFiles(const std::string& folder)
     {
         if (!contents[i].Bytes)
             continue;
-        const TableLayout& layout = modData::AllTables()[i]->Layout();
+        const modData::TableLayout& layout = modData::AllTables()[i]->Layout();
         auto [bytes, changes, left] = Mend(*contents[i].Bytes, layout);
         mended.Files.Names.push_back(layout.FileName);
         mended.Bytes[layout.FileName] = std::move(bytes);

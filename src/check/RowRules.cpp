@@ -1,8 +1,9 @@
 #include "check/RowRules.h"
 
 #include "check/Values.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <limits>
@@ -34,7 +35,7 @@ constexpr std::size_t KolegijNastavnikNumbers[] = {KolegijNastavnik::KolegijID, 
 /// What the program needs of a row.
 struct RowNeeds
 {
-    const Table& Rows;
+    const modData::Table& Rows;
     std::size_t Fields; ///< With fewer, the validation or a window ends in an error.
     std::span<const std::size_t> Numbers;
 };
@@ -54,14 +55,14 @@ std::string Counted(std::size_t count, std::size_t expected)
     return "polja: " + std::to_string(count) + " umjesto " + std::to_string(expected);
 }
 
-FieldPlace LinePlace(const Row& row)
+FieldPlace LinePlace(const modData::Row& row)
 {
     FieldPlace place = row.Place(0);
     place.Column = {};
     return place;
 }
 
-bool IsBlank(const Row& row)
+bool IsBlank(const modData::Row& row)
 {
     for (std::size_t i = 0; i < row.FieldCount(); ++i)
         if (!TrimBlanks(row.Field(i)).empty())
@@ -69,7 +70,7 @@ bool IsBlank(const Row& row)
     return true;
 }
 
-void FindFieldCount(const Row& row, const RowNeeds& needs, Findings& findings)
+void FindFieldCount(const modData::Row& row, const RowNeeds& needs, Findings& findings)
 {
     const std::size_t columns = needs.Rows.Layout().Columns.size();
     const std::size_t count = row.FieldCount();
@@ -82,7 +83,7 @@ void FindFieldCount(const Row& row, const RowNeeds& needs, Findings& findings)
                             "redak ima premalo " + Counted(count, columns)});
 }
 
-void FindUnreadNumbers(const Row& row, const RowNeeds& needs, Findings& findings)
+void FindUnreadNumbers(const modData::Row& row, const RowNeeds& needs, Findings& findings)
 {
     for (const std::size_t column : needs.Numbers)
         if (column < row.FieldCount())
@@ -96,7 +97,7 @@ void FindUnreadNumbers(const Row& row, const RowNeeds& needs, Findings& findings
             }
 }
 
-void FindInRow(const Row& row, const RowNeeds& needs, Findings& findings)
+void FindInRow(const modData::Row& row, const RowNeeds& needs, Findings& findings)
 {
     if (IsBlank(row)) // a row of separators, which the rules for the file report
         return;
@@ -110,9 +111,9 @@ void FindInRow(const Row& row, const RowNeeds& needs, Findings& findings)
 
 /// Runs a rule over the rows of a table. A row that cannot be read has been reported already.
 template<typename Rule>
-void ForEachReadable(const Table& table, const Rule& rule)
+void ForEachReadable(const modData::Table& table, const Rule& rule)
 {
-    for (const Row& row : table)
+    for (const modData::Row& row : table)
         try
         {
             rule(row);
@@ -124,28 +125,28 @@ void ForEachReadable(const Table& table, const Rule& rule)
 
 /// Calls `tell` with each row whose key an earlier row has.
 template<typename Key, typename Tell>
-void ForEachRepeated(const Table& table, const Key& key, const Tell& tell)
+void ForEachRepeated(const modData::Table& table, const Key& key, const Tell& tell)
 {
     std::vector<std::int64_t> keys;
     keys.reserve(table.RowCount());
-    ForEachReadable(table, [&](const Row& row) { keys.push_back(key(row)); });
+    ForEachReadable(table, [&](const modData::Row& row) { keys.push_back(key(row)); });
     std::ranges::sort(keys); // several times as fast as a set, and mostly nothing is repeated
     if (std::ranges::adjacent_find(keys) == keys.end())
         return;
     std::unordered_set<std::int64_t> seen;
     ForEachReadable(table,
-                    [&](const Row& row)
+                    [&](const modData::Row& row)
                     {
                         if (!seen.insert(key(row)).second)
                             tell(row);
                     });
 }
 
-void FindRepeatedIDs(const Table& table, Findings& findings)
+void FindRepeatedIDs(const modData::Table& table, Findings& findings)
 {
     ForEachRepeated(
-        table, [](const Row& row) { return std::int64_t{row.Number(0)}; },
-        [&](const Row& row)
+        table, [](const modData::Row& row) { return std::int64_t{row.Number(0)}; },
+        [&](const modData::Row& row)
         {
             findings.push_back({Group::Note, row.Place(0),
                                 "ID " + std::to_string(row.Number(0)) +
@@ -158,9 +159,9 @@ void FindRepeatedLecturers(Findings& findings)
     using namespace KolegijNastavnik;
     ForEachRepeated(
         KolegijNastavnici,
-        [](const Row& row)
+        [](const modData::Row& row)
         { return (std::int64_t{row.Number(KolegijID)} << 32) ^ std::uint32_t(row.Number(NastavnikID)); },
-        [&](const Row& row)
+        [&](const modData::Row& row)
         {
             findings.push_back({Group::Note, row.Place(NastavnikID),
                                 "nastavnik " + std::to_string(row.Number(NastavnikID)) +
@@ -169,33 +170,34 @@ void FindRepeatedLecturers(Findings& findings)
         });
 }
 
-void FindHours(const Row& row, Findings& findings)
+void FindHours(const modData::Row& row, Findings& findings)
 {
     for (const std::size_t column : HourColumns)
     {
         std::int32_t number = 0;
-        if (ReadLong(row.Field(column), number) == NumberReading::Whole && number < 0)
+        if (ParseLong(row.Field(column), number) == NumberKind::Whole && number < 0)
             findings.push_back(
                 {Group::Note, row.Place(column), "broj je manji od nule: " + InQuotes(row.Field(column))});
     }
 }
 
-void FindTip(const Row& row, Findings& findings)
+void FindTip(const modData::Row& row, Findings& findings)
 {
     const std::string_view tip = row.Field(Kolegij::Tip);
-    if (!IsWord(tip, "OBVEZNI") && !IsWord(tip, "IZBORNI"))
+    if (!EqualsIgnoreCase(tip, "OBVEZNI") && !EqualsIgnoreCase(tip, "IZBORNI"))
         findings.push_back(
             {Group::Note, row.Place(Kolegij::Tip), "tip nije ni obvezni ni izborni: " + InQuotes(tip)});
 }
 
-void FindLastID(const Row& row, Findings& findings)
+void FindLastID(const modData::Row& row, Findings& findings)
 {
     if (row.Number(Kolegij::ID) == std::numeric_limits<std::int32_t>::max())
         findings.push_back({Group::Danger, row.Place(Kolegij::ID),
                             "za novi kolegij više nema broja, pa bi dodavanje završilo greškom"});
 }
 
-void FindMissingLink(const Row& row, const Table& links, std::string_view text, Findings& findings)
+void FindMissingLink(const modData::Row& row, const modData::Table& links, std::string_view text,
+                     Findings& findings)
 {
     constexpr std::size_t kolegijColumn = 0; // of both tables of links
     if (links.FindFirst(kolegijColumn, row.Number(Kolegij::ID)) == nullptr)
@@ -203,7 +205,7 @@ void FindMissingLink(const Row& row, const Table& links, std::string_view text, 
             {Group::Note, LinePlace(row), std::string(text) + ": " + InQuotes(row.Field(Kolegij::Naziv))});
 }
 
-void FindInKolegij(const Row& row, Findings& findings)
+void FindInKolegij(const modData::Row& row, Findings& findings)
 {
     FindHours(row, findings);
     FindTip(row, findings);
@@ -212,10 +214,10 @@ void FindInKolegij(const Row& row, Findings& findings)
     FindMissingLink(row, KolegijNastavnici, "kolegij nema nositelja", findings);
 }
 
-void FindForeignSmjer(const Row& link, Findings& findings)
+void FindForeignSmjer(const modData::Row& link, Findings& findings)
 {
-    const Row* kolegij = Kolegiji.FindFirst(Kolegij::ID, link.Number(KolegijSmjer::KolegijID));
-    const Row* smjer = Smjerovi.FindFirst(Smjer::ID, link.Number(KolegijSmjer::SmjerID));
+    const modData::Row* kolegij = Kolegiji.FindFirst(Kolegij::ID, link.Number(KolegijSmjer::KolegijID));
+    const modData::Row* smjer = Smjerovi.FindFirst(Smjer::ID, link.Number(KolegijSmjer::SmjerID));
     if (kolegij != nullptr && smjer != nullptr &&
         kolegij->Number(Kolegij::StudijID) != smjer->Number(Smjer::StudijID))
         findings.push_back({Group::Note, link.Place(KolegijSmjer::SmjerID),
@@ -229,13 +231,13 @@ void FindForeignSmjer(const Row& link, Findings& findings)
 void FindInRows(Findings& findings)
 {
     for (const RowNeeds& needs : Needs)
-        for (const Row& row : needs.Rows)
+        for (const modData::Row& row : needs.Rows)
             FindInRow(row, needs, findings);
-    for (const Table* table :
+    for (const modData::Table* table :
          {&Zavodi, &Studiji, &Smjerovi}) // the validation looks for repeated IDs in others
         FindRepeatedIDs(*table, findings);
-    ForEachReadable(Kolegiji, [&](const Row& row) { FindInKolegij(row, findings); });
-    ForEachReadable(KolegijSmjerovi, [&](const Row& row) { FindForeignSmjer(row, findings); });
+    ForEachReadable(Kolegiji, [&](const modData::Row& row) { FindInKolegij(row, findings); });
+    ForEachReadable(KolegijSmjerovi, [&](const modData::Row& row) { FindForeignSmjer(row, findings); });
     FindRepeatedLecturers(findings);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <string>
 #include <string_view>

@@ -14,16 +14,16 @@ constexpr int LockWait = 10'000; // milliseconds
 
 CatalogueLock::CatalogueLock(const std::string& folder, LockKind kind)
 {
-    const std::error_code failure = Files.Lock(ToPath(folder), kind, LockWait, Lock);
+    const std::error_code failure = Files.Lock(ToPath(folder), kind, LockWait, m_lock);
     if (failure == std::errc::timed_out)
         throw FileError(failure, folder);
-    Held = !failure;
+    m_held = !failure;
 }
 
 CatalogueLock::~CatalogueLock()
 {
-    if (Held)
-        Files.Unlock(Lock);
+    if (m_held)
+        Files.Unlock(m_lock);
 }
 
 void RequireDone(std::error_code failure, std::string_view path)

@@ -27,11 +27,11 @@ public:
     CatalogueLock(const CatalogueLock&) = delete;
     CatalogueLock& operator=(const CatalogueLock&) = delete;
 
-    bool IsHeld() const { return Held; }
+    bool IsHeld() const { return m_held; }
 
 private:
-    FileOperations::Handle Lock = 0;
-    bool Held = false;
+    FileOperations::Handle m_lock = 0;
+    bool m_held = false;
 };
 
 /// Throws the failure of an operation on the file or folder at `path`. @throws FileError

@@ -1,6 +1,6 @@
 #include "data/Errors.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 namespace
 {
@@ -91,11 +91,17 @@ TypeMismatch::TypeMismatch(std::string_view value, const FieldPlace& place)
 {
 }
 
-Overflow::Overflow() : DataError(6, "Zbroj je izvan dopuštenog raspona " + std::string(LongRange) + ".") {}
+OverflowError::OverflowError()
+    : DataError(6, "Zbroj je izvan dopuštenog raspona " + std::string(LongRange) + ".")
+{
+}
 
-Overflow::Overflow(std::string_view value) : DataError(6, TooLarge(value) + ".") {}
+OverflowError::OverflowError(std::string_view value) : DataError(6, TooLarge(value) + ".") {}
 
-Overflow::Overflow(std::string_view value, const FieldPlace& place) : DataError(6, TooLarge(value), place) {}
+OverflowError::OverflowError(std::string_view value, const FieldPlace& place)
+    : DataError(6, TooLarge(value), place)
+{
+}
 
 SubscriptOutOfRange::SubscriptOutOfRange(const FieldPlace& place)
     : DataError(9, "Redak ima premalo polja", place)

@@ -53,12 +53,12 @@ public:
 };
 
 /// A number or a sum lies outside the 32-bit signed range.
-class Overflow : public DataError
+class OverflowError : public DataError
 {
 public:
-    Overflow();
-    explicit Overflow(std::string_view value);
-    Overflow(std::string_view value, const FieldPlace& place);
+    OverflowError();
+    explicit OverflowError(std::string_view value);
+    OverflowError(std::string_view value, const FieldPlace& place);
 };
 
 /// A row has fewer fields than the column that is read needs.

@@ -25,14 +25,14 @@ void Require(std::error_code failure, std::string_view path)
 class OpenFile
 {
 public:
-    OpenFile(const fs::path& file, OpenFor purpose, std::string_view path) : Path(path)
+    OpenFile(const fs::path& file, OpenFor purpose, std::string_view path) : m_path(path)
     {
-        Require(Files.Open(file, purpose, Handle), path);
+        Require(Files.Open(file, purpose, m_handle), path);
     }
     ~OpenFile()
     {
-        if (IsOpen)
-            Files.Close(Handle);
+        if (m_isOpen)
+            Files.Close(m_handle);
     }
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
@@ -45,28 +45,28 @@ public:
         for (std::size_t count = 1; count > 0 && content.size() < limit; content.append(buffer.data(), count))
         {
             const std::size_t wanted = std::min(buffer.size(), limit - content.size());
-            Require(Files.Read(Handle, {buffer.data(), wanted}, count), Path);
+            Require(Files.Read(m_handle, {buffer.data(), wanted}, count), m_path);
         }
         return content;
     }
 
-    void Write(std::string_view content) { Require(Files.Write(Handle, content), Path); }
+    void Write(std::string_view content) { Require(Files.Write(m_handle, content), m_path); }
 
     /// Takes the mode and owner of another file; not every file system has them.
-    void TakeAccess(const fs::path& model) { Files.TakeAccess(Handle, model); }
+    void TakeAccess(const fs::path& model) { Files.TakeAccess(m_handle, model); }
 
     /// Flushes to disk and closes.
     void Finish()
     {
-        Require(Files.Flush(Handle), Path);
-        IsOpen = false;
-        Require(Files.Close(Handle), Path);
+        Require(Files.Flush(m_handle), m_path);
+        m_isOpen = false;
+        Require(Files.Close(m_handle), m_path);
     }
 
 private:
-    std::string_view Path;
-    FileOperations::Handle Handle = 0;
-    bool IsOpen = true;
+    std::string_view m_path;
+    FileOperations::Handle m_handle = 0;
+    bool m_isOpen = true;
 };
 
 FileFacts FactsOf(const fs::path& file, std::string_view path)
@@ -245,6 +245,6 @@ void WriteNewFile(std::string_view path, std::string_view content, std::string_v
 
 void TextFile::AddLine(std::string_view text)
 {
-    AppendWindows1250(Bytes, text);
-    Bytes += "\r\n";
+    AppendWindows1250(m_bytes, text);
+    m_bytes += "\r\n";
 }

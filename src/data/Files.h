@@ -52,11 +52,11 @@ public:
     void AddLine(std::string_view text);
 
     /// The bytes of the lines added so far.
-    const std::string& Content() const { return Bytes; }
+    const std::string& Content() const { return m_bytes; }
 
     /// Writes the lines added so far, by ReplaceFile. @throws FileError
-    void SaveAs(std::string_view path) const { ReplaceFile(path, Bytes); }
+    void SaveAs(std::string_view path) const { ReplaceFile(path, m_bytes); }
 
 private:
-    std::string Bytes;
+    std::string m_bytes;
 };

@@ -1,7 +1,7 @@
 #include "data/Lookups.h"
 
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,10 +1,15 @@
 #include "data/Table.h"
 
+#include "data/CheckedNumbers.h"
 #include "data/Errors.h"
-#include "data/Text.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <utility>
+
+namespace modData
+{
 
 namespace
 {
@@ -33,50 +38,50 @@ std::int32_t Row::Number(std::size_t column, Conversion conversion) const
     if (conversion == Conversion::Safe)
         return ToLongOrZero(text);
     std::int32_t value = 0;
-    const NumberReading reading = ReadLong(text, value);
-    if (reading == NumberReading::NotNumeric)
+    const NumberKind reading = ParseLong(text, value);
+    if (reading == NumberKind::NotNumeric)
         throw TypeMismatch(text, Place(column));
-    if (reading == NumberReading::TooLarge)
-        throw Overflow(text, Place(column));
+    if (reading == NumberKind::TooLarge)
+        throw OverflowError(text, Place(column));
     return value;
 }
 
 Table::Table(const TableLayout& layout)
-    : TableColumns(&layout),
-      Memory(std::make_unique<std::pmr::monotonic_buffer_resource>())
+    : m_layout(&layout),
+      m_memory(std::make_unique<std::pmr::monotonic_buffer_resource>())
 {
 }
 
 void Table::AppendLine(std::string_view line, std::uint32_t lineNumber)
 {
-    FieldEnds.clear();
+    m_fieldEnds.clear();
     for (std::size_t end = line.find(';'); end != std::string_view::npos; end = line.find(';', end + 1))
-        FieldEnds.push_back(static_cast<std::uint32_t>(end));
-    FieldEnds.push_back(static_cast<std::uint32_t>(line.size()));
-    Rows.push_back(NewRow(line, FieldEnds, lineNumber));
+        m_fieldEnds.push_back(static_cast<std::uint32_t>(end));
+    m_fieldEnds.push_back(static_cast<std::uint32_t>(line.size()));
+    m_rows.push_back(NewRow(line, m_fieldEnds, lineNumber));
     m_indexes.clear();
 }
 
 void Table::Append(const std::vector<std::string>& fields)
 {
-    Rows.push_back(EnteredRow(fields));
+    m_rows.push_back(EnteredRow(fields));
     m_indexes.clear();
 }
 
 void Table::Replace(std::size_t position, const std::vector<std::string>& fields)
 {
-    Rows[position] = EnteredRow(fields);
+    m_rows[position] = EnteredRow(fields);
     m_indexes.clear();
 }
 
 void Table::RemoveMatches(std::size_t column, std::int32_t number)
 {
     std::vector<Row> kept;
-    kept.reserve(Rows.size());
-    std::copy_if(Rows.rbegin(), Rows.rend(), std::back_inserter(kept),
+    kept.reserve(m_rows.size());
+    std::copy_if(m_rows.rbegin(), m_rows.rend(), std::back_inserter(kept),
                  [&](const Row& row) { return row.Number(column) != number; });
     std::ranges::reverse(kept);
-    Rows.swap(kept);
+    m_rows.swap(kept);
     m_indexes.clear();
 }
 
@@ -85,11 +90,11 @@ Matches Table::Matching(std::size_t column, std::int32_t number, Conversion conv
     const IndexedColumn& indexed = Indexed(column);
     const std::size_t end = indexed.End(conversion);
     const std::span<const std::uint32_t> positions = indexed.Index.Positions(number);
-    if (end == Rows.size())
-        return {Rows.data(), positions, nullptr, column};
+    if (end == m_rows.size())
+        return {m_rows.data(), positions, nullptr, column};
     const auto before =
         static_cast<std::size_t>(std::ranges::lower_bound(positions, end) - positions.begin());
-    return {Rows.data(), positions.first(before), &Rows[end], column};
+    return {m_rows.data(), positions.first(before), &m_rows[end], column};
 }
 
 const Row* Table::FindFirst(std::size_t column, std::int32_t number, Conversion conversion) const
@@ -110,22 +115,22 @@ std::int32_t Table::NumberAt(std::size_t position, std::size_t column, Conversio
 {
     const IndexedColumn& indexed = Indexed(column);
     return position < indexed.End(conversion) ? indexed.Numbers[position]
-                                              : Rows[position].Number(column, conversion);
+                                              : m_rows[position].Number(column, conversion);
 }
 
 Row Table::NewRow(std::string_view line, std::span<const std::uint32_t> ends, std::uint32_t lineNumber)
 {
-    void* block = Memory->allocate(ends.size_bytes() + line.size(), alignof(std::uint32_t));
+    void* block = m_memory->allocate(ends.size_bytes() + line.size(), alignof(std::uint32_t));
     auto* keptEnds = static_cast<std::uint32_t*>(block);
     auto* keptLine = reinterpret_cast<char*>(keptEnds + ends.size());
     std::ranges::copy(ends, keptEnds);
     std::ranges::copy(line, keptLine);
 
     Row row;
-    row.Layout = TableColumns;
-    row.Ends = keptEnds;
-    row.Count = static_cast<std::uint32_t>(ends.size());
-    row.LineNumber = lineNumber;
+    row.m_layout = m_layout;
+    row.m_ends = keptEnds;
+    row.m_count = static_cast<std::uint32_t>(ends.size());
+    row.m_lineNumber = lineNumber;
     return row;
 }
 
@@ -133,28 +138,28 @@ Row Table::NewRow(std::string_view line, std::span<const std::uint32_t> ends, st
 Row Table::EnteredRow(const std::vector<std::string>& fields)
 {
     std::string line;
-    FieldEnds.clear();
+    m_fieldEnds.clear();
     for (const std::string& field : fields)
     {
-        if (!FieldEnds.empty())
+        if (!m_fieldEnds.empty())
             line += ';';
         line += field;
-        FieldEnds.push_back(static_cast<std::uint32_t>(line.size()));
+        m_fieldEnds.push_back(static_cast<std::uint32_t>(line.size()));
     }
-    return NewRow(line, FieldEnds, EnteredLine);
+    return NewRow(line, m_fieldEnds, EnteredLine);
 }
 
 Table::IndexedColumn Table::MakeIndex(std::size_t column) const
 {
     std::vector<std::int32_t> numbers;
-    numbers.reserve(Rows.size());
+    numbers.reserve(m_rows.size());
     std::optional<std::size_t> numbersEnd;
-    for (const Row& row : Rows)
+    for (const Row& row : m_rows)
     {
         if (column >= row.FieldCount())
             break;
         std::int32_t number = 0;
-        if (ReadLong(row.Field(column), number) != NumberReading::Whole && !numbersEnd)
+        if (ParseLong(row.Field(column), number) != NumberKind::Whole && !numbersEnd)
             numbersEnd = numbers.size();
         numbers.push_back(number);
     }
@@ -166,9 +171,11 @@ Table::IndexedColumn Table::MakeIndex(std::size_t column) const
 const Table::IndexedColumn& Table::Indexed(std::size_t column) const
 {
     if (m_indexes.empty())
-        m_indexes.resize(TableColumns->Columns.size());
+        m_indexes.resize(m_layout->Columns.size());
     std::optional<IndexedColumn>& indexed = m_indexes[column];
     if (!indexed)
         indexed = MakeIndex(column);
     return *indexed;
 }
+
+} // namespace modData

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "data/CheckedNumbers.h"
 #include "data/ColumnIndex.h"
 #include "data/Errors.h"
-#include "data/Numbers.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -14,6 +14,9 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace modData
+{
 
 /// What the program knows of a table's file: its name in the data folder and its columns.
 struct TableLayout
@@ -30,16 +33,16 @@ struct TableLayout
 class Row
 {
 public:
-    std::size_t FieldCount() const { return Count; }
+    std::size_t FieldCount() const { return m_count; }
 
     /// A field exactly as stored. @throws DataError when the row is too short
     std::string_view Field(std::size_t column) const
     {
-        if (column >= Count)
+        if (column >= m_count)
             ThrowTooShort(column);
-        const char* line = reinterpret_cast<const char*>(Ends + Count);
-        const std::uint32_t begin = column == 0 ? 0 : Ends[column - 1] + 1;
-        return {line + begin, Ends[column] - begin};
+        const char* line = reinterpret_cast<const char*>(m_ends + m_count);
+        const std::uint32_t begin = column == 0 ? 0 : m_ends[column - 1] + 1;
+        return {line + begin, m_ends[column] - begin};
     }
 
     /// A field as a whole number. @throws DataError, which names the place, when the row is too short or,
@@ -49,7 +52,7 @@ public:
     /// Where a field of one of the layout's columns is.
     FieldPlace Place(std::size_t column) const
     {
-        return {Layout->FileName, LineNumber, Layout->Columns[column]};
+        return {m_layout->FileName, m_lineNumber, m_layout->Columns[column]};
     }
 
 private:
@@ -57,10 +60,10 @@ private:
 
     [[noreturn]] void ThrowTooShort(std::size_t column) const;
 
-    const TableLayout* Layout = nullptr;
-    const std::uint32_t* Ends = nullptr; // where each field ends in the line, which follows them
-    std::uint32_t Count = 0;
-    std::uint32_t LineNumber = 0; // in the file; 0 when no file holds the row yet
+    const TableLayout* m_layout = nullptr;
+    const std::uint32_t* m_ends = nullptr; // where each field ends in the line, which follows them
+    std::uint32_t m_count = 0;
+    std::uint32_t m_lineNumber = 0; // in the file; 0 when no file holds the row yet
 };
 
 /// The rows of a table that hold a number in a column, in table order, for a loop. They are what a scan
@@ -124,12 +127,12 @@ class Table
 public:
     explicit Table(const TableLayout& layout);
 
-    const TableLayout& Layout() const { return *TableColumns; }
+    const TableLayout& Layout() const { return *m_layout; }
 
-    std::size_t RowCount() const { return Rows.size(); }
-    const Row& operator[](std::size_t position) const { return Rows[position]; }
-    auto begin() const { return Rows.begin(); }
-    auto end() const { return Rows.end(); }
+    std::size_t RowCount() const { return m_rows.size(); }
+    const Row& operator[](std::size_t position) const { return m_rows[position]; }
+    auto begin() const { return m_rows.begin(); }
+    auto end() const { return m_rows.end(); }
 
     /// Adds a row at the end: the fields of a line of the file, which ";" separates.
     void AppendLine(std::string_view line, std::uint32_t lineNumber);
@@ -183,9 +186,11 @@ private:
     IndexedColumn MakeIndex(std::size_t column) const;
     const IndexedColumn& Indexed(std::size_t column) const;
 
-    const TableLayout* TableColumns;
-    std::unique_ptr<std::pmr::monotonic_buffer_resource> Memory; // the lines of all rows
-    std::vector<std::uint32_t> FieldEnds;                        // of the line that is being added
-    std::vector<Row> Rows;
+    const TableLayout* m_layout;
+    std::unique_ptr<std::pmr::monotonic_buffer_resource> m_memory; // the lines of all rows
+    std::vector<std::uint32_t> m_fieldEnds;                        // of the line that is being added
+    std::vector<Row> m_rows;
     mutable std::vector<std::optional<IndexedColumn>> m_indexes; // by column; none after a change
 };
+
+} // namespace modData

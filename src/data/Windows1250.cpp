@@ -1,6 +1,6 @@
 #include "data/Windows1250.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <array>
 #include <cstddef>
@@ -56,7 +56,7 @@ std::string FromWindows1250(std::string_view bytes)
     text.reserve(bytes.size() + bytes.size() / 8);
     while (!bytes.empty())
     {
-        text += TakeAscii(bytes);
+        text += TakeAsciiPrefix(bytes);
         if (!bytes.empty())
         {
             AppendCodePoint(text, UpperHalf[static_cast<std::uint8_t>(bytes.front()) - 0x80U]);
@@ -78,8 +78,8 @@ void AppendWindows1250(std::string& bytes, std::string_view text)
 {
     while (!text.empty())
     {
-        bytes += TakeAscii(text);
+        bytes += TakeAsciiPrefix(text);
         if (!text.empty())
-            bytes += ByteOf(TakeCodePoint(text));
+            bytes += ByteOf(DecodeUtf8(text));
     }
 }

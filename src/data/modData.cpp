@@ -1,20 +1,23 @@
 #include "data/modData.h"
 
 #include "data/CatalogueSave.h"
+#include "data/CheckedNumbers.h"
 #include "data/DatedCopies.h"
 #include "data/Errors.h"
 #include "data/Files.h"
-#include "data/Numbers.h"
 #include "data/Product.h"
 #include "data/System.h"
-#include "data/Text.h"
 #include "data/Windows1250.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
 #include <memory>
 #include <optional>
+
+namespace modData
+{
 
 namespace
 {
@@ -53,13 +56,13 @@ std::unique_ptr<CatalogueLock> Running;
 
 std::string FilePath(const Table& table)
 {
-    return PathIn(modData::GetDataFolder(), table.Layout().FileName);
+    return PathIn(GetDataFolder(), table.Layout().FileName);
 }
 
 CatalogueOnDisk FilesOnDisk()
 {
-    CatalogueOnDisk files = {modData::GetDataFolder(), {}};
-    for (const Table* table : modData::AllTables())
+    CatalogueOnDisk files = {GetDataFolder(), {}};
+    for (const Table* table : AllTables())
         files.Names.push_back(table->Layout().FileName);
     return files;
 }
@@ -67,8 +70,8 @@ CatalogueOnDisk FilesOnDisk()
 void Load(Table& table)
 {
     const std::string path = FilePath(table);
-    modData::NormalizeFileEncoding(path);
-    table = modData::LoadTable(path, table.Layout());
+    NormalizeFileEncoding(path);
+    table = LoadTable(path, table.Layout());
 }
 
 /// Takes the first line off; CR LF or CR ends it, and a lone LF is part of it.
@@ -109,14 +112,14 @@ void Save(const Table& table)
 {
     const std::string path = FilePath(table);
     if (SetFolder.empty())
-        modData::SaveTable(path, table.Layout().Header(), table);
+        SaveTable(path, table.Layout().Header(), table);
     else
         WriteNewFile(PathIn(SetFolder, table.Layout().FileName), FileOf(table).Content(), path);
 }
 
 void SaveEach()
 {
-    for (const Table* table : modData::AllTables())
+    for (const Table* table : AllTables())
         Save(*table);
 }
 
@@ -150,7 +153,7 @@ bool ReadsAs(const Table* table)
 {
     try
     {
-        const Table onDisk = modData::LoadTable(FilePath(*table), table->Layout());
+        const Table onDisk = LoadTable(FilePath(*table), table->Layout());
         return FileOf(onDisk).Content() == FileOf(*table).Content();
     }
     catch (const RuntimeError&)
@@ -162,9 +165,9 @@ bool ReadsAs(const Table* table)
 /// The text of a file that is to be brought to windows-1250; nothing for any other file.
 std::optional<std::string> MarkedText(std::string_view path)
 {
-    if (ReadFile(path, modData::Utf8Mark.size()) != modData::Utf8Mark)
+    if (ReadFile(path, Utf8Mark.size()) != Utf8Mark)
         return std::nullopt;
-    return ReadFile(path).substr(modData::Utf8Mark.size());
+    return ReadFile(path).substr(Utf8Mark.size());
 }
 
 /// Whether letters become "?" when a file is brought to windows-1250.
@@ -185,9 +188,6 @@ std::string PlaceAmongTemporaries(std::string_view ending)
 }
 
 } // namespace
-
-namespace modData
-{
 
 Table Zavodi(ZavodLayout);
 Table Nastavnici(NastavnikLayout);

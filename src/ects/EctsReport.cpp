@@ -1,8 +1,8 @@
 #include "ects/EctsReport.h"
 
 #include "data/Files.h"
-#include "data/Text.h"
 #include "ects/WorkloadLabels.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <iterator>

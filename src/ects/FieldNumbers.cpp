@@ -1,6 +1,6 @@
 #include "ects/FieldNumbers.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -101,14 +101,14 @@ std::string FormatFixed(double value, std::string_view pattern, std::string_view
 
 void HoursSum::Add(double figure)
 {
-    Total += figure;
-    Largest = std::max({Largest, std::fabs(figure), std::fabs(Total)});
+    m_total += figure;
+    m_largest = std::max({m_largest, std::fabs(figure), std::fabs(m_total)});
 }
 
 double HoursSum::Value() const
 {
-    if (!std::isfinite(Total))
-        return Total;
-    const int decimals = std::max(TrueDigitsOfSum - WholeDigits(Largest), 0);
-    return std::copysign(ReadNumber(ToDecimals(std::fabs(Total), decimals), "."), Total);
+    if (!std::isfinite(m_total))
+        return m_total;
+    const int decimals = std::max(TrueDigitsOfSum - WholeDigits(m_largest), 0);
+    return std::copysign(ReadNumber(ToDecimals(std::fabs(m_total), decimals), "."), m_total);
 }

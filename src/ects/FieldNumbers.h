@@ -26,6 +26,6 @@ public:
     double Value() const;
 
 private:
-    double Total = 0;
-    double Largest = 0; ///< The largest magnitude of a figure, or of the sum on the way.
+    double m_total = 0;
+    double m_largest = 0; ///< The largest magnitude of a figure, or of the sum on the way.
 };

@@ -1,9 +1,9 @@
 #include "ects/WorkloadModel.h"
 
 #include "data/Errors.h"
-#include "data/Numbers.h"
-#include "data/Text.h"
 #include "ects/FieldNumbers.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,19 +18,19 @@ constexpr std::string_view NoWarning = "Nema upozorenja.";
 } // namespace
 
 WorkloadModel::WorkloadModel(WorkloadFields& fields, std::string decimalSeparator)
-    : Fields(fields),
-      DecimalSeparator(std::move(decimalSeparator))
+    : m_fields(fields),
+      m_decimalSeparator(std::move(decimalSeparator))
 {
 }
 
 double WorkloadModel::ReadNumber(std::string_view field) const
 {
-    return ::ReadNumber(field, DecimalSeparator);
+    return ::ReadNumber(field, m_decimalSeparator);
 }
 
 std::string WorkloadModel::FormatFixed(double value, std::string_view pattern) const
 {
-    return ::FormatFixed(value, pattern, DecimalSeparator);
+    return ::FormatFixed(value, pattern, m_decimalSeparator);
 }
 
 double WorkloadModel::SumOf(const auto& fields) const
@@ -53,14 +53,14 @@ double WorkloadModel::SelfStudyFactor(std::size_t row)
 
 void WorkloadModel::ProposeSelfStudy(std::size_t row)
 {
-    if (TrimBlanks(Fields.SamostalniSati[row]).empty())
-        Fields.SamostalniSati[row] =
-            FormatFixed(ReadNumber(Fields.KontaktniSati[row]) * SelfStudyFactor(row), OneDecimal);
+    if (TrimBlanks(m_fields.SamostalniSati[row]).empty())
+        m_fields.SamostalniSati[row] =
+            FormatFixed(ReadNumber(m_fields.KontaktniSati[row]) * SelfStudyFactor(row), OneDecimal);
 }
 
 double WorkloadModel::NormHours(std::size_t literatureRow) const
 {
-    return ReadNumber(Fields.LitStranice[literatureRow]) / 100 *
+    return ReadNumber(m_fields.LitStranice[literatureRow]) / 100 *
            LiteratureRows[literatureRow].HoursPer100Pages;
 }
 
@@ -74,18 +74,18 @@ double WorkloadModel::LiteratureNormHours() const
 
 double WorkloadModel::LiteratureEstimateHours() const
 {
-    return SumOf(Fields.LitProcjena);
+    return SumOf(m_fields.LitProcjena);
 }
 
 double WorkloadModel::LiteratureHours() const
 {
-    return Fields.LitByEstimate ? LiteratureEstimateHours() : LiteratureNormHours();
+    return m_fields.LitByEstimate ? LiteratureEstimateHours() : LiteratureNormHours();
 }
 
 double WorkloadModel::WrittenNormHours() const
 {
-    const double pages = ReadNumber(Fields.OpsegStranice);
-    const double words = ReadNumber(Fields.OpsegRijeci);
+    const double pages = ReadNumber(m_fields.OpsegStranice);
+    const double words = ReadNumber(m_fields.OpsegRijeci);
     if (pages > 0)
         return pages * HoursPerWrittenPage;
     return words > 0 ? words / WordsPerWrittenHour : 0;
@@ -93,29 +93,29 @@ double WorkloadModel::WrittenNormHours() const
 
 double WorkloadModel::WrittenHours() const
 {
-    return ReadNumber(Fields.PismeniByEstimate ? Fields.PismeniProcjena : Fields.PismeniIzracun);
+    return ReadNumber(m_fields.PismeniByEstimate ? m_fields.PismeniProcjena : m_fields.PismeniIzracun);
 }
 
 double WorkloadModel::HoursPerEcts() const
 {
-    if (Fields.SatiPoEcts.empty())
+    if (m_fields.SatiPoEcts.empty())
         return DefaultHoursPerEcts;
-    if (!IsNumeric(Fields.SatiPoEcts))
-        throw TypeMismatch(Fields.SatiPoEcts);
-    return ReadNumber(Fields.SatiPoEcts);
+    if (!IsNumeric(m_fields.SatiPoEcts))
+        throw TypeMismatch(m_fields.SatiPoEcts);
+    return ReadNumber(m_fields.SatiPoEcts);
 }
 
 void WorkloadModel::Recalculate()
 {
-    Fields.KontaktniUkupno = FormatFixed(SumOf(Fields.KontaktniSati), OneDecimal);
-    Fields.SamostalniUkupno = FormatFixed(SumOf(Fields.SamostalniSati), OneDecimal);
+    m_fields.KontaktniUkupno = FormatFixed(SumOf(m_fields.KontaktniSati), OneDecimal);
+    m_fields.SamostalniUkupno = FormatFixed(SumOf(m_fields.SamostalniSati), OneDecimal);
 
     for (std::size_t row = 0; row < LiteratureRows.size(); ++row)
-        Fields.LitIzracun[row] = FormatFixed(NormHours(row), OneDecimal);
-    Fields.LitUkupno = FormatFixed(LiteratureHours(), OneDecimal);
+        m_fields.LitIzracun[row] = FormatFixed(NormHours(row), OneDecimal);
+    m_fields.LitUkupno = FormatFixed(LiteratureHours(), OneDecimal);
 
-    Fields.PismeniIzracun = FormatFixed(WrittenNormHours(), OneDecimal);
-    Fields.OstaleMetodeUkupno = FormatFixed(SumOf(Fields.OstaleMetode), OneDecimal);
+    m_fields.PismeniIzracun = FormatFixed(WrittenNormHours(), OneDecimal);
+    m_fields.OstaleMetodeUkupno = FormatFixed(SumOf(m_fields.OstaleMetode), OneDecimal);
 
     WriteTotals();
     UpdateWarnings();
@@ -124,49 +124,49 @@ void WorkloadModel::Recalculate()
 void WorkloadModel::WriteTotals()
 {
     // The sums are those of the figures as shown, rounded.
-    const double contact = ReadNumber(Fields.KontaktniUkupno);
+    const double contact = ReadNumber(m_fields.KontaktniUkupno);
     HoursSum hours;
-    for (const double part : {ReadNumber(Fields.LitUkupno), ReadNumber(Fields.SamostalniUkupno),
-                              WrittenHours(), ReadNumber(Fields.OstaleMetodeUkupno)})
+    for (const double part : {ReadNumber(m_fields.LitUkupno), ReadNumber(m_fields.SamostalniUkupno),
+                              WrittenHours(), ReadNumber(m_fields.OstaleMetodeUkupno)})
         hours.Add(part);
     const double nonContact = hours.Value();
     hours.Add(contact);
     const double total = hours.Value();
     const double points = total / HoursPerEcts();
 
-    Fields.UkupnoOpter[ContactTotal] = FormatFixed(contact, OneDecimal);
-    Fields.UkupnoOpter[NonContactTotal] = FormatFixed(nonContact, OneDecimal);
-    Fields.UkupnoOpter[WholeTotal] = FormatFixed(total, OneDecimal);
-    Fields.UkupnoOpter[EctsPoints] = FormatFixed(points, TwoDecimals);
-    Fields.UkupnoOpter[WeeklyPoints] = FormatFixed(points * WeeklyShare, TwoDecimals);
+    m_fields.UkupnoOpter[ContactTotal] = FormatFixed(contact, OneDecimal);
+    m_fields.UkupnoOpter[NonContactTotal] = FormatFixed(nonContact, OneDecimal);
+    m_fields.UkupnoOpter[WholeTotal] = FormatFixed(total, OneDecimal);
+    m_fields.UkupnoOpter[EctsPoints] = FormatFixed(points, TwoDecimals);
+    m_fields.UkupnoOpter[WeeklyPoints] = FormatFixed(points * WeeklyShare, TwoDecimals);
 }
 
 void WorkloadModel::UpdateWarnings()
 {
     const std::string_view warning = FirstWarning();
-    Fields.Upozorenje = warning.empty() ? NoWarning : warning;
-    Fields.BojaUpozorenja = warning.empty() ? Blue : Red;
+    m_fields.Upozorenje = warning.empty() ? NoWarning : warning;
+    m_fields.BojaUpozorenja = warning.empty() ? ListColours::Blue : ListColours::Red;
 }
 
 std::string_view WorkloadModel::FirstWarning() const
 {
     const auto aboveZero = [this](const std::string& field) { return ReadNumber(field) > 0; };
-    const bool pages = aboveZero(Fields.OpsegStranice);
-    const bool words = aboveZero(Fields.OpsegRijeci);
+    const bool pages = aboveZero(m_fields.OpsegStranice);
+    const bool words = aboveZero(m_fields.OpsegRijeci);
 
-    if (Fields.LitByEstimate && !AnyAboveZero(Fields.LitProcjena))
+    if (m_fields.LitByEstimate && !AnyAboveZero(m_fields.LitProcjena))
         return "Odabrana je vlastita procjena literature, ali procjena nije unesena.";
-    if (!Fields.LitByEstimate && !AnyAboveZero(Fields.LitStranice))
+    if (!m_fields.LitByEstimate && !AnyAboveZero(m_fields.LitStranice))
         return "Odabran je normativ literature, ali broj stranica nije unesen.";
     if (pages && words)
         return "Za pismeni zadatak unesite ili stranice ili riječi, ne oboje.";
-    if (Fields.PismeniByEstimate && !aboveZero(Fields.PismeniProcjena))
+    if (m_fields.PismeniByEstimate && !aboveZero(m_fields.PismeniProcjena))
         return "Odabrana je vlastita procjena pismenog zadatka, ali procjena nije unesena.";
-    if (!Fields.PismeniByEstimate && !pages && !words)
+    if (!m_fields.PismeniByEstimate && !pages && !words)
         return "Odabran je normativ pismenog zadatka, ali nije unesen opseg.";
-    if (aboveZero(Fields.KontaktniUkupno) && !aboveZero(Fields.SamostalniUkupno))
+    if (aboveZero(m_fields.KontaktniUkupno) && !aboveZero(m_fields.SamostalniUkupno))
         return "Unesena je kontaktna nastava, ali samostalni sati nisu uneseni.";
-    if (!aboveZero(Fields.UkupnoOpter[WholeTotal]))
+    if (!aboveZero(m_fields.UkupnoOpter[WholeTotal]))
         return "Ukupno opterećenje nije uneseno.";
     return {};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <array>
 #include <cstddef>
@@ -97,7 +97,7 @@ struct WorkloadFields
     std::string SatiPoEcts; ///< The chosen hours per point; empty when none is chosen.
 
     std::string_view Upozorenje;
-    ListColour BojaUpozorenja = Red;
+    ListColour BojaUpozorenja = ListColours::Red;
 };
 
 /// Estimates a student's workload for a course, in hours a semester, and turns it into ECTS points. Every
@@ -142,6 +142,6 @@ private:
     void WriteTotals();
     std::string_view FirstWarning() const;
 
-    WorkloadFields& Fields;
-    std::string DecimalSeparator;
+    WorkloadFields& m_fields;
+    std::string m_decimalSeparator;
 };

@@ -78,7 +78,7 @@ void frmECTSCalc::OnLostFocus(std::span<wxTextCtrl* const> boxes, const std::fun
 void frmECTSCalc::Form_Load()
 {
     CenterForm(*this);
-    lblUpozorenje->SetForegroundColour(wxColour(Red));
+    lblUpozorenje->SetForegroundColour(wxColour(ListColours::Red));
     for (const std::string_view hours : HoursPerEctsChoices)
         cbo1ECTS->Append(ToWx(hours));
     cbo1ECTS->SetSelection(InitialHoursPerEcts);
@@ -107,39 +107,39 @@ void frmECTSCalc::ApplyWrittenMode()
 
 void frmECTSCalc::ReadFields()
 {
-    for (const Field& field : Boxes)
+    for (const Field& field : m_boxes)
         *field.Text = ShownText(*field.Box);
-    Fields.LitByEstimate = optLitProcjena->GetValue();
-    Fields.PismeniByEstimate = optPismeniProcjena->GetValue();
-    Fields.SatiPoEcts = ChosenText(*cbo1ECTS);
+    m_fields.LitByEstimate = optLitProcjena->GetValue();
+    m_fields.PismeniByEstimate = optPismeniProcjena->GetValue();
+    m_fields.SatiPoEcts = ChosenText(*cbo1ECTS);
 }
 
 void frmECTSCalc::ShowFields()
 {
-    for (const Field& field : Boxes)
+    for (const Field& field : m_boxes)
         if (ShownText(*field.Box) != *field.Text)
             field.Box->ChangeValue(ToWx(*field.Text));
-    lblUpozorenje->SetForegroundColour(wxColour(Fields.BojaUpozorenja));
-    lblUpozorenje->SetLabel(ToWx(Fields.Upozorenje));
+    lblUpozorenje->SetForegroundColour(wxColour(m_fields.BojaUpozorenja));
+    lblUpozorenje->SetLabel(ToWx(m_fields.Upozorenje));
 }
 
 void frmECTSCalc::Recalculate()
 {
-    if (Busy)
+    if (m_busy)
         return;
-    Busy = true;
+    m_busy = true;
     std::string failure;
     ReadFields();
     try
     {
-        WorkloadModel(Fields, SystemDecimalSeparator()).Recalculate();
+        WorkloadModel(m_fields, SystemDecimalSeparator()).Recalculate();
     }
     catch (const std::exception& error)
     {
         failure = error.what();
     }
     ShowFields(); // after an error too: what was computed before it is right
-    Busy = false;
+    m_busy = false;
     if (!failure.empty())
         ShowWarning(this, "Greška kod preračuna: " + failure, EctsCaption);
 }
@@ -147,7 +147,7 @@ void frmECTSCalc::Recalculate()
 void frmECTSCalc::txtKontaktniSati_LostFocus(std::size_t row)
 {
     ReadFields();
-    WorkloadModel(Fields, SystemDecimalSeparator()).ProposeSelfStudy(row);
+    WorkloadModel(m_fields, SystemDecimalSeparator()).ProposeSelfStudy(row);
     ShowFields();
     Recalculate();
 }
@@ -223,7 +223,7 @@ void frmECTSCalc::cmdIzracunaj_Click()
 
 void frmECTSCalc::cmdOcisti_Click()
 {
-    for (const Field& field : Boxes)
+    for (const Field& field : m_boxes)
         field.Box->ChangeValue("");
     optLitIzracun->SetValue(true);
     optPismeniIzracun->SetValue(true);
@@ -236,8 +236,8 @@ void frmECTSCalc::cmdExport_Click()
 {
     Recalculate();
     RunExport(
-        this, cdl1, ReportTexts, [this] { return EctsReportFileName(Fields.NazivKolegija); },
-        [this](const std::string& path) { WriteEctsReport(path, Fields); });
+        this, cdl1, ReportTexts, [this] { return EctsReportFileName(m_fields.NazivKolegija); },
+        [this](const std::string& path) { WriteEctsReport(path, m_fields); });
 }
 
 void frmECTSCalc::cmdClose_Click()

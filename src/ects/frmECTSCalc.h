@@ -84,11 +84,11 @@ private:
         std::string* Text;
     };
 
-    WorkloadFields Fields;
-    std::vector<Field> Boxes; ///< Every text box of the window.
-    bool Busy = false;        ///< True while the figures are computed: not again meanwhile.
+    WorkloadFields m_fields;
+    std::vector<Field> m_boxes; ///< Every text box of the window.
+    bool m_busy = false;        ///< True while the figures are computed: not again meanwhile.
 
-    wxStaticText* WidestLabel; ///< The caption that gets a second line where the screen is narrow.
+    wxStaticText* m_widestLabel; ///< The caption that gets a second line where the screen is narrow.
 
     // Controls. Of an array with gaps in its indices the elements stand side by side.
     wxScrolledWindow* Panel;

@@ -3,8 +3,8 @@
 #include "ects/frmECTSCalc.h"
 
 #include "ects/WorkloadLabels.h"
+#include "ui/controls/AccessibleName.h"
 #include "ui/controls/Controls.h"
-#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -42,7 +42,7 @@ wxFlexGridSizer* NewGrid(const wxWindow* window, int columns)
 void AddHeads(wxFlexGridSizer& grid, wxWindow* parent, std::span<const std::string_view> captions)
 {
     for (const std::string_view caption : captions)
-        grid.Add(NewRemark(parent, "lblHead", caption), wxSizerFlags().CenterVertical());
+        grid.Add(NewCaption(parent, "lblHead", caption), wxSizerFlags().CenterVertical());
 }
 
 /// Adds the label of the box that follows.
@@ -56,7 +56,7 @@ wxStaticText* AddLabel(wxFlexGridSizer& grid, wxWindow* parent, std::string_view
 /// Adds the caption of a row whose boxes are named each for itself.
 void AddRowCaption(wxFlexGridSizer& grid, wxWindow* parent, std::string_view caption)
 {
-    grid.Add(NewRemark(parent, "lblRow", caption), wxSizerFlags().CenterVertical());
+    grid.Add(NewCaption(parent, "lblRow", caption), wxSizerFlags().CenterVertical());
 }
 
 /// Adds a box that the label before it names.
@@ -69,7 +69,7 @@ void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box)
 void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box, std::string_view outer, std::string_view own)
 {
     AddBox(grid, box);
-    SetSpokenName(*box, std::string(outer) + ", " + std::string(own));
+    SetAccessibleName(*box, std::string(outer) + ", " + std::string(own));
 }
 
 /// A box that shows a figure. Tab does not stop at it: there is nothing to type.
@@ -101,7 +101,7 @@ frmECTSCalc::frmECTSCalc(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(EctsCaption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmECTSCalc");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
     Panel = new wxScrolledWindow(this, wxID_ANY);
 
     // The controls are made in tab order: column by column, then the results and the commands. They are the
@@ -125,7 +125,7 @@ frmECTSCalc::frmECTSCalc(wxWindow* parent)
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(columns, wxSizerFlags(1).Expand());
     content->Add(TotalsFrame(), below);
-    content->Add(lblUpozorenje = NewRemark(Panel, "lblUpozorenje", ""), below);
+    content->Add(lblUpozorenje = NewCaption(Panel, "lblUpozorenje", ""), below);
     content->Add(CommandRow(), below);
     auto* margin = new wxBoxSizer(wxVERTICAL);
     margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap(this)));
@@ -150,7 +150,7 @@ wxTextCtrl* frmECTSCalc::NewOutput(const std::string& name, std::string& text)
 
 wxTextCtrl* frmECTSCalc::AddField(wxTextCtrl* box, std::string& text)
 {
-    Boxes.push_back({box, &text});
+    m_boxes.push_back({box, &text});
     return box;
 }
 
@@ -161,13 +161,13 @@ wxSizer* frmECTSCalc::CourseFrame()
     grid->AddGrowableCol(1);
     grid->AddGrowableRow(2);
     AddLabel(*grid, Panel, EctsLabel::NazivKolegija);
-    AddBox(*grid, txtNazivKolegija = NewField("txtNazivKolegija", Fields.NazivKolegija));
+    AddBox(*grid, txtNazivKolegija = NewField("txtNazivKolegija", m_fields.NazivKolegija));
     AddLabel(*grid, Panel, "Nositelj(i):");
-    AddBox(*grid, txtNositelj = NewField("txtNositelj", Fields.Nositelj));
+    AddBox(*grid, txtNositelj = NewField("txtNositelj", m_fields.Nositelj));
     AddLabel(*grid, Panel, EctsLabel::Komentar);
     txtKomentar = new wxTextCtrl(Panel, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE,
                                  wxDefaultValidator, "txtKomentar");
-    AddBox(*grid, AddField(txtKomentar, Fields.Komentar));
+    AddBox(*grid, AddField(txtKomentar, m_fields.Komentar));
     txtKomentar->SetMinSize({-1, CommentLines * GetCharHeight() + FromDIP(10)});
     AddWide(*frame, grid, 1);
     return frame;
@@ -185,15 +185,15 @@ wxSizer* frmECTSCalc::ContactFrame()
     {
         const std::string_view row = ContactRows[i].Label;
         AddRowCaption(*grid, Panel, row);
-        txtKontaktniSati[i] = NewField(Element("txtKontaktniSati", i), Fields.KontaktniSati[i]);
+        txtKontaktniSati[i] = NewField(Element("txtKontaktniSati", i), m_fields.KontaktniSati[i]);
         AddBox(*grid, txtKontaktniSati[i], row, EctsLabel::KontaktniSati);
-        txtSamostalniSati[i] = NewField(Element("txtSamostalniSati", i), Fields.SamostalniSati[i]);
+        txtSamostalniSati[i] = NewField(Element("txtSamostalniSati", i), m_fields.SamostalniSati[i]);
         AddBox(*grid, txtSamostalniSati[i], row, EctsLabel::SamostalniSati);
     }
     AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
-    txtKontaktniUkupno = NewOutput("txtKontaktniUkupno(3)", Fields.KontaktniUkupno);
+    txtKontaktniUkupno = NewOutput("txtKontaktniUkupno(3)", m_fields.KontaktniUkupno);
     AddBox(*grid, txtKontaktniUkupno, EctsLabel::Ukupno, EctsLabel::KontaktniSati);
-    txtSamostalniUkupno = NewOutput("txtSamostalniUkupno(3)", Fields.SamostalniUkupno);
+    txtSamostalniUkupno = NewOutput("txtSamostalniUkupno(3)", m_fields.SamostalniUkupno);
     AddBox(*grid, txtSamostalniUkupno, EctsLabel::Ukupno, EctsLabel::SamostalniSati);
     AddWide(*frame, grid);
     return frame;
@@ -213,18 +213,18 @@ wxSizer* frmECTSCalc::LiteratureFrame()
     {
         const std::string_view row = LiteratureRows[i].Label;
         AddRowCaption(*grid, Panel, row);
-        txtLitStranice[i] = NewField(Element("txtLitStranice", i), Fields.LitStranice[i]);
+        txtLitStranice[i] = NewField(Element("txtLitStranice", i), m_fields.LitStranice[i]);
         AddBox(*grid, txtLitStranice[i], row, EctsLabel::BrojStranica);
         AddRowCaption(*grid, Panel, LiteratureRows[i].NormLabel);
-        txtLitIzracun[i] = NewOutput(Element("txtLitIzracun", i), Fields.LitIzracun[i]);
+        txtLitIzracun[i] = NewOutput(Element("txtLitIzracun", i), m_fields.LitIzracun[i]);
         AddBox(*grid, txtLitIzracun[i], row, EctsLabel::IzracunSati);
-        txtLitProcjena[i] = NewField(Element("txtLitProcjena", i), Fields.LitProcjena[i]);
+        txtLitProcjena[i] = NewField(Element("txtLitProcjena", i), m_fields.LitProcjena[i]);
         AddBox(*grid, txtLitProcjena[i], row, EctsLabel::Procjena);
     }
     AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
     grid->AddStretchSpacer();
     grid->AddStretchSpacer();
-    txtLitUkupno = NewOutput("txtLitUkupno", Fields.LitUkupno);
+    txtLitUkupno = NewOutput("txtLitUkupno", m_fields.LitUkupno);
     AddBox(*grid, txtLitUkupno, EctsGroup::Literatura, EctsLabel::Ukupno);
     AddWide(*frame, grid);
     return frame;
@@ -238,17 +238,17 @@ wxSizer* frmECTSCalc::WrittenFrame()
     wxFlexGridSizer* grid = NewGrid(this, 2);
     grid->AddGrowableCol(0);
     AddLabel(*grid, Panel, EctsLabel::OpsegStranice);
-    AddBox(*grid, txtOpsegStranice = NewField("txtOpsegStranice", Fields.OpsegStranice));
+    AddBox(*grid, txtOpsegStranice = NewField("txtOpsegStranice", m_fields.OpsegStranice));
     AddLabel(*grid, Panel, EctsLabel::OpsegRijeci);
-    AddBox(*grid, txtOpsegRijeci = NewField("txtOpsegRijeci", Fields.OpsegRijeci));
+    AddBox(*grid, txtOpsegRijeci = NewField("txtOpsegRijeci", m_fields.OpsegRijeci));
     AddRowCaption(*grid, Panel, EctsLabel::IzracunatoVrijeme);
-    txtPismeniIzracun = NewOutput("txtPismeniIzracun", Fields.PismeniIzracun);
+    txtPismeniIzracun = NewOutput("txtPismeniIzracun", m_fields.PismeniIzracun);
     AddBox(*grid, txtPismeniIzracun, EctsGroup::Pismeni, EctsLabel::IzracunatoVrijeme);
     AddLabel(*grid, Panel, EctsLabel::VlastitaProcjena);
-    AddBox(*grid, txtPismeniProcjena = NewField("txtPismeniProcjena", Fields.PismeniProcjena));
+    AddBox(*grid, txtPismeniProcjena = NewField("txtPismeniProcjena", m_fields.PismeniProcjena));
     AddWide(*frame, grid);
     auto* note = new wxBoxSizer(wxHORIZONTAL);
-    note->Add(NewRemark(Panel, "lblPismeniNormativ", WrittenNormNote));
+    note->Add(NewCaption(Panel, "lblPismeniNormativ", WrittenNormNote));
     AddWide(*frame, note);
     return frame;
 }
@@ -262,13 +262,13 @@ wxSizer* frmECTSCalc::OtherMethodsFrame()
     {
         const auto index = static_cast<std::size_t>(OtherMethods[i].Index);
         wxStaticText* label = AddLabel(*grid, Panel, OtherMethods[i].Label);
-        if (i == 0 || label->GetBestSize().x > WidestLabel->GetBestSize().x)
-            WidestLabel = label;
-        txtOstaleMetode[i] = NewField(Element("txtOstaleMetode", index), Fields.OstaleMetode[i]);
+        if (i == 0 || label->GetBestSize().x > m_widestLabel->GetBestSize().x)
+            m_widestLabel = label;
+        txtOstaleMetode[i] = NewField(Element("txtOstaleMetode", index), m_fields.OstaleMetode[i]);
         grid->Add(txtOstaleMetode[i], wxSizerFlags().CenterVertical());
     }
     AddRowCaption(*grid, Panel, EctsLabel::Ukupno);
-    txtOstaleMetodeUkupno = NewOutput("txtOstaleMetodeUkupno", Fields.OstaleMetodeUkupno);
+    txtOstaleMetodeUkupno = NewOutput("txtOstaleMetodeUkupno", m_fields.OstaleMetodeUkupno);
     AddBox(*grid, txtOstaleMetodeUkupno, EctsGroup::Ostale, EctsLabel::Ukupno);
     AddWide(*frame, grid);
     return frame;
@@ -282,7 +282,7 @@ wxSizer* frmECTSCalc::TotalsFrame()
     for (std::size_t i = 0; i < TotalLabels.size(); ++i)
     {
         grid->AddGrowableCol(i, 1);
-        txtUkupnoOpter[i] = NewOutput(Element("txtUkupnoOpter", i), Fields.UkupnoOpter[i]);
+        txtUkupnoOpter[i] = NewOutput(Element("txtUkupnoOpter", i), m_fields.UkupnoOpter[i]);
         AddBox(*grid, txtUkupnoOpter[i], EctsGroup::UkupnoOpter, TotalLabels[i]);
     }
     AddWide(*frame, grid);
@@ -294,7 +294,7 @@ wxSizer* frmECTSCalc::CommandRow()
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     AddLabelled(*row, Panel, "lbl1ECTS", "1 ECTS",
                 [this] { return cbo1ECTS = NewChoice(Panel, "cbo1ECTS", 4); });
-    row->Add(NewRemark(Panel, "lblSati", "sati"), wxSizerFlags().CenterVertical());
+    row->Add(NewCaption(Panel, "lblSati", "sati"), wxSizerFlags().CenterVertical());
     row->AddStretchSpacer();
     const auto add = [&](std::string_view name, std::string_view caption)
     {
@@ -332,7 +332,7 @@ void frmECTSCalc::FitToScreen(wxSizer& content)
     wxSize size = content.CalcMin();
     if (size.x > screen.x)
     {
-        WidestLabel->Wrap(WidestLabel->GetBestSize().x - (size.x - screen.x));
+        m_widestLabel->Wrap(m_widestLabel->GetBestSize().x - (size.x - screen.x));
         size = content.CalcMin();
     }
     // On a screen that is still too small the content scrolls.

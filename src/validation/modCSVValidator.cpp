@@ -1,8 +1,8 @@
 #include "validation/modCSVValidator.h"
 
-#include "data/Numbers.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <string_view>
 
@@ -18,7 +18,7 @@ constexpr std::int32_t FirstRedoslijed = 1;
 constexpr std::int32_t LastRedoslijed = 3;
 
 /// True when a row before this one of the table has its ID.
-bool IsDuplicate(const Table& table, const Row& row, std::int32_t id)
+bool IsDuplicate(const modData::Table& table, const modData::Row& row, std::int32_t id)
 {
     return table.FindFirst(modData::IDColumn, id) != &row;
 }
@@ -27,7 +27,7 @@ bool IsDuplicate(const Table& table, const Row& row, std::int32_t id)
 using Exists = bool (*)(std::int32_t id);
 
 /// "Table: column ne postoji › value" where a reference leads to no row; the value is the text in the file.
-void CheckReference(const Row& row, std::size_t column, Exists exists, std::string_view what,
+void CheckReference(const modData::Row& row, std::size_t column, Exists exists, std::string_view what,
                     Messages& messages)
 {
     if (!exists(row.Number(column)))
@@ -40,7 +40,7 @@ std::string Invalid(std::string_view what, std::string_view value, std::string_v
     return std::string(what) + " (" + std::string(value) + ") " + std::string(where);
 }
 
-void CheckNastavnik(const Row& row, Messages& messages)
+void CheckNastavnik(const modData::Row& row, Messages& messages)
 {
     const std::int32_t id = row.Number(Nastavnik::ID);
     if (IsDuplicate(modData::Nastavnici, row, id))
@@ -52,7 +52,7 @@ void CheckNastavnik(const Row& row, Messages& messages)
     CheckReference(row, Nastavnik::ZavodID, ZavodExists, "Nastavnici: ID_zavod", messages);
 }
 
-void CheckKolegij(const Row& row, Messages& messages)
+void CheckKolegij(const modData::Row& row, Messages& messages)
 {
     const std::int32_t id = row.Number(Kolegij::ID);
     if (IsDuplicate(modData::Kolegiji, row, id))
@@ -69,7 +69,7 @@ void CheckKolegij(const Row& row, Messages& messages)
     CheckReference(row, Kolegij::StudijID, StudijExists, "Kolegiji: ID_studij", messages);
 }
 
-void CheckKolegijNastavnik(const Row& row, Messages& messages)
+void CheckKolegijNastavnik(const modData::Row& row, Messages& messages)
 {
     using namespace KolegijNastavnik;
     CheckReference(row, KolegijID, KolegijExists, "KolegijNastavnik: ID_kolegij", messages);
@@ -82,18 +82,18 @@ void CheckKolegijNastavnik(const Row& row, Messages& messages)
                             row.Place(Redoslijed)});
 }
 
-void CheckKolegijSmjer(const Row& row, Messages& messages)
+void CheckKolegijSmjer(const modData::Row& row, Messages& messages)
 {
     CheckReference(row, KolegijSmjer::KolegijID, KolegijExists, "KolegijSmjer: ID_kolegij", messages);
     CheckReference(row, KolegijSmjer::SmjerID, SmjerExists, "KolegijSmjer: ID_smjer", messages);
 }
 
-void CheckSmjer(const Row& row, Messages& messages)
+void CheckSmjer(const modData::Row& row, Messages& messages)
 {
     CheckReference(row, Smjer::StudijID, StudijExists, "Smjerovi: ID_studij", messages);
 }
 
-void CheckStudij(const Row& row, Messages& messages)
+void CheckStudij(const modData::Row& row, Messages& messages)
 {
     const std::string_view razina = row.Field(Studij::Razina);
     if (razina != modData::Preddiplomski && razina != modData::Diplomski)
@@ -101,9 +101,10 @@ void CheckStudij(const Row& row, Messages& messages)
             {"Studiji: neispravna razina › " + std::string(razina), row.Place(Studij::Razina)});
 }
 
-void CheckEach(const Table& table, void (*checkRow)(const Row&, Messages&), Messages& messages)
+void CheckEach(const modData::Table& table, void (*checkRow)(const modData::Row&, Messages&),
+               Messages& messages)
 {
-    for (const Row& row : table)
+    for (const modData::Row& row : table)
         checkRow(row, messages);
 }
 

@@ -40,8 +40,8 @@ void CheckStudiji(Messages& messages);
 /// The same tests for a single row of a table.
 struct RowCheck
 {
-    const Table& Rows;
-    void (*Check)(const Row& row, Messages& messages);
+    const modData::Table& Rows;
+    void (*Check)(const modData::Row& row, Messages& messages);
 };
 extern const std::array<RowCheck, 6> RowChecks;
 

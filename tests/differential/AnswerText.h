@@ -2,7 +2,7 @@
 
 #include "data/Errors.h"
 #include "data/Windows1250.h"
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
 #include "ui/main/CourseList.h"
@@ -56,7 +56,7 @@ inline std::string Shown(const std::vector<ListRow>& rows)
     {
         for (const ListCell& cell : row)
             text += "[" + cell.Text + (cell.Bold ? "*" : "") +
-                    (cell.Colour == Black ? "" : "#" + std::to_string(cell.Colour)) + "]";
+                    (cell.Colour == ListColours::Black ? "" : "#" + std::to_string(cell.Colour)) + "]";
         text += "\n";
     }
     return text;

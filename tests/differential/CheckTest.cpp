@@ -104,7 +104,8 @@ void RemoveQuotes(std::string& line, std::size_t position)
 }
 
 /// What the changes that were told make of a file.
-std::string AsTold(std::string bytes, const std::vector<Check::Change>& changes, const TableLayout& layout)
+std::string AsTold(std::string bytes, const std::vector<Check::Change>& changes,
+                   const modData::TableLayout& layout)
 {
     const auto is = [](const Check::Change& change, std::string_view text)
     { return change.Text.starts_with(text); };
@@ -171,7 +172,7 @@ TEST(RandomCheck, MendingDoesWhatItTellsAndOnlyOnce)
         {
             for (std::size_t i = 0; i < files.size(); ++i)
             {
-                const TableLayout& layout = modData::AllTables()[i]->Layout();
+                const modData::TableLayout& layout = modData::AllTables()[i]->Layout();
                 const Check::Mended mended = Check::Mend(files[i], layout);
                 EXPECT_TRUE(Check::Mend(mended.Bytes, layout).Changes.empty()) << layout.FileName;
                 EXPECT_TRUE(!mended.Changes.empty() || mended.Bytes == files[i]) << layout.FileName;

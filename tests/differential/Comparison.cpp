@@ -20,7 +20,7 @@ namespace
 std::vector<std::string> ProgramRows()
 {
     std::vector<std::string> lines;
-    for (const Table* table : modData::AllTables())
+    for (const modData::Table* table : modData::AllTables())
         for (const std::string& line : LinesOf(*table))
             lines.push_back(std::string(table->Layout().FileName) + ": " + line);
     return lines;
@@ -77,39 +77,39 @@ bool Comparison::Ask(const std::string& question, const Program& program, const 
     const std::string ofReference = AnswerOf(plain); // first: the program may change what it reads
     const std::string ofProgram = AnswerOf(program);
     const bool isError = ofReference.starts_with("error ");
-    ++Counts[isError ? ofReference.substr(0, ofReference.find(':')) : "answer"];
+    ++m_counts[isError ? ofReference.substr(0, ofReference.find(':')) : "answer"];
     if (ofProgram == ofReference)
         return true;
-    Found = Difference{question, ofProgram, ofReference};
+    m_found = Difference{question, ofProgram, ofReference};
     return false;
 }
 
 std::optional<Difference> Comparison::Run(const CatalogueFiles& files)
 {
-    Found.reset();
+    m_found.reset();
     reference::Catalogue catalogue;
     if (!LoadBoth(files, catalogue))
-        return Found;
+        return m_found;
     bool alike = CompareAll(catalogue);
-    for (int edits = Dice.Between(0, 3); alike && edits > 0; --edits)
+    for (int edits = m_dice.Between(0, 3); alike && edits > 0; --edits)
         alike = EditBoth(catalogue) && CompareTables(catalogue) && CompareAll(catalogue);
     if (alike && CompareSaved(catalogue))
         CompareMainWindow(catalogue); // with the tables as they were loaded anew
-    return Found;
+    return m_found;
 }
 
 std::optional<Difference> Comparison::Compare(const reference::Catalogue& catalogue)
 {
-    Found.reset();
+    m_found.reset();
     if (CompareTables(catalogue))
         CompareAll(catalogue);
-    return Found;
+    return m_found;
 }
 
 /// True when both sides have loaded the files alike, so that there is more to ask.
 bool Comparison::LoadBoth(const CatalogueFiles& files, reference::Catalogue& catalogue)
 {
-    WriteFiles(files, Folder.Data());
+    WriteFiles(files, m_folder.Data());
     bool loaded = false;
     const auto loadPlain = [&]
     {
@@ -127,7 +127,7 @@ bool Comparison::LoadBoth(const CatalogueFiles& files, reference::Catalogue& cat
     for (std::size_t i = 0; i < files.size(); ++i)
         if (!Ask(
                 "the bytes of " + std::string(TableFiles[i]) + " after loading",
-                [&] { return Bytes{ReadBytes(Folder.Data() / TableFiles[i])}; },
+                [&] { return Bytes{ReadBytes(m_folder.Data() / TableFiles[i])}; },
                 [&] { return Bytes{reference::Normalized(files[i])}; }))
             return false;
     return CompareTables(catalogue);
@@ -152,7 +152,7 @@ bool Comparison::CompareAll(const reference::Catalogue& catalogue)
 
 bool Comparison::CompareLookups(const reference::Catalogue& catalogue)
 {
-    const std::int32_t id = RandomID(Dice);
+    const std::int32_t id = RandomID(m_dice);
     const std::string argument = "(" + std::to_string(id) + ")";
     return Ask(
                "GetSmjeroviKraticeString" + argument, [&] { return modData::GetSmjeroviKraticeString(id); },
@@ -170,7 +170,7 @@ bool Comparison::CompareMainWindow(const reference::Catalogue& catalogue)
     if (!CompareLists({}, "Preddiplomski", catalogue))
         return false;
     for (int i = 0; i < 4; ++i)
-        if (!CompareLists(RandomCourseFilter(Dice), RandomRazina(Dice), catalogue))
+        if (!CompareLists(RandomCourseFilter(m_dice), RandomRazina(m_dice), catalogue))
             return false;
     return true;
 }
@@ -180,9 +180,9 @@ bool Comparison::CompareLists(const CourseFilter& filter, const std::string& raz
 {
     constexpr std::size_t courseColumns = 11;
     constexpr std::size_t sumColumns = 7;
-    const bool descending = Dice.PerMille(500);
-    const std::size_t courseColumn = Dice.Below(courseColumns);
-    const std::size_t sumColumn = Dice.Below(sumColumns);
+    const bool descending = m_dice.PerMille(500);
+    const std::size_t courseColumn = m_dice.Below(courseColumns);
+    const std::size_t sumColumn = m_dice.Below(sumColumns);
     const auto courses = [&] { return CourseRows(filter); };
     const auto plainCourses = [&] { return reference::CourseRows(catalogue, filter); };
     const auto sums = [&] { return StatistikaRows(filter, razina); };
@@ -223,51 +223,51 @@ bool Comparison::CompareLoad(const reference::Catalogue& catalogue)
 {
     constexpr int people = 4;
     for (int i = 0; i < people; ++i)
-        if (!CompareLoadOf(RandomID(Dice), catalogue))
+        if (!CompareLoadOf(RandomID(m_dice), catalogue))
             return false;
     return true;
 }
 
 bool Comparison::CompareLoadOf(std::int32_t id, const reference::Catalogue& catalogue)
 {
-    const LecturerFilter ofLecturer = RandomLecturerFilter(Dice);
-    const DepartmentFilter ofDepartment = RandomDepartmentFilter(Dice);
+    const LecturerFilter ofLecturer = RandomLecturerFilter(m_dice);
+    const DepartmentFilter ofDepartment = RandomDepartmentFilter(m_dice);
     const std::string argument = " of " + std::to_string(id);
     return Ask(
                "LecturerCourseRows" + Shown(ofLecturer) + argument,
                [&] { return LecturerCourseRows(id, ofLecturer); },
                [&] { return reference::LecturerCourseRows(catalogue, id, ofLecturer); }) &&
            Ask(
-               "LecturerLoadRows" + Shown(ofLecturer) + argument,
-               [&] { return LecturerLoadRows(id, ofLecturer); },
-               [&] { return reference::LecturerLoadRows(catalogue, id, ofLecturer); }) &&
+               "LecturerTeachingLoadRows" + Shown(ofLecturer) + argument,
+               [&] { return LecturerTeachingLoadRows(id, ofLecturer); },
+               [&] { return reference::LecturerTeachingLoadRows(catalogue, id, ofLecturer); }) &&
            Ask(
                "DepartmentCourseRows" + Shown(ofDepartment) + argument,
                [&] { return DepartmentCourseRows(id, ofDepartment); },
                [&] { return reference::DepartmentCourseRows(catalogue, id, ofDepartment); }) &&
            Ask(
-               "DepartmentLoadRows" + Shown(ofDepartment) + argument,
-               [&] { return DepartmentLoadRows(id, ofDepartment); },
-               [&] { return reference::DepartmentLoadRows(catalogue, id, ofDepartment); });
+               "DepartmentTeachingLoadRows" + Shown(ofDepartment) + argument,
+               [&] { return DepartmentTeachingLoadRows(id, ofDepartment); },
+               [&] { return reference::DepartmentTeachingLoadRows(catalogue, id, ofDepartment); });
 }
 
 bool Comparison::CompareExports(const reference::Catalogue& catalogue)
 {
-    const LecturerFilter ofLecturers = RandomLecturerFilter(Dice);
-    const DepartmentFilter ofDepartments = RandomDepartmentFilter(Dice);
-    const CourseFilter ofSums = RandomCourseFilter(Dice);
-    const std::string razina = RandomRazina(Dice);
+    const LecturerFilter ofLecturers = RandomLecturerFilter(m_dice);
+    const DepartmentFilter ofDepartments = RandomDepartmentFilter(m_dice);
+    const CourseFilter ofSums = RandomCourseFilter(m_dice);
+    const std::string razina = RandomRazina(m_dice);
     constexpr std::string_view shown[] = {"LOR", "a,b", "\"Q\"", "a\rb", "a\nb", ";", "", "\r\n,\"", "š漢"};
-    const StatistikaFilters boxes = {razina, std::string(Dice.OneOf(shown)), std::string(Dice.OneOf(shown)),
-                                     std::string(Dice.OneOf(shown))};
+    const StatistikaFilters boxes = {razina, std::string(m_dice.OneOf(shown)),
+                                     std::string(m_dice.OneOf(shown)), std::string(m_dice.OneOf(shown))};
 
     // The bytes that an export leaves in its file.
     const auto exported = [&](const auto& write)
     {
-        const std::filesystem::path file = Folder.Path() / "export.csv";
+        const std::filesystem::path file = m_folder.Path() / "export.csv";
         std::error_code ignored;
         std::filesystem::remove(file, ignored);
-        write(Folder.PathOf("export.csv"));
+        write(m_folder.PathOf("export.csv"));
         return Bytes{ReadBytes(file)};
     };
     return Ask(
@@ -306,7 +306,7 @@ bool Comparison::CompareSaved(reference::Catalogue& catalogue)
     for (std::size_t i = 0; i < saved.size(); ++i)
         if (!Ask(
                 "the bytes of " + std::string(TableFiles[i]) + " after saving",
-                [&] { return Bytes{ReadBytes(Folder.Data() / TableFiles[i])}; },
+                [&] { return Bytes{ReadBytes(m_folder.Data() / TableFiles[i])}; },
                 [&] { return Bytes{saved[i]}; }))
             return false;
     return LoadBoth(saved, catalogue);
@@ -314,8 +314,8 @@ bool Comparison::CompareSaved(reference::Catalogue& catalogue)
 
 bool Comparison::EditBoth(reference::Catalogue& catalogue)
 {
-    const CourseEntry entry = RandomEntry(Dice);
-    const std::int32_t id = RandomID(Dice);
+    const CourseEntry entry = RandomEntry(m_dice);
+    const std::int32_t id = RandomID(m_dice);
     const auto done = [](const auto& edit)
     {
         return [&edit]
@@ -324,7 +324,7 @@ bool Comparison::EditBoth(reference::Catalogue& catalogue)
             return 0;
         };
     };
-    switch (Dice.Below(3))
+    switch (m_dice.Below(3))
     {
     case 0:
     {

@@ -23,7 +23,7 @@ struct Difference
 class Comparison
 {
 public:
-    Comparison(const TestFolder& folder, Chance& chance) : Folder(folder), Dice(chance) {}
+    Comparison(const TestFolder& folder, Chance& chance) : m_folder(folder), m_dice(chance) {}
 
     /// Loads the files of the data folder on both sides, compares all that can be asked of them, edits them
     /// and compares again, saves them, loads them anew. Gives the first difference, or nothing.
@@ -33,7 +33,7 @@ public:
     std::optional<Difference> Compare(const reference::Catalogue& catalogue);
 
     /// How often each kind of answer was given: "answer", or "error" with its number.
-    const std::map<std::string, std::size_t>& Answers() const { return Counts; }
+    const std::map<std::string, std::size_t>& Answers() const { return m_counts; }
 
 private:
     template<typename Program, typename Plain>
@@ -52,8 +52,8 @@ private:
     bool CompareSaved(reference::Catalogue& catalogue);
     bool EditBoth(reference::Catalogue& catalogue);
 
-    const TestFolder& Folder;
-    Chance& Dice;
-    std::map<std::string, std::size_t> Counts;
-    std::optional<Difference> Found;
+    const TestFolder& m_folder;
+    Chance& m_dice;
+    std::map<std::string, std::size_t> m_counts;
+    std::optional<Difference> m_found;
 };

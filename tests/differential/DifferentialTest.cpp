@@ -1,7 +1,7 @@
 #include "differential/Comparison.h"
 #include "differential/RandomRun.h"
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 #include "support/TestFolder.h"
 
 #include "data/FileOperations.h"

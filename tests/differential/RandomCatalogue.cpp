@@ -58,58 +58,58 @@ constexpr std::string_view Headers[] = {
 class Faults
 {
 public:
-    explicit Faults(Chance& chance) : Dice(chance)
+    explicit Faults(Chance& chance) : m_dice(chance)
     {
         constexpr std::size_t rates[] = {5, 20, 100, 300};
         const std::size_t kinds[] = {0, 1, 1, 2, 3, 6, FaultKinds};
-        for (std::size_t left = Dice.PerMille(120) ? 0 : kinds[Dice.Below(std::size(kinds))]; left > 0;
+        for (std::size_t left = m_dice.PerMille(120) ? 0 : kinds[m_dice.Below(std::size(kinds))]; left > 0;
              --left)
-            Rates[Dice.Below(FaultKinds)] = Dice.OneOf(rates);
+            m_rates[m_dice.Below(FaultKinds)] = m_dice.OneOf(rates);
     }
 
     bool Strikes(Fault fault)
     {
-        const std::size_t rate = Rates[static_cast<std::size_t>(fault)];
-        return rate != 0 && Dice.PerMille(rate);
+        const std::size_t rate = m_rates[static_cast<std::size_t>(fault)];
+        return rate != 0 && m_dice.PerMille(rate);
     }
 
 private:
-    Chance& Dice;
-    std::array<std::size_t, FaultKinds> Rates{};
+    Chance& m_dice;
+    std::array<std::size_t, FaultKinds> m_rates{};
 };
 
 class Generator
 {
 public:
-    explicit Generator(Chance& chance) : Dice(chance), Has(chance) {}
+    explicit Generator(Chance& chance) : m_dice(chance), m_has(chance) {}
 
     CatalogueFiles Make()
     {
-        const int most = Dice.PerMille(200) ? 3 : 14;
+        const int most = m_dice.PerMille(200) ? 3 : 14;
         const auto rows = [&](int limit)
-        { return Dice.PerMille(60) ? 0 : Dice.Between(1, std::min(limit, most)); };
-        MakeIDs(ZavodIDs, rows(4));
-        MakeIDs(NastavnikIDs, rows(8));
-        MakeIDs(StudijIDs, rows(5));
-        MakeIDs(SmjerIDs, rows(7));
-        MakeIDs(KolegijIDs, rows(9));
+        { return m_dice.PerMille(60) ? 0 : m_dice.Between(1, std::min(limit, most)); };
+        MakeIDs(m_zavodIDs, rows(4));
+        MakeIDs(m_nastavnikIDs, rows(8));
+        MakeIDs(m_studijIDs, rows(5));
+        MakeIDs(m_smjerIDs, rows(7));
+        MakeIDs(m_kolegijIDs, rows(9));
 
         std::array<std::vector<std::string>, 7> lines;
-        for (const int id : ZavodIDs)
+        for (const int id : m_zavodIDs)
             lines[0].push_back(Line({Number(id), Name(), Text(Codes)}));
-        for (const int id : NastavnikIDs)
-            lines[1].push_back(Line({Number(id), Person(), Text(Titles), Reference(ZavodIDs)}));
-        for (const int id : StudijIDs)
+        for (const int id : m_nastavnikIDs)
+            lines[1].push_back(Line({Number(id), Person(), Text(Titles), Reference(m_zavodIDs)}));
+        for (const int id : m_studijIDs)
             lines[2].push_back(Line({Number(id), Name(), Text(Codes), Razina()}));
-        for (const int id : SmjerIDs)
-            lines[3].push_back(Line({Number(id), Name(), Text(Codes), Reference(StudijIDs), Razina()}));
-        for (const int id : KolegijIDs)
+        for (const int id : m_smjerIDs)
+            lines[3].push_back(Line({Number(id), Name(), Text(Codes), Reference(m_studijIDs), Razina()}));
+        for (const int id : m_kolegijIDs)
             lines[4].push_back(Line({Number(id), Name(), Hours(4), Hours(3), Hours(3), Hours(20), Tip(),
-                                     Semestar(), Reference(StudijIDs)}));
-        for (int i = KolegijIDs.empty() || SmjerIDs.empty() ? 0 : rows(14) + rows(6); i > 0; --i)
-            lines[5].push_back(Line({Reference(KolegijIDs), Reference(SmjerIDs)}));
-        for (int i = KolegijIDs.empty() || NastavnikIDs.empty() ? 0 : rows(14) + rows(10); i > 0; --i)
-            lines[6].push_back(Line({Reference(KolegijIDs), Reference(NastavnikIDs), Uloga(), Place()}));
+                                     Semestar(), Reference(m_studijIDs)}));
+        for (int i = m_kolegijIDs.empty() || m_smjerIDs.empty() ? 0 : rows(14) + rows(6); i > 0; --i)
+            lines[5].push_back(Line({Reference(m_kolegijIDs), Reference(m_smjerIDs)}));
+        for (int i = m_kolegijIDs.empty() || m_nastavnikIDs.empty() ? 0 : rows(14) + rows(10); i > 0; --i)
+            lines[6].push_back(Line({Reference(m_kolegijIDs), Reference(m_nastavnikIDs), Uloga(), Place()}));
 
         CatalogueFiles files;
         for (std::size_t i = 0; i < files.size(); ++i)
@@ -123,8 +123,8 @@ private:
     {
         while (static_cast<int>(ids.size()) < count)
         {
-            const int id = Dice.Between(1, LargestID);
-            if (std::ranges::find(ids, id) == ids.end() || Has.Strikes(Fault::DuplicateID))
+            const int id = m_dice.Between(1, LargestID);
+            if (std::ranges::find(ids, id) == ids.end() || m_has.Strikes(Fault::DuplicateID))
                 ids.push_back(id);
         }
     }
@@ -132,87 +132,90 @@ private:
     std::string Number(int number)
     {
         const std::string plain = std::to_string(number);
-        if (Has.Strikes(Fault::OddlyWrittenNumber))
+        if (m_has.Strikes(Fault::OddlyWrittenNumber))
         {
             const std::string odd[] = {
                 " " + plain,  plain + "  ", "0" + plain, plain + ".0",
                 plain + ",4", "+" + plain,  plain + ",", std::to_string(number - 1) + ".51"};
-            return odd[Dice.Below(std::size(odd))];
+            return odd[m_dice.Below(std::size(odd))];
         }
-        if (Has.Strikes(Fault::Decimal))
-            return plain + (Dice.PerMille(500) ? ",5" : ".5");
-        if (Has.Strikes(Fault::NotNumeric))
-            return std::string(Dice.OneOf(NotNumbers));
-        if (Has.Strikes(Fault::TooLarge))
-            return std::string(Dice.OneOf(LargeNumbers));
-        if (Has.Strikes(Fault::Negative))
+        if (m_has.Strikes(Fault::Decimal))
+            return plain + (m_dice.PerMille(500) ? ",5" : ".5");
+        if (m_has.Strikes(Fault::NotNumeric))
+            return std::string(m_dice.OneOf(NotNumbers));
+        if (m_has.Strikes(Fault::TooLarge))
+            return std::string(m_dice.OneOf(LargeNumbers));
+        if (m_has.Strikes(Fault::Negative))
             return "-" + plain;
         return plain;
     }
 
     std::string Reference(const std::vector<int>& ids)
     {
-        if (ids.empty() || Has.Strikes(Fault::UnknownID))
-            return Number(Dice.Between(0, LargestID + 2));
-        return Number(ids[Dice.Below(ids.size())]);
+        if (ids.empty() || m_has.Strikes(Fault::UnknownID))
+            return Number(m_dice.Between(0, LargestID + 2));
+        return Number(ids[m_dice.Below(ids.size())]);
     }
 
     std::string Hours(int most)
     {
         constexpr std::string_view huge[] = {"2147483647",  "1073741824", "715827883",
                                              "-2147483648", "30",         "31"};
-        if (Has.Strikes(Fault::HugeHours))
-            return std::string(Dice.OneOf(huge));
-        return Number(Dice.Between(0, most));
+        if (m_has.Strikes(Fault::HugeHours))
+            return std::string(m_dice.OneOf(huge));
+        return Number(m_dice.Between(0, most));
     }
 
     template<std::size_t Count>
     std::string Text(const std::string_view (&texts)[Count])
     {
-        std::string text(Dice.OneOf(texts));
-        if (Has.Strikes(Fault::OddText))
-            text.insert(Dice.PerMille(500) ? 0 : text.size(),
-                        Dice.PerMille(500) ? ForeignLetter(Dice) : std::string(Dice.OneOf(OddTexts)));
+        std::string text(m_dice.OneOf(texts));
+        if (m_has.Strikes(Fault::OddText))
+            text.insert(m_dice.PerMille(500) ? 0 : text.size(),
+                        m_dice.PerMille(500) ? ForeignLetter(m_dice) : std::string(m_dice.OneOf(OddTexts)));
         return text;
     }
 
-    std::string Name() { return Dice.PerMille(300) ? Word(Dice) : Text(Names); }
+    std::string Name() { return m_dice.PerMille(300) ? Word(m_dice) : Text(Names); }
 
     std::string Person()
     {
-        return Has.Strikes(Fault::BlankName) ? std::string(Dice.Below(3), ' ') : Text(People);
+        return m_has.Strikes(Fault::BlankName) ? std::string(m_dice.Below(3), ' ') : Text(People);
     }
 
     std::string Razina()
     {
-        return Has.Strikes(Fault::OddRazina) ? Text(OddLevels) : std::string(Dice.OneOf(Levels));
+        return m_has.Strikes(Fault::OddRazina) ? Text(OddLevels) : std::string(m_dice.OneOf(Levels));
     }
 
-    std::string Tip() { return Has.Strikes(Fault::OddTip) ? Text(OddTypes) : std::string(Dice.OneOf(Types)); }
+    std::string Tip()
+    {
+        return m_has.Strikes(Fault::OddTip) ? Text(OddTypes) : std::string(m_dice.OneOf(Types));
+    }
 
     std::string Uloga()
     {
-        return Has.Strikes(Fault::OddUloga) ? Text(OddRoles) : std::string(Dice.OneOf(Roles));
+        return m_has.Strikes(Fault::OddUloga) ? Text(OddRoles) : std::string(m_dice.OneOf(Roles));
     }
 
     std::string Semestar()
     {
-        return Number(Has.Strikes(Fault::OddSemestar) ? Dice.Between(-2, 9) : Dice.Between(1, 6));
+        return Number(m_has.Strikes(Fault::OddSemestar) ? m_dice.Between(-2, 9) : m_dice.Between(1, 6));
     }
 
     std::string Place()
     {
-        return Number(Has.Strikes(Fault::OddPlace) ? Dice.Between(-1, 5) : Dice.Between(1, 3));
+        return Number(m_has.Strikes(Fault::OddPlace) ? m_dice.Between(-1, 5) : m_dice.Between(1, 3));
     }
 
     std::string Line(std::vector<std::string> fields)
     {
-        if (Has.Strikes(Fault::EmptyFirstField))
+        if (m_has.Strikes(Fault::EmptyFirstField))
             fields.front().clear();
-        if (Has.Strikes(Fault::MissingFields))
-            fields.resize(1 + Dice.Below(fields.size()));
-        if (Has.Strikes(Fault::ExtraFields))
-            for (std::size_t i = 0; i <= Dice.Below(3); ++i)
+        if (m_has.Strikes(Fault::MissingFields))
+            fields.resize(1 + m_dice.Below(fields.size()));
+        if (m_has.Strikes(Fault::ExtraFields))
+            for (std::size_t i = 0; i <= m_dice.Below(3); ++i)
                 fields.emplace_back(i == 0 ? "" : "višak");
         std::string line = fields.front();
         for (std::size_t i = 1; i < fields.size(); ++i)
@@ -222,38 +225,38 @@ private:
 
     std::string LineEnd()
     {
-        if (Has.Strikes(Fault::LoneCR))
+        if (m_has.Strikes(Fault::LoneCR))
             return "\r";
-        if (Has.Strikes(Fault::LoneLF))
+        if (m_has.Strikes(Fault::LoneLF))
             return "\n";
-        if (Has.Strikes(Fault::BlankLine))
-            return "\r\n" + std::string(Dice.Below(3), ' ') + "\r\n";
+        if (m_has.Strikes(Fault::BlankLine))
+            return "\r\n" + std::string(m_dice.Below(3), ' ') + "\r\n";
         return "\r\n";
     }
 
     std::string File(std::string_view header, const std::vector<std::string>& lines)
     {
-        if (Has.Strikes(Fault::EmptyFile))
-            return Dice.PerMille(300) ? "\xEF\xBB\xBF" : "";
+        if (m_has.Strikes(Fault::EmptyFile))
+            return m_dice.PerMille(300) ? "\xEF\xBB\xBF" : "";
         std::string text(header);
-        if (!Has.Strikes(Fault::HeaderOnly))
+        if (!m_has.Strikes(Fault::HeaderOnly))
             for (const std::string& line : lines)
                 text += LineEnd() + line;
-        if (!Has.Strikes(Fault::NoFinalEnd))
+        if (!m_has.Strikes(Fault::NoFinalEnd))
             text += LineEnd();
-        std::string bytes = Has.Strikes(Fault::Utf8Mark) ? "\xEF\xBB\xBF" + text : ToWindows1250(text);
-        while (Has.Strikes(Fault::AnyBytes))
-            bytes.insert(Dice.Below(bytes.size() + 1), 1, static_cast<char>(Dice.Below(256)));
+        std::string bytes = m_has.Strikes(Fault::Utf8Mark) ? "\xEF\xBB\xBF" + text : ToWindows1250(text);
+        while (m_has.Strikes(Fault::AnyBytes))
+            bytes.insert(m_dice.Below(bytes.size() + 1), 1, static_cast<char>(m_dice.Below(256)));
         return bytes;
     }
 
-    Chance& Dice;
-    Faults Has;
-    std::vector<int> ZavodIDs;
-    std::vector<int> NastavnikIDs;
-    std::vector<int> StudijIDs;
-    std::vector<int> SmjerIDs;
-    std::vector<int> KolegijIDs;
+    Chance& m_dice;
+    Faults m_has;
+    std::vector<int> m_zavodIDs;
+    std::vector<int> m_nastavnikIDs;
+    std::vector<int> m_studijIDs;
+    std::vector<int> m_smjerIDs;
+    std::vector<int> m_kolegijIDs;
 };
 
 std::string Escaped(std::string_view bytes)

@@ -17,10 +17,10 @@
 class Chance
 {
 public:
-    explicit Chance(std::uint64_t seed) : Engine(seed) {}
+    explicit Chance(std::uint64_t seed) : m_engine(seed) {}
 
     /// A number from 0 to `count` - 1.
-    std::size_t Below(std::size_t count) { return static_cast<std::size_t>(Engine() % count); }
+    std::size_t Below(std::size_t count) { return static_cast<std::size_t>(m_engine() % count); }
 
     /// A number from `least` to `most`.
     int Between(int least, int most)
@@ -38,7 +38,7 @@ public:
     }
 
 private:
-    std::mt19937_64 Engine;
+    std::mt19937_64 m_engine;
 };
 
 /// The names of the seven files, in the order in which they are loaded.

@@ -32,10 +32,10 @@ public:
             return System::OwnFiles.Rename(from, to);
         };
     }
-    ~HastyFiles() { System::Files = Former; }
+    ~HastyFiles() { System::Files = m_former; }
     HastyFiles(const HastyFiles&) = delete;
     HastyFiles& operator=(const HastyFiles&) = delete;
 
 private:
-    FileOperations Former = System::Files;
+    FileOperations m_former = System::Files;
 };

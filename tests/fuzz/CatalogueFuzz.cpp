@@ -1,8 +1,7 @@
 #include "data/Files.h"
-#include "data/Numbers.h"
+#include "data/TableChoices.h"
 #include "data/modData.h"
 #include "fuzz/Fuzz.h"
-#include "lists/TableChoices.h"
 #include "support/Lists.h"
 #include "support/TestFolder.h"
 #include "ui/course_editor/CourseEntry.h"
@@ -19,7 +18,7 @@
 namespace
 {
 
-const std::array<Table*, 7> Tables = modData::AllTables();
+const std::array<modData::Table*, 7> Tables = modData::AllTables();
 
 /// Stands between the files of an input: no text has it.
 constexpr char BetweenFiles = '\x01';
@@ -45,9 +44,9 @@ void RefreshEverything()
         for (const char* razina : {"Svi", "Diplomski"})
         {
             Succeeds([&] { LecturerCourseRows(id, {razina, "Svi"}); });
-            Succeeds([&] { LecturerLoadRows(id, {razina, "Svi"}); });
+            Succeeds([&] { LecturerTeachingLoadRows(id, {razina, "Svi"}); });
             Succeeds([&] { DepartmentCourseRows(id, {razina, "Svi"}); });
-            Succeeds([&] { DepartmentLoadRows(id, {razina, "Zimski"}); });
+            Succeeds([&] { DepartmentTeachingLoadRows(id, {razina, "Zimski"}); });
         }
         Succeeds([&] { SmjerChoices(id); });
         Succeeds([&] { EntryOf(id); });

@@ -9,9 +9,9 @@ namespace
 {
 
 constexpr std::string_view Columns[] = {"ID", "Naziv", "Kratica"};
-constexpr TableLayout Layout = {"table.csv", Columns};
+constexpr modData::TableLayout Layout = {"table.csv", Columns};
 
-bool SameFields(const Row& a, const Row& b)
+bool SameFields(const modData::Row& a, const modData::Row& b)
 {
     if (a.FieldCount() != b.FieldCount())
         return false;
@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const std::string path = folder.PathOf("table.csv");
     WriteBytes(folder.Path() / "table.csv", TextOf(data, size));
 
-    Table loaded(Layout);
+    modData::Table loaded(Layout);
     if (!Succeeds(
             [&]
             {
@@ -41,13 +41,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // Leading empty fields leave no separator, and a row of such fields alone leaves a blank line, which is
     // passed over: so it is the second copy that must come back as it was saved.
-    const auto saveAndLoad = [&](const Table& table)
+    const auto saveAndLoad = [&](const modData::Table& table)
     {
         modData::SaveTable(path, Layout.Header(), table);
         return modData::LoadTable(path, Layout);
     };
-    Table first(Layout);
-    Table second(Layout);
+    modData::Table first(Layout);
+    modData::Table second(Layout);
     const bool saved = Succeeds(
         [&]
         {

@@ -1,6 +1,7 @@
-#include "data/Numbers.h"
+#include "data/CheckedNumbers.h"
 #include "ects/FieldNumbers.h"
 #include "fuzz/Fuzz.h"
+#include "text/Numbers.h"
 
 #include <cmath>
 #include <string>
@@ -11,16 +12,16 @@ namespace
 void CheckWhole(std::string_view text)
 {
     std::int32_t value = 0;
-    const NumberReading reading = ReadLong(text, value);
-    Promise(IsNumeric(text) == (reading != NumberReading::NotNumeric), "numeric is what can be read");
-    Promise(ToLongOrZero(text) == (reading == NumberReading::Whole ? value : 0),
+    const NumberKind reading = ParseLong(text, value);
+    Promise(IsNumeric(text) == (reading != NumberKind::NotNumeric), "numeric is what can be read");
+    Promise(ToLongOrZero(text) == (reading == NumberKind::Whole ? value : 0),
             "safe conversion reads the same");
 
     std::int32_t strict = 0;
     const bool converted = Succeeds([&] { strict = ToLong(text); });
-    Promise(converted == (reading == NumberReading::Whole), "strict conversion succeeds for whole numbers");
+    Promise(converted == (reading == NumberKind::Whole), "strict conversion succeeds for whole numbers");
     Promise(!converted || strict == value, "strict conversion reads the same");
-    if (reading != NumberReading::Whole)
+    if (reading != NumberKind::Whole)
         return;
     Promise(ToLong(" " + std::to_string(value) + " ") == value, "a number reads as it is written");
     Promise(ToLong(std::string(text) + " ") == value, "blanks around a number mean nothing");

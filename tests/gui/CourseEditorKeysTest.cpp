@@ -77,7 +77,7 @@ TEST_F(CourseEditor, EnterInAWrongFieldWarnsAndKeepsTheDialogOpen)
 class KeyLog
 {
 public:
-    KeyLog(frmKolegij* editor, int key) : Editor(editor)
+    KeyLog(frmKolegij* editor, int key) : m_editor(editor)
     {
         // What has the focus is not always what the toolkit knows to have it; what gets a key is.
         editor->Bind(wxEVT_CHAR_HOOK,
@@ -89,22 +89,22 @@ public:
                      });
     }
 
-    const Texts& Controls() const { return Names; }
+    const Texts& Controls() const { return m_names; }
 
 private:
     void Note(const wxWindow* window)
     {
-        while (window != nullptr && window->GetParent() != Editor)
+        while (window != nullptr && window->GetParent() != m_editor)
             window = window->GetParent();
         if (window == nullptr)
             return; // the arrow of a list that drops down, on some systems
         const std::string name = window->GetName().utf8_string();
-        if (Names.empty() || Names.back() != name)
-            Names.push_back(name);
+        if (m_names.empty() || m_names.back() != name)
+            m_names.push_back(name);
     }
 
-    frmKolegij* Editor;
-    Texts Names;
+    frmKolegij* m_editor;
+    Texts m_names;
 };
 
 TEST_F(CourseEditor, TabFollowsTheLayout)

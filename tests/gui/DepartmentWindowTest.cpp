@@ -2,7 +2,7 @@
 
 #include "data/System.h"
 #include "data/modData.h"
-#include "support/LoadWindows.h"
+#include "support/TeachingLoadWindows.h"
 #include "ui/lecturer_stats/frmStatNositelji.h"
 
 #include <wx/uiaction.h>
@@ -15,10 +15,10 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-class DepartmentWindow : public LoadWindowTest<frmStatZavodi>
+class DepartmentWindow : public TeachingLoadWindowTest<frmStatZavodi>
 {
 protected:
-    DepartmentWindow() : LoadWindowTest("cmdStatZavodi") {}
+    DepartmentWindow() : TeachingLoadWindowTest("cmdStatZavodi") {}
 
     wxListBox* Semestri() { return Find<wxListBox>(Stat, "lstSemestri"); }
     ListView* Kolegiji() { return List("lvwKolegiji"); }

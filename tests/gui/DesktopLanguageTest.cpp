@@ -3,11 +3,10 @@
 #ifndef _WIN32
 
 #include "support/Catalogue.h"
+#include "support/ScriptedProgram.h"
 #include "support/TestFolder.h"
 #include "support/Windows.h"
 
-#include <wx/filename.h>
-#include <wx/stdpaths.h>
 #include <wx/utils.h>
 
 namespace
@@ -31,7 +30,7 @@ public:
     }
     ~CroatianDesktop()
     {
-        for (const auto& [name, value] : Former)
+        for (const auto& [name, value] : m_former)
             SetEnvironment(name, value);
     }
     CroatianDesktop(const CroatianDesktop&) = delete;
@@ -42,11 +41,11 @@ private:
     {
         wxString former;
         wxGetEnv(name, &former);
-        Former.emplace_back(name, former.utf8_string());
+        m_former.emplace_back(name, former.utf8_string());
         SetEnvironment(name, value);
     }
 
-    std::vector<std::pair<const char*, std::string>> Former;
+    std::vector<std::pair<const char*, std::string>> m_former;
 };
 
 TEST(DesktopLanguage, ButtonsFollowTheDesktopAndNumbersAndSortingDoNot)
@@ -55,12 +54,9 @@ TEST(DesktopLanguage, ButtonsFollowTheDesktopAndNumbersAndSortingDoNot)
     SmallCatalogue().WriteTo(folder.Data());
     const CroatianDesktop desktop(folder.Path());
     SetEnvironment("VARLO_ASK", "yes");
-    wxFileName program(wxStandardPaths::Get().GetExecutablePath());
-    program.SetName("scripted_program");
-    wxArrayString output;
-    wxExecute("\"" + program.GetFullPath() + "\"", output, wxEXEC_SYNC);
+    const std::string output = RunScriptedProgram().Output;
     SetEnvironment("VARLO_ASK", "");
-    EXPECT_EQ(wxJoin(output, '\n').utf8_string(), "Da Ne 1.5 B a");
+    EXPECT_EQ(output, "Da Ne 1.5 B a");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "ects/frmECTSCalc.h"
 #include "support/TestFolder.h"
 #include "support/Windows.h"
+#include "support/WorkloadWarnings.h"
 #include "ui/controls/DecimalSeparator.h"
 #include "ui/controls/SharedWindow.h"
 
@@ -24,16 +25,6 @@ namespace
 {
 
 using Texts = std::vector<std::string>;
-
-const char* const NoEstimate = "Odabrana je vlastita procjena literature, ali procjena nije unesena.";
-const char* const NoPages = "Odabran je normativ literature, ali broj stranica nije unesen.";
-const char* const PagesAndWords = "Za pismeni zadatak unesite ili stranice ili riječi, ne oboje.";
-const char* const NoWrittenEstimate =
-    "Odabrana je vlastita procjena pismenog zadatka, ali procjena nije unesena.";
-const char* const NoWrittenExtent = "Odabran je normativ pismenog zadatka, ali nije unesen opseg.";
-const char* const NoSelfStudy = "Unesena je kontaktna nastava, ali samostalni sati nisu uneseni.";
-const char* const NoWorkload = "Ukupno opterećenje nije uneseno.";
-const char* const NoWarning = "Nema upozorenja.";
 
 const wxColour RedColour(255, 0, 0);
 const wxColour BlueColour(0, 0, 255);

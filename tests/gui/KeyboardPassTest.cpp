@@ -67,28 +67,28 @@ std::vector<wxWindow*> KindsOfTabStops(wxTopLevelWindow& window)
 class KeyLog
 {
 public:
-    explicit KeyLog(wxTopLevelWindow& window) : Window(window)
+    explicit KeyLog(wxTopLevelWindow& window) : m_window(window)
     {
         // What has the focus is not always what the toolkit knows to have it; what gets a key is.
-        Window.Bind(wxEVT_CHAR_HOOK, &KeyLog::Note, this);
+        m_window.Bind(wxEVT_CHAR_HOOK, &KeyLog::Note, this);
     }
-    ~KeyLog() { Window.Unbind(wxEVT_CHAR_HOOK, &KeyLog::Note, this); }
+    ~KeyLog() { m_window.Unbind(wxEVT_CHAR_HOOK, &KeyLog::Note, this); }
     KeyLog(const KeyLog&) = delete;
     KeyLog& operator=(const KeyLog&) = delete;
 
-    const std::vector<wxWindow*>& Controls() const { return Controls_; }
+    const std::vector<wxWindow*>& Controls() const { return m_controls; }
 
 private:
     void Note(wxKeyEvent& event)
     {
         event.Skip();
-        wxWindow* control = ControlWith(Window, dynamic_cast<wxWindow*>(event.GetEventObject()));
-        if (control != nullptr && (Controls_.empty() || Controls_.back() != control))
-            Controls_.push_back(control);
+        wxWindow* control = ControlWith(m_window, dynamic_cast<wxWindow*>(event.GetEventObject()));
+        if (control != nullptr && (m_controls.empty() || m_controls.back() != control))
+            m_controls.push_back(control);
     }
 
-    wxTopLevelWindow& Window;
-    std::vector<wxWindow*> Controls_;
+    wxTopLevelWindow& m_window;
+    std::vector<wxWindow*> m_controls;
 };
 
 /// While it lives, notes the buttons pressed in a window, and nothing else comes of it.
@@ -100,41 +100,41 @@ public:
         for (wxWindow* control : ControlsOf(window))
             if (auto* button = dynamic_cast<wxButton*>(control))
             {
-                Buttons.push_back(button);
+                m_buttons.push_back(button);
                 button->Bind(wxEVT_BUTTON, &ButtonLog::Note, this);
             }
     }
     ~ButtonLog()
     {
-        for (wxButton* button : Buttons)
+        for (wxButton* button : m_buttons)
             button->Unbind(wxEVT_BUTTON, &ButtonLog::Note, this);
     }
     ButtonLog(const ButtonLog&) = delete;
     ButtonLog& operator=(const ButtonLog&) = delete;
 
-    const std::vector<wxButton*>& All() const { return Buttons; }
+    const std::vector<wxButton*>& All() const { return m_buttons; }
 
     /// The button pressed since the last call; empty when none was. Some systems show a button pressed for a
     /// quarter of a second before they say so.
     std::string Take(long patience = 1000)
     {
-        for (const wxStopWatch watch; Names.empty() && watch.Time() < patience;)
+        for (const wxStopWatch watch; m_names.empty() && watch.Time() < patience;)
             Settle();
         std::string names;
-        for (const std::string& name : Names)
+        for (const std::string& name : m_names)
             names.append(names.empty() ? "" : " ").append(name);
-        Names.clear();
+        m_names.clear();
         return names;
     }
 
 private:
     void Note(wxCommandEvent& event)
     {
-        Names.push_back(dynamic_cast<wxWindow*>(event.GetEventObject())->GetName().utf8_string());
+        m_names.push_back(dynamic_cast<wxWindow*>(event.GetEventObject())->GetName().utf8_string());
     }
 
-    std::vector<wxButton*> Buttons;
-    Texts Names;
+    std::vector<wxButton*> m_buttons;
+    Texts m_names;
 };
 
 /// The access key of a caption in upper case; 0 when it has none.

@@ -5,7 +5,7 @@
 #include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/FolderState.h"
-#include "support/LoadWindows.h"
+#include "support/TeachingLoadWindows.h"
 #include "ui/department_stats/frmStatZavodi.h"
 
 #include <wx/uiaction.h>
@@ -17,10 +17,10 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-class LecturerWindow : public LoadWindowTest<frmStatNositelji>
+class LecturerWindow : public TeachingLoadWindowTest<frmStatNositelji>
 {
 protected:
-    LecturerWindow() : LoadWindowTest("cmdStatNositelji") {}
+    LecturerWindow() : TeachingLoadWindowTest("cmdStatNositelji") {}
 
     wxListBox* Nastavnici() { return Find<wxListBox>(Stat, "lstNastavnici"); }
     ListView* Kolegiji() { return List("lvwKolegiji"); }

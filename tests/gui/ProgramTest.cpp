@@ -4,24 +4,15 @@
 #include "data/Files.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
+#include "support/ScriptedProgram.h"
 #include "support/TestFolder.h"
 #include "support/WatchedFiles.h"
 #include "support/Windows.h"
-
-#include <wx/filename.h>
-#include <wx/stdpaths.h>
-#include <wx/utils.h>
 
 #include <map>
 
 namespace
 {
-
-struct Outcome
-{
-    long ExitCode;
-    std::string Output; ///< The message boxes, a line each: title, severity, text.
-};
 
 class Program : public testing::Test
 {
@@ -32,12 +23,7 @@ protected:
     Outcome Run(const char* leaveBy = "exit")
     {
         SetEnvironment("VARLO_LEAVE_BY", leaveBy);
-        wxFileName program(wxStandardPaths::Get().GetExecutablePath());
-        program.SetName("scripted_program");
-        wxArrayString output;
-        wxArrayString errors;
-        const long exitCode = wxExecute("\"" + program.GetFullPath() + "\"", output, errors, wxEXEC_SYNC);
-        return {exitCode, wxJoin(output, '\n', '\0').utf8_string()};
+        return RunScriptedProgram();
     }
 
     void Replace(const char* file, std::string_view content) { WriteBytes(Folder.Data() / file, content); }

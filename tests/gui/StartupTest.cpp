@@ -57,14 +57,14 @@ using Open = std::pair<bool, long>;
 class Alarm : private wxTimer
 {
 public:
-    Alarm(int milliseconds, std::function<void()> ring) : Ring(std::move(ring)) { StartOnce(milliseconds); }
+    Alarm(int milliseconds, std::function<void()> ring) : m_ring(std::move(ring)) { StartOnce(milliseconds); }
 
     bool HasRung() const { return !IsRunning(); }
 
 private:
-    void Notify() override { Ring(); }
+    void Notify() override { m_ring(); }
 
-    std::function<void()> Ring;
+    std::function<void()> m_ring;
 };
 
 TEST_F(Startup, TheSplashLeadsIntoTheMainWindowAfterASecond)

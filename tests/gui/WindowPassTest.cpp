@@ -1,9 +1,9 @@
 // One pass over every window: what a screen reader says, and whether all that is shown can be read.
 
+#include "support/AccessibleName.h"
 #include "support/EveryWindow.h"
 #include "support/ListWindow.h"
 #include "support/NamedFont.h"
-#include "support/SpokenName.h"
 #include "support/TextScale.h"
 
 #include <wx/button.h>
@@ -56,7 +56,7 @@ TEST_F(EveryWindow, EveryFieldAndListHasANameForScreenReadersThatNoOtherHas)
             std::map<std::string, Texts> spoken;
             for (wxWindow* control : ControlsOf(window))
                 if (NeedsName(control))
-                    spoken[SpokenName(control)].push_back(control->GetName().utf8_string());
+                    spoken[AccessibleName(control)].push_back(control->GetName().utf8_string());
             for (const auto& [name, controls] : spoken)
             {
                 EXPECT_NE(name, "") << testing::PrintToString(controls);
@@ -96,8 +96,10 @@ TEST_F(EveryWindow, ScreenReadersSayTheLabelThatStandsBesideTheControl)
         {CalculatorForm, "cbo1ECTS", "1 ECTS"},
     };
     for (const Expected& one : expected)
-        InWindow(one.Window, [&](wxTopLevelWindow& window)
-                 { EXPECT_EQ(SpokenName(Find<wxWindow>(&window, one.Control)), one.Name) << one.Control; });
+        InWindow(one.Window,
+                 [&](wxTopLevelWindow& window) {
+                     EXPECT_EQ(AccessibleName(Find<wxWindow>(&window, one.Control)), one.Name) << one.Control;
+                 });
 }
 
 TEST_F(EveryWindow, ButtonsAndOptionsAreSpokenByTheirCaptions)
@@ -108,7 +110,7 @@ TEST_F(EveryWindow, ButtonsAndOptionsAreSpokenByTheirCaptions)
             for (wxWindow* control : ControlsOf(window))
                 if (HasCaption(control))
                 {
-                    EXPECT_EQ(SpokenName(control), Caption(control));
+                    EXPECT_EQ(AccessibleName(control), Caption(control));
                 }
         });
 }

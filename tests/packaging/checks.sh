@@ -16,16 +16,6 @@ check() {
     fi
 }
 
-# within SECONDS COMMAND...: whether the command succeeds before the time is over.
-within() {
-    local end=$((SECONDS + $1))
-    shift
-    until "$@"; do
-        ((SECONDS < end)) || return 1
-        sleep 0.2
-    done
-}
-
 gone() { [[ ! -e $1 ]]; }
 ended() { ! kill -0 "$1" 2>/dev/null; }
 ends_with_code() { [[ $1 -eq ${code:?} ]]; }

@@ -119,7 +119,7 @@ std::string ExportAllDepartments(const Catalogue& catalogue, const DepartmentFil
     {
         const std::string& naziv = Field(zavodi, zavod, Zavod::Naziv);
         const std::int32_t id = SafeNumber(zavodi, zavod, Zavod::ID);
-        text += LoadBlock(naziv, DepartmentLoadRows(catalogue, id, filter));
+        text += LoadBlock(naziv, DepartmentTeachingLoadRows(catalogue, id, filter));
     }
     return ToWindows1250(text);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 #include "ui/course_editor/CourseEntry.h"
 #include "ui/department_stats/DepartmentStatistics.h"
 #include "ui/lecturer_stats/LecturerStatistics.h"
@@ -108,12 +108,12 @@ std::vector<ListRow> StatistikaRows(const Catalogue& catalogue, const CourseFilt
 
 std::vector<ListRow> LecturerCourseRows(const Catalogue& catalogue, std::int32_t nastavnikID,
                                         const LecturerFilter& filter);
-std::vector<ListRow> LecturerLoadRows(const Catalogue& catalogue, std::int32_t nastavnikID,
-                                      const LecturerFilter& filter);
+std::vector<ListRow> LecturerTeachingLoadRows(const Catalogue& catalogue, std::int32_t nastavnikID,
+                                              const LecturerFilter& filter);
 std::vector<ListRow> DepartmentCourseRows(const Catalogue& catalogue, std::int32_t zavodID,
                                           const DepartmentFilter& filter);
-std::vector<ListRow> DepartmentLoadRows(const Catalogue& catalogue, std::int32_t zavodID,
-                                        const DepartmentFilter& filter);
+std::vector<ListRow> DepartmentTeachingLoadRows(const Catalogue& catalogue, std::int32_t zavodID,
+                                                const DepartmentFilter& filter);
 
 // Exports: the bytes of the file.
 

@@ -1,7 +1,7 @@
 #include "reference/Scan.h"
 
 #include "data/Errors.h"
-#include "data/Numbers.h"
+#include "text/Numbers.h"
 
 #include <iterator>
 
@@ -88,11 +88,11 @@ std::int32_t Number(const TextTable& table, const TextRow& row, std::size_t colu
 {
     const std::string& text = Field(table, row, column);
     std::int32_t value = 0;
-    const NumberReading reading = ReadLong(text, value);
-    if (reading == NumberReading::NotNumeric)
+    const NumberKind reading = ParseLong(text, value);
+    if (reading == NumberKind::NotNumeric)
         throw TypeMismatch(text, PlaceOf(table, row, column));
-    if (reading == NumberReading::TooLarge)
-        throw Overflow(text, PlaceOf(table, row, column));
+    if (reading == NumberKind::TooLarge)
+        throw OverflowError(text, PlaceOf(table, row, column));
     return value;
 }
 

@@ -1,8 +1,9 @@
 #include "reference/Scan.h"
 
+#include "data/CheckedNumbers.h"
 #include "data/Errors.h"
-#include "data/Numbers.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
 
 #include <array>
 #include <limits>
@@ -28,7 +29,7 @@ std::int32_t Checked(std::int64_t number)
 {
     if (number < std::numeric_limits<std::int32_t>::min() ||
         number > std::numeric_limits<std::int32_t>::max())
-        throw Overflow();
+        throw OverflowError();
     return static_cast<std::int32_t>(number);
 }
 
@@ -40,9 +41,9 @@ void AddTo(Sums& sums, const Sums& more)
 
 ListRow SumRow(const std::string& first, const std::string& second, const Sums& sums, bool bold)
 {
-    ListRow row = {{first, Black, bold}, {second, Black, bold}};
+    ListRow row = {{first, ListColours::Black, bold}, {second, ListColours::Black, bold}};
     for (const std::int32_t sum : sums)
-        row.push_back({std::to_string(sum), Black, bold});
+        row.push_back({std::to_string(sum), ListColours::Black, bold});
     return row;
 }
 
@@ -68,7 +69,7 @@ std::vector<ListRow> SumRows(const Table& table, const Wording& wording, std::si
             const Sums& sums = table[type][s - 1];
             rows.push_back(SumRow(std::to_string(s), names[type], sums, false));
             if (wording.RedAbove30 && sums[EctsValue] > 30)
-                rows.back()[5].Colour = Red;
+                rows.back()[5].Colour = ListColours::Red;
         }
     }
 
@@ -155,7 +156,8 @@ ListRow TaughtRow(const Catalogue& catalogue, const TextRow& kolegij, Reading re
     texts.push_back(TextOfID(catalogue.Studiji, studijID, Studij::Kratica));
     texts.push_back(GetNositeljiString(catalogue, kolegijID));
 
-    const ListColour colour = Reads(Field(kolegiji, kolegij, Kolegij::Tip), "IZBORNI") ? Blue : Black;
+    const ListColour colour =
+        Reads(Field(kolegiji, kolegij, Kolegij::Tip), "IZBORNI") ? ListColours::Blue : ListColours::Black;
     ListRow row;
     for (const std::string& text : texts)
         row.push_back({text, colour, false});
@@ -309,8 +311,8 @@ std::vector<ListRow> LecturerCourseRows(const Catalogue& catalogue, std::int32_t
     return rows;
 }
 
-std::vector<ListRow> LecturerLoadRows(const Catalogue& catalogue, std::int32_t nastavnikID,
-                                      const LecturerFilter& filter)
+std::vector<ListRow> LecturerTeachingLoadRows(const Catalogue& catalogue, std::int32_t nastavnikID,
+                                              const LecturerFilter& filter)
 {
     return SumRows(LecturerTable(catalogue, nastavnikID, filter, Reading::Strict), MainWording);
 }
@@ -325,8 +327,8 @@ std::vector<ListRow> DepartmentCourseRows(const Catalogue& catalogue, std::int32
     return rows;
 }
 
-std::vector<ListRow> DepartmentLoadRows(const Catalogue& catalogue, std::int32_t zavodID,
-                                        const DepartmentFilter& filter)
+std::vector<ListRow> DepartmentTeachingLoadRows(const Catalogue& catalogue, std::int32_t zavodID,
+                                                const DepartmentFilter& filter)
 {
     return SumRows(DepartmentTable(catalogue, zavodID, filter), DepartmentWording);
 }

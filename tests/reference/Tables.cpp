@@ -1,8 +1,8 @@
 #include "reference/Scan.h"
 
+#include "data/CheckedNumbers.h"
 #include "data/Errors.h"
 #include "data/Files.h"
-#include "data/Numbers.h"
 #include "data/System.h"
 #include "data/Windows1250.h"
 #include "data/modData.h"
@@ -206,7 +206,7 @@ std::int32_t NextKolegijID(const Catalogue& catalogue)
     for (const TextRow& row : catalogue.Kolegiji.Rows)
         largest = std::max(largest, Number(catalogue.Kolegiji, row, Kolegij::ID));
     if (largest == std::numeric_limits<std::int32_t>::max())
-        throw Overflow();
+        throw OverflowError();
     return largest + 1;
 }
 

@@ -9,7 +9,7 @@
 namespace
 {
 
-std::vector<std::pair<Table*, const Catalogue::Lines*>> Parts(const Catalogue& catalogue)
+std::vector<std::pair<modData::Table*, const Catalogue::Lines*>> Parts(const Catalogue& catalogue)
 {
     return {
         {&modData::Zavodi, &catalogue.Zavodi},
@@ -28,7 +28,7 @@ void Catalogue::Use() const
 {
     for (const auto& [table, lines] : Parts(*this))
     {
-        Table filled(table->Layout());
+        modData::Table filled(table->Layout());
         std::uint32_t lineNumber = 1;
         for (const std::string_view line : *lines)
             filled.AppendLine(line, ++lineNumber);
@@ -75,10 +75,10 @@ Catalogue RenumberedCatalogue()
     return catalogue;
 }
 
-std::vector<std::string> LinesOf(const Table& table)
+std::vector<std::string> LinesOf(const modData::Table& table)
 {
     std::vector<std::string> lines;
-    for (const Row& row : table)
+    for (const modData::Row& row : table)
     {
         std::string line(row.Field(0));
         for (std::size_t i = 1; i < row.FieldCount(); ++i)

@@ -35,4 +35,4 @@ Catalogue SmallCatalogue();
 Catalogue RenumberedCatalogue();
 
 /// The rows of a table as lines, the fields joined by ";".
-std::vector<std::string> LinesOf(const Table& table);
+std::vector<std::string> LinesOf(const modData::Table& table);

@@ -21,26 +21,26 @@ class EditorSession : public wxModalDialogHook
 public:
     using Script = std::function<void(frmKolegij* editor)>;
 
-    explicit EditorSession(Script script) : Steps(std::move(script)) { Register(); }
+    explicit EditorSession(Script script) : m_steps(std::move(script)) { Register(); }
     ~EditorSession() override { Unregister(); }
 
-    bool Opened() const { return HasOpened; }
+    bool Opened() const { return m_hasOpened; }
 
     /// How the script left the editor; throws what the script threw.
     EditorEnd Outcome() const
     {
-        if (Failure)
-            std::rethrow_exception(Failure);
-        return End;
+        if (m_failure)
+            std::rethrow_exception(m_failure);
+        return m_end;
     }
 
 protected:
     int Enter(wxDialog* dialog) override
     {
         auto* editor = dynamic_cast<frmKolegij*>(dialog);
-        if (editor != nullptr && !HasOpened)
+        if (editor != nullptr && !m_hasOpened)
         {
-            HasOpened = true;
+            m_hasOpened = true;
             editor->CallAfter([this, editor] { Run(editor); });
         }
         return wxID_NONE; // the editor itself is to be shown
@@ -53,22 +53,22 @@ private:
         Settle();
         try
         {
-            Steps(editor);
+            m_steps(editor);
         }
         catch (...)
         {
-            Failure = std::current_exception();
+            m_failure = std::current_exception();
         }
         if (!editor->IsShown())
             return;
-        End = EditorEnd::LeftOpen;
+        m_end = EditorEnd::LeftOpen;
         editor->EndModal(wxID_CANCEL);
     }
 
-    Script Steps;
-    bool HasOpened = false;
-    EditorEnd End = EditorEnd::Closed;
-    std::exception_ptr Failure;
+    Script m_steps;
+    bool m_hasOpened = false;
+    EditorEnd m_end = EditorEnd::Closed;
+    std::exception_ptr m_failure;
 };
 
 /// Opens the course editor by `open` and runs a script in it; the test fails by an exception when none opens.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 #include "support/Windows.h"
 #include "ui/main/frmMain.h"
 
@@ -25,24 +25,24 @@ using WindowScript = std::function<void(wxTopLevelWindow& window)>;
 class ModalSession : public wxModalDialogHook
 {
 public:
-    explicit ModalSession(WindowScript script) : Script(std::move(script)) { Register(); }
+    explicit ModalSession(WindowScript script) : m_script(std::move(script)) { Register(); }
     ~ModalSession() override { Unregister(); }
 
     /// Throws what the script threw, and when no dialog opened.
     void Check() const
     {
-        if (Failure)
-            std::rethrow_exception(Failure);
-        if (!Opened)
+        if (m_failure)
+            std::rethrow_exception(m_failure);
+        if (!m_opened)
             throw std::runtime_error("no dialog opened");
     }
 
 protected:
     int Enter(wxDialog* dialog) override
     {
-        if (!Opened && dynamic_cast<wxMessageDialog*>(dialog) == nullptr)
+        if (!m_opened && dynamic_cast<wxMessageDialog*>(dialog) == nullptr)
         {
-            Opened = true;
+            m_opened = true;
             dialog->CallAfter([this, dialog] { Run(*dialog); });
         }
         return wxID_NONE; // the dialog itself is to be shown
@@ -55,19 +55,19 @@ private:
         Settle();
         try
         {
-            Script(dialog);
+            m_script(dialog);
         }
         catch (...)
         {
-            Failure = std::current_exception();
+            m_failure = std::current_exception();
         }
         if (dialog.IsModal())
             dialog.EndModal(wxID_CANCEL);
     }
 
-    WindowScript Script;
-    bool Opened = false;
-    std::exception_ptr Failure;
+    WindowScript m_script;
+    bool m_opened = false;
+    std::exception_ptr m_failure;
 };
 
 /// A window of the program, and the button of the main window that opens it; none for the main window.

@@ -12,9 +12,12 @@
 class KeyAnswer : private wxTimer
 {
 public:
-    explicit KeyAnswer(int key, int modifiers = wxMOD_NONE) : Key(key), Modifiers(modifiers) { Start(100); }
+    explicit KeyAnswer(int key, int modifiers = wxMOD_NONE) : m_key(key), m_modifiers(modifiers)
+    {
+        Start(100);
+    }
 
-    const std::optional<MessageBoxOnScreen>& Shown() const { return Box; }
+    const std::optional<MessageBoxOnScreen>& Shown() const { return m_box; }
 
 private:
     void Notify() override
@@ -22,18 +25,18 @@ private:
         const std::optional<MessageBoxOnScreen> open = FindMessageBox();
         if (!open)
             return;
-        if (!Box)
+        if (!m_box)
         {
             // Without a window manager the keys go where the pointer is.
             wxUIActionSimulator().MouseMove(open->Place.GetPosition() + open->Place.GetSize() / 2);
-            Box = open;
+            m_box = open;
             return;
         }
-        Box = open;
-        wxUIActionSimulator().Char(Key, Modifiers);
+        m_box = open;
+        wxUIActionSimulator().Char(m_key, m_modifiers);
     }
 
-    int Key;
-    int Modifiers;
-    std::optional<MessageBoxOnScreen> Box;
+    int m_key;
+    int m_modifiers;
+    std::optional<MessageBoxOnScreen> m_box;
 };

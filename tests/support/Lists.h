@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 #include "ui/main/CourseList.h"
 
 #include <string_view>

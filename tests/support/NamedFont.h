@@ -55,20 +55,20 @@ inline std::string RenamedFont(std::string font, std::string_view family)
 class FontFile
 {
 public:
-    explicit FontFile(std::string_view bytes) { WriteBytes(File, bytes); }
+    explicit FontFile(std::string_view bytes) { WriteBytes(m_file, bytes); }
     ~FontFile()
     {
         std::error_code ignored;
-        std::filesystem::remove(File, ignored);
+        std::filesystem::remove(m_file, ignored);
     }
     FontFile(const FontFile&) = delete;
     FontFile& operator=(const FontFile&) = delete;
 
-    wxString Name() const { return File.wstring(); }
+    wxString Name() const { return m_file.wstring(); }
 
 private:
-    std::filesystem::path File = std::filesystem::temp_directory_path() /
-                                 ("varlo-font-" + std::to_string(std::random_device()()) + ".ttf");
+    std::filesystem::path m_file = std::filesystem::temp_directory_path() /
+                                   ("varlo-font-" + std::to_string(std::random_device()()) + ".ttf");
 };
 
 /// Gives this process the font "Segoe UI", unless the system has it: a copy of one that it has.

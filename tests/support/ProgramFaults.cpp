@@ -90,7 +90,7 @@ void EditTables()
     const std::string folder = System::EnvironmentVariable("VARLO_EDIT");
     if (folder.empty())
         return;
-    for (Table* table : modData::AllTables())
+    for (modData::Table* table : modData::AllTables())
         *table = modData::LoadTable(ToText(BaseFolder() / ToPath(folder) / ToPath(table->Layout().FileName)),
                                     table->Layout());
 }

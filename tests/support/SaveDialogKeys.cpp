@@ -16,9 +16,9 @@ constexpr long PatienceMilliseconds = 20000;
 
 } // namespace
 
-SaveDialogKeys::SaveDialogKeys(std::vector<std::string> texts) : Texts(std::move(texts))
+SaveDialogKeys::SaveDialogKeys(std::vector<std::string> texts) : m_texts(std::move(texts))
 {
-    Timer.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Work(); });
+    m_timer.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Work(); });
     Register();
 }
 
@@ -31,73 +31,73 @@ int SaveDialogKeys::Enter(wxDialog* dialog)
 {
     if (auto* opened = dynamic_cast<wxFileDialog*>(dialog))
     {
-        Dialog = opened;
-        Now = Step::Opening;
-        SinceStep.Start();
-        Timer.Start(PollMilliseconds);
+        m_dialog = opened;
+        m_now = Step::Opening;
+        m_sinceStep.Start();
+        m_timer.Start(PollMilliseconds);
     }
     return wxID_NONE;
 }
 
 void SaveDialogKeys::Exit(wxDialog* dialog)
 {
-    if (dialog != Dialog)
+    if (dialog != m_dialog)
         return;
-    Timer.Stop();
-    Dialog = nullptr;
+    m_timer.Stop();
+    m_dialog = nullptr;
 }
 
 void SaveDialogKeys::Work()
 {
-    if (Busy || Dialog == nullptr)
+    if (m_busy || m_dialog == nullptr)
         return;
-    Busy = true;
+    m_busy = true;
     const std::optional<std::string> text =
-        ShowsOwnMessage(*Dialog) ? std::nullopt : FocusedNameBoxText(*Dialog);
-    const std::size_t turn = ProposedNames.size();
-    if (Now == Step::Opening && text)
+        ShowsOwnMessage(*m_dialog) ? std::nullopt : FocusedNameBoxText(*m_dialog);
+    const std::size_t turn = m_proposedNames.size();
+    if (m_now == Step::Opening && text)
     {
-        ProposedNames.push_back(*text);
-        const bool cancel = turn >= Texts.size();
+        m_proposedNames.push_back(*text);
+        const bool cancel = turn >= m_texts.size();
         if (!cancel)
             Fill();
         else
-            Simulator.Char(WXK_ESCAPE);
-        Now = cancel ? Step::Closing : Step::Filling;
-        SinceStep.Start();
+            m_simulator.Char(WXK_ESCAPE);
+        m_now = cancel ? Step::Closing : Step::Filling;
+        m_sinceStep.Start();
     }
-    else if (Now == Step::Filling && text && text->starts_with(Texts[turn - 1]))
+    else if (m_now == Step::Filling && text && text->starts_with(m_texts[turn - 1]))
     { // GTK completes a typed name by that of a file
-        Simulator.Char(WXK_RETURN);
-        Now = Step::Closing;
-        SinceStep.Start();
+        m_simulator.Char(WXK_RETURN);
+        m_now = Step::Closing;
+        m_sinceStep.Start();
     }
-    else if (Now == Step::Closing && ShowsOwnMessage(*Dialog))
+    else if (m_now == Step::Closing && ShowsOwnMessage(*m_dialog))
     {
-        Simulator.Char(WXK_ESCAPE);
-        Now = Step::Opening;
-        SinceStep.Start();
+        m_simulator.Char(WXK_ESCAPE);
+        m_now = Step::Opening;
+        m_sinceStep.Start();
     }
-    else if (SinceStep.Time() > PatienceMilliseconds)
+    else if (m_sinceStep.Time() > PatienceMilliseconds)
     {
         ADD_FAILURE() << "the Save dialog does not answer; its name box has "
                       << text.value_or("not the focus");
-        Simulator.Char(WXK_ESCAPE);
-        Now = Step::Closing;
-        SinceStep.Start();
+        m_simulator.Char(WXK_ESCAPE);
+        m_now = Step::Closing;
+        m_sinceStep.Start();
     }
-    Busy = false;
+    m_busy = false;
 }
 
 /// Types the text over what the name box holds; a long one comes from the clipboard.
 void SaveDialogKeys::Fill()
 {
     constexpr std::size_t longText = 100;
-    const std::string& text = Texts[ProposedNames.size() - 1];
-    Simulator.Char('A', wxMOD_CONTROL);
+    const std::string& text = m_texts[m_proposedNames.size() - 1];
+    m_simulator.Char('A', wxMOD_CONTROL);
     if (text.size() < longText)
     {
-        Simulator.Text(text.c_str());
+        m_simulator.Text(text.c_str());
         return;
     }
     if (wxTheClipboard->Open())
@@ -105,5 +105,5 @@ void SaveDialogKeys::Fill()
         wxTheClipboard->SetData(new wxTextDataObject(wxString::FromUTF8(text)));
         wxTheClipboard->Close();
     }
-    Simulator.Char('V', wxMOD_CONTROL);
+    m_simulator.Char('V', wxMOD_CONTROL);
 }

@@ -21,7 +21,7 @@ public:
     ~SaveDialogKeys() override;
 
     /// What the name box held each time before a text was put there.
-    const std::vector<std::string>& Proposed() const { return ProposedNames; }
+    const std::vector<std::string>& Proposed() const { return m_proposedNames; }
 
 protected:
     int Enter(wxDialog* dialog) override;
@@ -38,12 +38,12 @@ private:
     void Work();
     void Fill();
 
-    std::vector<std::string> Texts;
-    std::vector<std::string> ProposedNames;
-    wxFileDialog* Dialog = nullptr;
-    Step Now = Step::Opening;
-    wxStopWatch SinceStep;
-    wxTimer Timer;
-    wxUIActionSimulator Simulator;
-    bool Busy = false; ///< True while keys are pressed: the timer may fire again meanwhile.
+    std::vector<std::string> m_texts;
+    std::vector<std::string> m_proposedNames;
+    wxFileDialog* m_dialog = nullptr;
+    Step m_now = Step::Opening;
+    wxStopWatch m_sinceStep;
+    wxTimer m_timer;
+    wxUIActionSimulator m_simulator;
+    bool m_busy = false; ///< True while keys are pressed: the timer may fire again meanwhile.
 };

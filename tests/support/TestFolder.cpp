@@ -16,10 +16,10 @@
 
 namespace fs = std::filesystem;
 
-TestFolder::TestFolder() : FormerLocalAppData(System::EnvironmentVariable("LOCALAPPDATA"))
+TestFolder::TestFolder() : m_formerLocalAppData(System::EnvironmentVariable("LOCALAPPDATA"))
 {
     std::random_device random;
-    Folder =
+    m_folder =
         fs::temp_directory_path() / ("varlo-" + std::to_string(random()) + "-" + std::to_string(random()));
     fs::create_directories(Data());
     SetEnvironment("LOCALAPPDATA", PathOf(""));
@@ -27,9 +27,9 @@ TestFolder::TestFolder() : FormerLocalAppData(System::EnvironmentVariable("LOCAL
 
 TestFolder::~TestFolder()
 {
-    SetEnvironment("LOCALAPPDATA", FormerLocalAppData);
+    SetEnvironment("LOCALAPPDATA", m_formerLocalAppData);
     std::error_code ignored;
-    fs::remove_all(Folder, ignored);
+    fs::remove_all(m_folder, ignored);
 }
 
 std::string TestFolder::DataPath(std::string_view name) const
@@ -40,7 +40,7 @@ std::string TestFolder::DataPath(std::string_view name) const
 
 std::string TestFolder::PathOf(std::string_view name) const
 {
-    const std::u8string path = (name.empty() ? Folder : Folder / ToPath(name)).u8string();
+    const std::u8string path = (name.empty() ? m_folder : m_folder / ToPath(name)).u8string();
     return {path.begin(), path.end()};
 }
 

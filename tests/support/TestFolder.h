@@ -15,10 +15,10 @@ public:
     TestFolder(const TestFolder&) = delete;
     TestFolder& operator=(const TestFolder&) = delete;
 
-    const std::filesystem::path& Path() const { return Folder; }
+    const std::filesystem::path& Path() const { return m_folder; }
 
     /// The program's data folder, "Varlostudiji" in this one; it exists.
-    std::filesystem::path Data() const { return Folder / "Varlostudiji"; }
+    std::filesystem::path Data() const { return m_folder / "Varlostudiji"; }
 
     /// The path of a file of the data folder as the program writes it in its messages.
     std::string DataPath(std::string_view name) const;
@@ -27,8 +27,8 @@ public:
     std::string PathOf(std::string_view name) const;
 
 private:
-    std::filesystem::path Folder;
-    std::string FormerLocalAppData;
+    std::filesystem::path m_folder;
+    std::string m_formerLocalAppData;
 };
 
 /// Sets an environment variable for this process; empty removes it.

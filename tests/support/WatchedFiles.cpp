@@ -62,10 +62,10 @@ struct WatchedOperations
     {
         const bool reading = purpose == OpenFor::Reading;
         if (Fails({FileOperation::Open, path, {}, reading, !reading}))
-            return FailureOf(InUse->Error);
+            return FailureOf(InUse->m_error);
         const Result result = System::OwnFiles.Open(path, purpose, file);
         if (!result)
-            InUse->OpenFiles[file] = {FileOperation::Open, path, {}, reading, false};
+            InUse->m_openFiles[file] = {FileOperation::Open, path, {}, reading, false};
         return result;
     }
 
@@ -77,7 +77,7 @@ struct WatchedOperations
 
     static Result Write(Handle file, std::string_view bytes)
     {
-        const bool isEnded = InUse->Then == WatchedFiles::After::NothingWorks && HasFailed();
+        const bool isEnded = InUse->m_then == WatchedFiles::After::NothingWorks && HasFailed();
         if (!FailsOnOpen(FileOperation::Write, file, true))
             return System::OwnFiles.Write(file, bytes);
         if (!isEnded)
@@ -99,7 +99,7 @@ struct WatchedOperations
     static Result Close(Handle file)
     {
         const bool fails = FailsOnOpen(FileOperation::Close, file, false);
-        InUse->OpenFiles.erase(file);
+        InUse->m_openFiles.erase(file);
         const Result result = System::OwnFiles.Close(file);
         return fails ? FailureOf(EIO) : result;
     }
@@ -107,7 +107,7 @@ struct WatchedOperations
     static Result Rename(const Path& from, const Path& to)
     {
         if (Fails({FileOperation::Rename, from, to, false, true}))
-            return FailureOf(InUse->Error);
+            return FailureOf(InUse->m_error);
         // Some file systems hold a file that another replaces back until its successor is on the disk.
         std::error_code failure;
         if (fs::is_regular_file(to, failure))
@@ -131,7 +131,7 @@ struct WatchedOperations
 
     static Result MakeFolder(const Path& path)
     {
-        return Fails({FileOperation::MakeFolder, path, {}, false, true}) ? FailureOf(InUse->Error)
+        return Fails({FileOperation::MakeFolder, path, {}, false, true}) ? FailureOf(InUse->m_error)
                                                                          : System::OwnFiles.MakeFolder(path);
     }
 
@@ -147,13 +147,16 @@ struct WatchedOperations
     }
 
 private:
-    static bool HasFailed() { return InUse->Failing != 0 && InUse->Operations.size() >= InUse->Failing; }
+    static bool HasFailed()
+    {
+        return InUse->m_failing != 0 && InUse->m_operations.size() >= InUse->m_failing;
+    }
 
     static bool Fails(FileOperation operation) { return InUse->Fails(std::move(operation)); }
 
     static bool FailsOnOpen(FileOperation::Kind what, Handle file, bool hasEffect)
     {
-        const FileOperation& opened = InUse->OpenFiles.at(file);
+        const FileOperation& opened = InUse->m_openFiles.at(file);
         return InUse->Fails({what, opened.File, {}, opened.Reading, hasEffect && !opened.Reading});
     }
 };
@@ -176,9 +179,9 @@ std::size_t FailingStep([[maybe_unused]] std::size_t count)
 }
 
 WatchedFiles::WatchedFiles(std::size_t failing, After after, int error)
-    : Failing(failing),
-      Then(after),
-      Error(error == 0 ? EACCES : error)
+    : m_failing(failing),
+      m_then(after),
+      m_error(error == 0 ? EACCES : error)
 {
     if (InUse != nullptr)
         throw std::logic_error("files are watched already");
@@ -213,11 +216,11 @@ bool WatchedFiles::Fails(FileOperation operation)
 {
     const bool isRemoval = operation.HasEffect && (operation.What == FileOperation::RemoveFile ||
                                                    operation.What == FileOperation::RemoveFolder);
-    Operations.push_back(std::move(operation));
-    if (Failing == 0)
+    m_operations.push_back(std::move(operation));
+    if (m_failing == 0)
         return false;
-    return Operations.size() == Failing || (Then == After::NothingIsGone && isRemoval) ||
-           (Then == After::NothingWorks && Operations.size() > Failing);
+    return m_operations.size() == m_failing || (m_then == After::NothingIsGone && isRemoval) ||
+           (m_then == After::NothingWorks && m_operations.size() > m_failing);
 }
 
 std::vector<std::string> WatchedFiles::Effects(const fs::path& folder) const
@@ -225,7 +228,7 @@ std::vector<std::string> WatchedFiles::Effects(const fs::path& folder) const
     const auto inside = [&](const fs::path& path)
     { return WithoutProcessId(path.lexically_relative(folder).generic_string()); };
     std::vector<std::string> effects;
-    for (const FileOperation& operation : Operations)
+    for (const FileOperation& operation : m_operations)
         if (operation.HasEffect)
         {
             std::string effect = std::string(NameOf(operation.What)) + " " + inside(operation.File);

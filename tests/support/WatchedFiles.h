@@ -63,7 +63,7 @@ public:
     WatchedFiles& operator=(const WatchedFiles&) = delete;
 
     /// The operations so far, the failed ones included.
-    const std::vector<FileOperation>& Made() const { return Operations; }
+    const std::vector<FileOperation>& Made() const { return m_operations; }
 
     /// Those that have an effect on the disk, a text each, with paths inside `folder` and "N" for the process
     /// number in a temporary name: "flush spremanje/db_zavod.csv".
@@ -75,9 +75,9 @@ private:
     /// Records an operation and says whether it is to fail.
     bool Fails(FileOperation operation);
 
-    std::size_t Failing;
-    After Then;
-    int Error;
-    std::vector<FileOperation> Operations;
-    std::map<FileOperations::Handle, FileOperation> OpenFiles;
+    std::size_t m_failing;
+    After m_then;
+    int m_error;
+    std::vector<FileOperation> m_operations;
+    std::map<FileOperations::Handle, FileOperation> m_openFiles;
 };

@@ -213,10 +213,10 @@ void CloseAllWindows()
 
 MessageShown MessageAnswers::TakeOnly()
 {
-    if (Messages.size() != 1)
-        throw std::runtime_error(std::to_string(Messages.size()) + " messages instead of one");
-    MessageShown only = Messages.front();
-    Messages.clear();
+    if (m_messages.size() != 1)
+        throw std::runtime_error(std::to_string(m_messages.size()) + " messages instead of one");
+    MessageShown only = m_messages.front();
+    m_messages.clear();
     return only;
 }
 
@@ -225,9 +225,9 @@ int MessageAnswers::Enter(wxDialog* dialog)
     const auto* box = dynamic_cast<wxMessageDialog*>(dialog);
     if (box == nullptr)
         return wxID_NONE;
-    Messages.push_back(
+    m_messages.push_back(
         {box->GetMessage().utf8_string(), box->GetCaption().utf8_string(), box->GetMessageDialogStyle()});
-    return Answer;
+    return m_answer;
 }
 
 SaveAnswers::SaveAnswers(std::optional<std::string> path)
@@ -235,7 +235,7 @@ SaveAnswers::SaveAnswers(std::optional<std::string> path)
     SetSaveDialogChooser(
         [this, path](const SaveDialogOptions& options)
         {
-            Options.push_back(options);
+            m_options.push_back(options);
             return path;
         });
 }

@@ -104,10 +104,10 @@ class MessageAnswers : public wxModalDialogHook
 {
 public:
     /// `answer` is what every box is answered with: wxID_OK, wxID_YES, wxID_NO.
-    explicit MessageAnswers(int answer = wxID_OK) : Answer(answer) { Register(); }
+    explicit MessageAnswers(int answer = wxID_OK) : m_answer(answer) { Register(); }
     ~MessageAnswers() override { Unregister(); }
 
-    const std::vector<MessageShown>& Shown() const { return Messages; }
+    const std::vector<MessageShown>& Shown() const { return m_messages; }
 
     /// The one message shown since the last call; the test fails when there was none, or more than one.
     MessageShown TakeOnly();
@@ -116,8 +116,8 @@ protected:
     int Enter(wxDialog* dialog) override;
 
 private:
-    int Answer;
-    std::vector<MessageShown> Messages;
+    int m_answer;
+    std::vector<MessageShown> m_messages;
 };
 
 /// While it lives, Save dialogs are answered with a path, or cancelled, and their options are remembered.
@@ -129,10 +129,10 @@ public:
     SaveAnswers(const SaveAnswers&) = delete;
     SaveAnswers& operator=(const SaveAnswers&) = delete;
 
-    const std::vector<SaveDialogOptions>& Shown() const { return Options; }
+    const std::vector<SaveDialogOptions>& Shown() const { return m_options; }
 
 private:
-    std::vector<SaveDialogOptions> Options;
+    std::vector<SaveDialogOptions> m_options;
 };
 
 /// What went wrong in an event handler since the last call, as the user would be told; empty when nothing

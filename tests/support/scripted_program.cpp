@@ -73,7 +73,7 @@ public:
         CountOperations();
         const bool asks = !System::EnvironmentVariable("VARLO_ASK").empty();
         if (!asks)
-            Answers.emplace();
+            m_answers.emplace();
         if (!VarlostudijiApp::OnInit())
             return false;
         if (asks)
@@ -133,7 +133,7 @@ private:
             PressButton(window, "cmdExit");
     }
 
-    std::optional<PrintingAnswers> Answers;
+    std::optional<PrintingAnswers> m_answers;
 };
 
 } // namespace

@@ -64,7 +64,7 @@ protected:
     static Contents Tables(const fs::path& folder)
     {
         Contents files;
-        for (const Table* table : modData::AllTables())
+        for (const modData::Table* table : modData::AllTables())
             if (const fs::path file = folder / table->Layout().FileName; fs::exists(file))
                 files[std::string(table->Layout().FileName)] = ReadBytes(file);
         return files;
@@ -175,14 +175,14 @@ TEST_F(CatalogueSaving, TakesItsStepsInOrderAndFlushesEach)
     };
     const auto expect = [&](const std::vector<std::string>& steps)
     { expected.insert(expected.end(), steps.begin(), steps.end()); };
-    for (const Table* table : modData::AllTables())
+    for (const modData::Table* table : modData::AllTables())
         expectWritten("spremanje/" + std::string(table->Layout().FileName));
     expect({"flush folder spremanje", "flush folder ."});
     expectWritten("spremanje/gotovo.tmp");
     expect({"rename spremanje/gotovo.tmp to spremanje/gotovo", "flush folder spremanje"});
 
     expect({"make folder kopije", "flush folder .", "make folder kopije/2026-11-21_143005.dio"});
-    for (const Table* table : modData::AllTables())
+    for (const modData::Table* table : modData::AllTables())
         expectWritten("kopije/2026-11-21_143005.dio/" + std::string(table->Layout().FileName));
     expect({"flush folder kopije/2026-11-21_143005.dio",
             "rename kopije/2026-11-21_143005.dio to kopije/2026-11-21_143005", "flush folder kopije"});
@@ -193,7 +193,7 @@ TEST_F(CatalogueSaving, TakesItsStepsInOrderAndFlushesEach)
         expect({"rename " + file + ".N.tmp to " + file, "flush folder ."});
     }
     expect({"remove spremanje/gotovo", "flush folder spremanje"});
-    for (const Table* table : modData::AllTables())
+    for (const modData::Table* table : modData::AllTables())
         expect({"remove spremanje/" + std::string(table->Layout().FileName)});
     expect({"remove folder spremanje"});
 
@@ -230,7 +230,7 @@ TEST_F(CatalogueSaving, OfWhatTheFilesHoldAlreadyWritesEachAloneAndKeepsNothing)
     const WatchedFiles watched;
     modData::SaveAllTables();
     std::vector<std::string> expected;
-    for (const Table* table : modData::AllTables())
+    for (const modData::Table* table : modData::AllTables())
     {
         const std::string file(table->Layout().FileName);
         const std::string temporary = file + ".N.tmp";

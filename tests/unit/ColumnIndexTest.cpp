@@ -21,7 +21,7 @@ std::string Outcome(const Search& search)
     std::string found;
     try
     {
-        search([&](const Row& row) { found.append(row.Field(0)).append(" "); });
+        search([&](const modData::Row& row) { found.append(row.Field(0)).append(" "); });
     }
     catch (const RuntimeError& error)
     {
@@ -31,11 +31,11 @@ std::string Outcome(const Search& search)
 }
 
 /// Reads every row, and stops behind the first match where only that is wanted.
-auto Scan(const Table& table, std::int32_t number, Conversion conversion, bool stopAtMatch)
+auto Scan(const modData::Table& table, std::int32_t number, Conversion conversion, bool stopAtMatch)
 {
     return [=, &table](const auto& visit)
     {
-        for (const Row& row : table)
+        for (const modData::Row& row : table)
         {
             if (row.Number(Column, conversion) != number)
                 continue;
@@ -47,11 +47,11 @@ auto Scan(const Table& table, std::int32_t number, Conversion conversion, bool s
 }
 
 /// Rows whose second field is mostly a number, in one of its forms, and sometimes none, or is missing.
-Table RandomTable(std::mt19937& random)
+modData::Table RandomTable(std::mt19937& random)
 {
     constexpr std::string_view values[] = {"0", "1",     "2",  "3", " 1 ", "01",          "2,0",
                                            "3", "+2.50", "-0", "",  "bad", "99999999999", "2000000000"};
-    Table table(modData::KolegijSmjerovi.Layout());
+    modData::Table table(modData::KolegijSmjerovi.Layout());
     const auto end = static_cast<std::uint32_t>(2 + random() % 8);
     for (std::uint32_t line = 2; line < end; ++line)
     {
@@ -68,18 +68,18 @@ TEST(ColumnIndex, FindsWhatReadingRowByRowFinds)
     std::mt19937 random(1);
     for (int round = 0; round < 3000; ++round)
     {
-        const Table table = RandomTable(random);
+        const modData::Table table = RandomTable(random);
         for (const Conversion conversion : {Conversion::Strict, Conversion::Safe})
             for (const std::int32_t number : {-1, 0, 1, 2, 3, 4, 2000000000})
             {
                 const auto first = [&](const auto& visit)
                 {
-                    if (const Row* row = table.FindFirst(Column, number, conversion))
+                    if (const modData::Row* row = table.FindFirst(Column, number, conversion))
                         visit(*row);
                 };
                 const auto all = [&](const auto& visit)
                 {
-                    for (const Row& row : table.Matching(Column, number, conversion))
+                    for (const modData::Row& row : table.Matching(Column, number, conversion))
                         visit(row);
                 };
                 ASSERT_EQ(Outcome(first), Outcome(Scan(table, number, conversion, true)));
@@ -90,7 +90,7 @@ TEST(ColumnIndex, FindsWhatReadingRowByRowFinds)
 
 TEST(ColumnIndex, ASearchFollowsEveryChangeOfTheTable)
 {
-    Table table(modData::KolegijSmjerovi.Layout());
+    modData::Table table(modData::KolegijSmjerovi.Layout());
     table.AppendLine("1;7", 2);
     EXPECT_EQ(table.FindPosition(Column, 7), 0U);
     EXPECT_EQ(table.FindPosition(Column, 8), std::nullopt);

@@ -30,7 +30,7 @@ CourseEntry Valid()
 
 void ExpectFault(const CourseEntry& entry, EntryField field, const std::string& message)
 {
-    const std::optional<EntryFault> fault = CheckEntry(entry);
+    const std::optional<ValidationError> fault = CheckEntry(entry);
     ASSERT_TRUE(fault.has_value()) << "instead of: " << message;
     EXPECT_EQ(fault->Message, message);
     EXPECT_EQ(fault->Field, field);
@@ -38,7 +38,7 @@ void ExpectFault(const CourseEntry& entry, EntryField field, const std::string& 
 
 void ExpectPasses(const CourseEntry& entry)
 {
-    const std::optional<EntryFault> fault = CheckEntry(entry);
+    const std::optional<ValidationError> fault = CheckEntry(entry);
     EXPECT_FALSE(fault.has_value()) << fault->Message;
 }
 

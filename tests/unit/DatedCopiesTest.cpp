@@ -26,7 +26,7 @@ protected:
     {
         SmallCatalogue().WriteTo(Folder.Data());
         Files.Folder = modData::GetDataFolder();
-        for (const Table* table : modData::AllTables())
+        for (const modData::Table* table : modData::AllTables())
             Files.Names.push_back(table->Layout().FileName);
         DatedCopies::CurrentTime = [] { return Time; };
         Time = "2026-11-21_143005";

@@ -3,7 +3,7 @@
 #include "data/Errors.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 
 #include <gtest/gtest.h>
 
@@ -241,7 +241,7 @@ TEST_F(FailingDepartmentExport, OfTwoFaultsTheMissingNameIsToldOnEverySystem)
 TEST_F(FailingDepartmentExport, ASumThatDoesNotFit)
 {
     UseCourses({"1;A;2147483647;0;0;1;obvezni;1;1", "2;B;1;0;0;1;izborni;6;1"});
-    ExpectError<Overflow>();
+    ExpectError<OverflowError>();
 }
 
 TEST_F(FailingDepartmentExport, AFileThatMayNotBeWritten)

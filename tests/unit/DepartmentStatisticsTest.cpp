@@ -3,7 +3,7 @@
 #include "data/Errors.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 
 #include <gtest/gtest.h>
 
@@ -26,15 +26,15 @@ Texts Courses(std::int32_t zavodID, const DepartmentFilter& filter = All)
     return LinesOfRows(DepartmentCourseRows(zavodID, filter));
 }
 
-Texts LoadTable(std::int32_t zavodID, const DepartmentFilter& filter = All)
+Texts TeachingLoadTable(std::int32_t zavodID, const DepartmentFilter& filter = All)
 {
-    return LinesOfRows(DepartmentLoadRows(zavodID, filter));
+    return LinesOfRows(DepartmentTeachingLoadRows(zavodID, filter));
 }
 
 /// The rows of the table that count a course.
 Texts Counted(std::int32_t zavodID, const DepartmentFilter& filter = All)
 {
-    Texts lines = LoadTable(zavodID, filter);
+    Texts lines = TeachingLoadTable(zavodID, filter);
     std::erase_if(lines, [](const std::string& line) { return line.ends_with(";0"); });
     return lines;
 }
@@ -82,7 +82,7 @@ TEST(DepartmentStatistics, DrawsElectivesBlueInEveryCellAndTheOthersBlack)
     {
         EXPECT_EQ(rows[i].size(), 9U);
         for (const ListCell& cell : rows[i])
-            EXPECT_EQ(cell.Colour, i == 0 ? Blue : Black) << i;
+            EXPECT_EQ(cell.Colour, i == 0 ? ListColours::Blue : ListColours::Black) << i;
     }
 }
 
@@ -91,7 +91,7 @@ TEST(DepartmentStatistics, ADepartmentWithoutLecturersHasNoCoursesAndATableOfZer
     SmallCatalogue().Use();
     EXPECT_EQ(Courses(99), Texts{});
     EXPECT_EQ(
-        LoadTable(99),
+        TeachingLoadTable(99),
         (Texts{"1;Obvezni;0;0;0;0;0", "1;Izborni;0;0;0;0;0", "2;Obvezni;0;0;0;0;0", "2;Izborni;0;0;0;0;0",
                "3;Obvezni;0;0;0;0;0", "3;Izborni;0;0;0;0;0", "4;Obvezni;0;0;0;0;0", "4;Izborni;0;0;0;0;0",
                "5;Obvezni;0;0;0;0;0", "5;Izborni;0;0;0;0;0", "6;Obvezni;0;0;0;0;0", "6;Izborni;0;0;0;0;0",
@@ -116,7 +116,7 @@ TEST(DepartmentStatistics, ACourseOfSeveralDepartmentsCountsInEach)
     for (const std::int32_t zavodID : {Povijest, Kemija})
     {
         EXPECT_EQ(FirstCells(Courses(zavodID)), Texts{"Uvod u lov"});
-        EXPECT_EQ(LoadTable(zavodID).back(), "Ukupno;Total;2;1;0;5;1");
+        EXPECT_EQ(TeachingLoadTable(zavodID).back(), "Ukupno;Total;2;1;0;5;1");
     }
 }
 
@@ -128,8 +128,8 @@ TEST(DepartmentStatistics, EveryLinkLecturerAndCourseOfOneIDCounts)
     catalogue.KolegijNastavnici = {"1;2;Nositelj;1", "77;2;Nositelj;1", "1;2;Asistent;1"};
     catalogue.Use();
     EXPECT_EQ(FirstCells(Courses(Kemija)), (Texts{"A", "B", "A", "B", "A", "B", "A", "B"}));
-    EXPECT_EQ(LoadTable(Kemija).back(), "Ukupno;Total;12;0;0;12;8");
-    EXPECT_EQ(LoadTable(Povijest).back(), "Ukupno;Total;6;0;0;6;4");
+    EXPECT_EQ(TeachingLoadTable(Kemija).back(), "Ukupno;Total;12;0;0;12;8");
+    EXPECT_EQ(TeachingLoadTable(Povijest).back(), "Ukupno;Total;6;0;0;6;4");
 }
 
 TEST(DepartmentStatistics, ReadsTheTablesAnewEachTime)
@@ -138,7 +138,7 @@ TEST(DepartmentStatistics, ReadsTheTablesAnewEachTime)
     EXPECT_EQ(Courses(Kemija).size(), 2U);
     modData::Kolegiji.RemoveMatches(Kolegij::ID, 2);
     EXPECT_EQ(FirstCells(Courses(Kemija)), Texts{"Bevska kultura"});
-    EXPECT_EQ(LoadTable(Kemija).back(), "Ukupno;Total;2;0;2;6;1");
+    EXPECT_EQ(TeachingLoadTable(Kemija).back(), "Ukupno;Total;2;0;2;6;1");
 }
 
 // The semester filter
@@ -189,7 +189,7 @@ protected:
     static void Expect(const DepartmentFilter& filter, const Texts& courses, const std::string& total)
     {
         EXPECT_EQ(FirstCells(Courses(Kemija, filter)), courses) << filter.Razina << ", " << filter.Semestar;
-        EXPECT_EQ(LoadTable(Kemija, filter).back(), "Ukupno;Total;" + total)
+        EXPECT_EQ(TeachingLoadTable(Kemija, filter).back(), "Ukupno;Total;" + total)
             << filter.Razina << ", " << filter.Semestar;
     }
 };
@@ -226,7 +226,7 @@ TEST_F(DepartmentFilters, TheLevelIsComparedExactlyAndTheFirstStudyOfOneIDDecide
 TEST_F(DepartmentFilters, LeaveTheRowsOfTheOtherSemestersAtZero)
 {
     EXPECT_EQ(
-        LoadTable(Kemija, {"Preddiplomski", "Ljetni"}),
+        TeachingLoadTable(Kemija, {"Preddiplomski", "Ljetni"}),
         (Texts{"1;Obvezni;0;0;0;0;0", "1;Izborni;0;0;0;0;0", "2;Obvezni;0;0;0;0;0", "2;Izborni;0;0;0;0;0",
                "3;Obvezni;0;0;0;0;0", "3;Izborni;0;0;0;0;0", "4;Obvezni;2;0;0;2;1", "4;Izborni;0;0;0;0;0",
                "5;Obvezni;0;0;0;0;0", "5;Izborni;0;0;0;0;0", "6;Obvezni;0;0;0;0;0", "6;Izborni;0;0;0;0;0",
@@ -249,12 +249,12 @@ TEST(DepartmentStatistics, ATypeThatIsNeitherWordIsListedButNotCounted)
 TEST(DepartmentStatistics, NothingIsRedAndOnlyTheTotalsAreBold)
 {
     CoursesOfKemija({"1;A;99;99;99;99;obvezni;1;1", "2;B;99;99;99;99;izborni;6;1"}).Use();
-    const std::vector<ListRow> rows = DepartmentLoadRows(Kemija, All);
+    const std::vector<ListRow> rows = DepartmentTeachingLoadRows(Kemija, All);
     ASSERT_EQ(rows.size(), 15U);
     for (std::size_t row = 0; row < rows.size(); ++row)
         for (const ListCell& cell : rows[row])
         {
-            EXPECT_EQ(cell.Colour, Black) << row;
+            EXPECT_EQ(cell.Colour, ListColours::Black) << row;
             EXPECT_EQ(cell.Bold, row >= 12) << row;
         }
 }
@@ -262,13 +262,13 @@ TEST(DepartmentStatistics, NothingIsRedAndOnlyTheTotalsAreBold)
 TEST(DepartmentStatistics, ASumThatDoesNotFitIsAnError)
 {
     CoursesOfKemija({"1;A;2147483647;0;0;1;obvezni;1;1", "2;B;1;0;0;1;obvezni;1;1"}).Use();
-    EXPECT_THROW(LoadTable(Kemija), Overflow) << "in a semester";
+    EXPECT_THROW(TeachingLoadTable(Kemija), OverflowError) << "in a semester";
     EXPECT_EQ(Courses(Kemija).size(), 2U);
     CoursesOfKemija({"1;A;1;0;0;2147483647;izborni;1;1", "2;B;1;0;0;1;izborni;2;1"}).Use();
-    EXPECT_THROW(LoadTable(Kemija), Overflow) << "in a type's total";
+    EXPECT_THROW(TeachingLoadTable(Kemija), OverflowError) << "in a type's total";
     CoursesOfKemija({"1;A;1;0;2147483647;1;obvezni;1;1", "2;B;1;0;1;1;izborni;2;1"}).Use();
-    EXPECT_THROW(LoadTable(Kemija), Overflow) << "in the last total";
-    EXPECT_EQ(LoadTable(Kemija, {"Svi", "Zimski"}).back(), "Ukupno;Total;1;0;2147483647;1;1")
+    EXPECT_THROW(TeachingLoadTable(Kemija), OverflowError) << "in the last total";
+    EXPECT_EQ(TeachingLoadTable(Kemija, {"Svi", "Zimski"}).back(), "Ukupno;Total;1;0;2147483647;1;1")
         << "the filter acts before the counting";
 }
 
@@ -301,10 +301,10 @@ TEST(DepartmentStatistics, TheTableTakesAnIDThatIsNoNumberForZero)
     catalogue.KolegijNastavnici = {"nula;nitko;;", "7;5;;"};
     catalogue.Studiji.push_back("?;Nulti;NUL;Diplomski");
     catalogue.Use();
-    EXPECT_EQ(LoadTable(0).back(), "Ukupno;Total;1;0;0;1;1");
-    EXPECT_EQ(LoadTable(Kemija).back(), "Ukupno;Total;3;0;0;3;2");
-    EXPECT_EQ(LoadTable(Kemija, {"Diplomski", "Svi"}).back(), "Ukupno;Total;1;0;0;1;1");
-    EXPECT_EQ(LoadTable(Kemija, {"Preddiplomski", "Svi"}).back(), "Ukupno;Total;2;0;0;2;1");
+    EXPECT_EQ(TeachingLoadTable(0).back(), "Ukupno;Total;1;0;0;1;1");
+    EXPECT_EQ(TeachingLoadTable(Kemija).back(), "Ukupno;Total;3;0;0;3;2");
+    EXPECT_EQ(TeachingLoadTable(Kemija, {"Diplomski", "Svi"}).back(), "Ukupno;Total;1;0;0;1;1");
+    EXPECT_EQ(TeachingLoadTable(Kemija, {"Preddiplomski", "Svi"}).back(), "Ukupno;Total;2;0;0;2;1");
 }
 
 TEST(DepartmentStatistics, TheNamesOfStudiesAndHoldersAreLookedUpStrictly)
@@ -322,7 +322,7 @@ TEST(DepartmentStatistics, TheNamesOfStudiesAndHoldersAreLookedUpStrictly)
         catalogue.Use();
         EXPECT_THROW(Courses(Kemija), TypeMismatch) << "case " << &catalogue - faulty;
         EXPECT_EQ(Courses(99), Texts{}) << "nothing to look up; case " << &catalogue - faulty;
-        EXPECT_EQ(LoadTable(Kemija, {"Preddiplomski", "Svi"}).back(), "Ukupno;Total;3;1;3;10;2")
+        EXPECT_EQ(TeachingLoadTable(Kemija, {"Preddiplomski", "Svi"}).back(), "Ukupno;Total;3;1;3;10;2")
             << "case " << &catalogue - faulty;
     }
 }
@@ -351,7 +351,8 @@ TEST(DepartmentStatistics, ARowThatIsTooShortIsAnErrorAllTheSame)
     {
         catalogue.Use();
         EXPECT_THROW(Courses(Kemija, filter), SubscriptOutOfRange) << "case " << &catalogue - faulty;
-        EXPECT_THROW(LoadTable(Kemija, filter), SubscriptOutOfRange) << "case " << &catalogue - faulty;
+        EXPECT_THROW(TeachingLoadTable(Kemija, filter), SubscriptOutOfRange)
+            << "case " << &catalogue - faulty;
     }
 }
 

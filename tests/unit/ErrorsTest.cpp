@@ -56,7 +56,7 @@ TEST(Errors, AFaultyFieldNamesItsValueFileLineAndColumn)
     const FieldPlace place = {"db_smjer.csv", 12, "StudijID"};
     EXPECT_STREQ(TypeMismatch("", place).what(),
                  "Vrijednost \"\" nije broj (datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
-    EXPECT_STREQ(Overflow("2147483648", place).what(),
+    EXPECT_STREQ(OverflowError("2147483648", place).what(),
                  "Broj \"2147483648\" je izvan dopuštenog raspona od -2147483648 do 2147483647 "
                  "(datoteka db_smjer.csv, redak 12, stupac \"StudijID\").");
     EXPECT_STREQ(SubscriptOutOfRange(place).what(),
@@ -74,7 +74,7 @@ TEST(Errors, ALongValueIsCutAndItsControlCharactersAreVisible)
               "Vrijednost \"" + std::string(60, 'x') + "…\" nije broj.");
     EXPECT_STREQ(TypeMismatch({"1\0\n\x1F\x7F\xC2\x83\xC2\xA0", 9}).what(),
                  "Vrijednost \"1\\x00\\x0a\\x1f\\x7f\\x83\xC2\xA0\" nije broj.");
-    EXPECT_TRUE(std::string_view(Overflow(std::string(1000, '9')).what())
+    EXPECT_TRUE(std::string_view(OverflowError(std::string(1000, '9')).what())
                     .starts_with("Broj \"" + std::string(60, '9') + "…\" je izvan"));
 }
 
@@ -96,8 +96,8 @@ TEST(Errors, ARowThatNoFileHoldsHasNoLine)
 TEST(Errors, EveryKindHasItsNumber)
 {
     EXPECT_EQ(TypeMismatch("x").Number(), 13);
-    EXPECT_EQ(Overflow().Number(), 6);
-    EXPECT_EQ(Overflow("99999999999").Number(), 6);
+    EXPECT_EQ(OverflowError().Number(), 6);
+    EXPECT_EQ(OverflowError("99999999999").Number(), 6);
     EXPECT_EQ(SubscriptOutOfRange({"f", 2, "ID"}).Number(), 9);
 }
 

@@ -166,7 +166,7 @@ std::string OnPaper(std::int64_t digits, int decimals, int shown)
 class RandomDigits
 {
 public:
-    int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(Engine); }
+    int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(m_engine); }
 
     /// A digit of the kind that many halves, and numbers just below and above one, are made of.
     int Next()
@@ -176,7 +176,7 @@ public:
     }
 
 private:
-    std::mt19937 Engine{20260309};
+    std::mt19937 m_engine{20260309};
 };
 
 TEST(FormatFixed, RoundsEveryNumberOfFifteenDigitsAsOnPaper)

@@ -4,7 +4,7 @@
 #include "data/Files.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 
 #include <gtest/gtest.h>
 
@@ -171,7 +171,7 @@ TEST_F(OneLecturersExport, HoursAndCreditsThatAreNoNumbersCountAsZero)
 {
     Use({"1;A;x;;1h;pet;obvezni;1;1", "2;B;1;99999999999;2;3;obvezni;1;1"});
     EXPECT_EQ(Counted(), (Texts{"N;1;Obvezni;1;0;2;3;2", "N;TOTAL;Sve;1;0;2;3;2"}));
-    EXPECT_THROW(LecturerLoadRows(1, All), TypeMismatch) << "unlike the table on the screen";
+    EXPECT_THROW(LecturerTeachingLoadRows(1, All), TypeMismatch) << "unlike the table on the screen";
 }
 
 TEST_F(OneLecturersExport, AFaultyCourseThatNobodyTeachesIsNotMet)
@@ -260,7 +260,7 @@ TEST_F(FailingLecturerExport, OfTwoFaultsTheMissingNameIsToldOnEverySystem)
 TEST_F(FailingLecturerExport, ASumThatDoesNotFit)
 {
     Use({"1;A;2147483647;0;0;1;obvezni;1;1", "2;B;1;0;0;1;izborni;6;1"});
-    ExpectError<Overflow>();
+    ExpectError<OverflowError>();
 }
 
 TEST_F(FailingLecturerExport, AFileThatMayNotBeWritten)

@@ -3,7 +3,7 @@
 #include "data/Errors.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 
 #include <gtest/gtest.h>
 
@@ -26,15 +26,15 @@ Texts Courses(std::int32_t nastavnikID, const LecturerFilter& filter = All)
     return LinesOfRows(LecturerCourseRows(nastavnikID, filter));
 }
 
-Texts LoadTable(std::int32_t nastavnikID, const LecturerFilter& filter = All)
+Texts TeachingLoadTable(std::int32_t nastavnikID, const LecturerFilter& filter = All)
 {
-    return LinesOfRows(LecturerLoadRows(nastavnikID, filter));
+    return LinesOfRows(LecturerTeachingLoadRows(nastavnikID, filter));
 }
 
 /// The rows of the table that count a course.
 Texts Counted(std::int32_t nastavnikID, const LecturerFilter& filter = All)
 {
-    Texts lines = LoadTable(nastavnikID, filter);
+    Texts lines = TeachingLoadTable(nastavnikID, filter);
     std::erase_if(lines, [](const std::string& line) { return line.ends_with(";0"); });
     return lines;
 }
@@ -82,7 +82,7 @@ TEST(LecturerStatistics, DrawsElectivesBlueInEveryCellAndTheOthersBlack)
         EXPECT_EQ(rows[i].size(), 9U);
         for (const ListCell& cell : rows[i])
         {
-            EXPECT_EQ(cell.Colour, i < 2 ? Blue : Black) << i;
+            EXPECT_EQ(cell.Colour, i < 2 ? ListColours::Blue : ListColours::Black) << i;
             EXPECT_FALSE(cell.Bold) << i;
         }
     }
@@ -93,7 +93,7 @@ TEST(LecturerStatistics, ALecturerWithoutLinksHasNoCoursesAndATableOfZeros)
     SmallCatalogue().Use();
     EXPECT_EQ(Courses(99), Texts{});
     EXPECT_EQ(
-        LoadTable(99),
+        TeachingLoadTable(99),
         (Texts{"1;Obvezni;0;0;0;0;0", "1;Izborni;0;0;0;0;0", "2;Obvezni;0;0;0;0;0", "2;Izborni;0;0;0;0;0",
                "3;Obvezni;0;0;0;0;0", "3;Izborni;0;0;0;0;0", "4;Obvezni;0;0;0;0;0", "4;Izborni;0;0;0;0;0",
                "5;Obvezni;0;0;0;0;0", "5;Izborni;0;0;0;0;0", "6;Obvezni;0;0;0;0;0", "6;Izborni;0;0;0;0;0",
@@ -106,7 +106,7 @@ TEST(LecturerStatistics, ALinkToAMissingCourseYieldsNothing)
     catalogue.KolegijNastavnici.insert(catalogue.KolegijNastavnici.begin(), "77;1;Nositelj;1");
     catalogue.Use();
     EXPECT_EQ(Courses(Ana).size(), 2U);
-    EXPECT_EQ(LoadTable(Ana).back(), "TOTAL;Sve;3;1;0;7;2");
+    EXPECT_EQ(TeachingLoadTable(Ana).back(), "TOTAL;Sve;3;1;0;7;2");
 }
 
 TEST(LecturerStatistics, EveryLinkCountsWhateverItsRoleAndPlace)
@@ -127,7 +127,7 @@ TEST(LecturerStatistics, EveryCourseOfOneIDCounts)
     catalogue.KolegijNastavnici = {"1;1;Nositelj;1"};
     catalogue.Use();
     EXPECT_EQ(FirstCells(Courses(Ana)), (Texts{"A", "C"}));
-    EXPECT_EQ(LoadTable(Ana).back(), "TOTAL;Sve;3;0;0;3;2");
+    EXPECT_EQ(TeachingLoadTable(Ana).back(), "TOTAL;Sve;3;0;0;3;2");
 }
 
 TEST(LecturerStatistics, ReadsTheTablesAnewEachTime)
@@ -136,7 +136,7 @@ TEST(LecturerStatistics, ReadsTheTablesAnewEachTime)
     EXPECT_EQ(Courses(Ciro).size(), 2U);
     modData::Kolegiji.RemoveMatches(Kolegij::ID, 4);
     EXPECT_EQ(Courses(Ciro), Texts{"Uvod u lov;2;1;0;5;obvezni;1;LOR;Anić Ana; Đurić Ćiro"});
-    EXPECT_EQ(LoadTable(Ciro).back(), "TOTAL;Sve;2;1;0;5;1");
+    EXPECT_EQ(TeachingLoadTable(Ciro).back(), "TOTAL;Sve;2;1;0;5;1");
 }
 
 // Filters
@@ -154,7 +154,7 @@ protected:
     static void Expect(const LecturerFilter& filter, const Texts& courses, const std::string& total)
     {
         EXPECT_EQ(FirstCells(Courses(Ana, filter)), courses) << filter.Razina << ", " << filter.Program;
-        EXPECT_EQ(LoadTable(Ana, filter).back(), "TOTAL;Sve;" + total)
+        EXPECT_EQ(TeachingLoadTable(Ana, filter).back(), "TOTAL;Sve;" + total)
             << filter.Razina << ", " << filter.Program;
     }
 };
@@ -214,13 +214,14 @@ TEST(LecturerStatistics, MoreThan30EctsAreRedInOneSemesterAndTypeAlone)
     CoursesOfAna({"1;A;50;50;50;30;obvezni;1;1", "2;B;0;0;0;20;izborni;2;1", "3;C;0;0;0;11;izborni;2;1",
                   "4;D;0;0;0;31;obvezni;6;1"})
         .Use();
-    const std::vector<ListRow> rows = LecturerLoadRows(Ana, All);
+    const std::vector<ListRow> rows = LecturerTeachingLoadRows(Ana, All);
     ASSERT_EQ(rows.size(), 15U);
     for (std::size_t row = 0; row < rows.size(); ++row)
         for (std::size_t column = 0; column < rows[row].size(); ++column)
         {
             const bool overfull = column == 5 && (row == 3 || row == 10);
-            EXPECT_EQ(rows[row][column].Colour, overfull ? Red : Black) << row << ", " << column;
+            EXPECT_EQ(rows[row][column].Colour, overfull ? ListColours::Red : ListColours::Black)
+                << row << ", " << column;
             EXPECT_EQ(rows[row][column].Bold, row >= 12) << row << ", " << column;
         }
     EXPECT_EQ(rows[3][5].Text, "31");
@@ -230,13 +231,14 @@ TEST(LecturerStatistics, MoreThan30EctsAreRedInOneSemesterAndTypeAlone)
 TEST(LecturerStatistics, ASumThatDoesNotFitIsAnError)
 {
     CoursesOfAna({"1;A;2147483647;0;0;1;obvezni;1;1", "2;B;1;0;0;1;obvezni;1;1"}).Use();
-    EXPECT_THROW(LoadTable(Ana), Overflow) << "in a semester";
+    EXPECT_THROW(TeachingLoadTable(Ana), OverflowError) << "in a semester";
     CoursesOfAna({"1;A;1;0;0;2147483647;obvezni;1;1", "2;B;1;0;0;1;obvezni;2;1"}).Use();
-    EXPECT_THROW(LoadTable(Ana), Overflow) << "in a type's total";
+    EXPECT_THROW(TeachingLoadTable(Ana), OverflowError) << "in a type's total";
     CoursesOfAna({"1;A;1;0;2147483647;1;obvezni;1;1", "2;B;1;0;1;1;izborni;1;1"}).Use();
-    EXPECT_THROW(LoadTable(Ana), Overflow) << "in the last total";
+    EXPECT_THROW(TeachingLoadTable(Ana), OverflowError) << "in the last total";
     CoursesOfAna({"1;A;2147483647;0;0;1;obvezni;1;1", "2;B;1;0;0;1;obvezni;7;1"}).Use();
-    EXPECT_EQ(LoadTable(Ana).back(), "TOTAL;Sve;2147483647;0;0;1;1") << "what is left out does not add";
+    EXPECT_EQ(TeachingLoadTable(Ana).back(), "TOTAL;Sve;2147483647;0;0;1;1")
+        << "what is left out does not add";
 }
 
 // Numbers that cannot be read
@@ -248,19 +250,19 @@ TEST(LecturerStatistics, AnHourOrCreditOfACountedCourseThatIsNoNumberIsAnError)
     {
         CoursesOfAna({course}).Use();
         EXPECT_EQ(Courses(Ana).size(), 1U) << "it is listed as stored: " << course;
-        EXPECT_THROW(LoadTable(Ana), TypeMismatch) << course;
+        EXPECT_THROW(TeachingLoadTable(Ana), TypeMismatch) << course;
     }
     CoursesOfAna({"1;A;99999999999;0;0;1;obvezni;1;1"}).Use();
-    EXPECT_THROW(LoadTable(Ana), Overflow);
+    EXPECT_THROW(TeachingLoadTable(Ana), OverflowError);
 }
 
 TEST(LecturerStatistics, WhatIsNotCountedIsNotRead)
 {
     CoursesOfAna({"1;A;x;x;x;x;obvezni;7;1", "2;B;1;0;0;1;obvezni;1;1"}).Use();
     EXPECT_EQ(Courses(Ana).size(), 2U);
-    EXPECT_EQ(LoadTable(Ana).back(), "TOTAL;Sve;1;0;0;1;1");
+    EXPECT_EQ(TeachingLoadTable(Ana).back(), "TOTAL;Sve;1;0;0;1;1");
     CoursesOfAna({"1;A;x;x;x;x;obvezni;x;3", "2;B;1;0;0;1;obvezni;1;1"}).Use();
-    EXPECT_EQ(LoadTable(Ana, {"Preddiplomski", "Svi"}).back(), "TOTAL;Sve;1;0;0;1;1");
+    EXPECT_EQ(TeachingLoadTable(Ana, {"Preddiplomski", "Svi"}).back(), "TOTAL;Sve;1;0;0;1;1");
 }
 
 TEST(LecturerStatistics, ASemesterThatIsNoNumberIsAnErrorInTheTable)
@@ -269,7 +271,7 @@ TEST(LecturerStatistics, ASemesterThatIsNoNumberIsAnErrorInTheTable)
     {
         CoursesOfAna({course}).Use();
         EXPECT_EQ(Courses(Ana).size(), 1U) << course;
-        EXPECT_THROW(LoadTable(Ana), TypeMismatch) << course;
+        EXPECT_THROW(TeachingLoadTable(Ana), TypeMismatch) << course;
     }
 }
 
@@ -287,7 +289,7 @@ TEST(LecturerStatistics, AnIDThatIsNoNumberIsAnErrorInListAndTable)
     {
         catalogue.Use();
         EXPECT_THROW(Courses(Ana), TypeMismatch) << "case " << &catalogue - faulty;
-        EXPECT_THROW(LoadTable(Ana), TypeMismatch) << "case " << &catalogue - faulty;
+        EXPECT_THROW(TeachingLoadTable(Ana), TypeMismatch) << "case " << &catalogue - faulty;
     }
 }
 
@@ -297,7 +299,7 @@ TEST(LecturerStatistics, APlaceThatIsNoNumberIsAnErrorInTheListAlone)
     catalogue.KolegijNastavnici[0] = "1;1;Nositelj;prvi";
     catalogue.Use();
     EXPECT_THROW(Courses(Ana), TypeMismatch);
-    EXPECT_EQ(LoadTable(Ana).back(), "TOTAL;Sve;3;1;0;7;2");
+    EXPECT_EQ(TeachingLoadTable(Ana).back(), "TOTAL;Sve;3;1;0;7;2");
 }
 
 // Rows that are too short
@@ -314,7 +316,7 @@ TEST(LecturerStatistics, ARowThatIsTooShortIsAnError)
     {
         catalogue.Use();
         EXPECT_THROW(Courses(Ana), SubscriptOutOfRange) << "case " << &catalogue - faulty;
-        EXPECT_THROW(LoadTable(Ana), SubscriptOutOfRange) << "case " << &catalogue - faulty;
+        EXPECT_THROW(TeachingLoadTable(Ana), SubscriptOutOfRange) << "case " << &catalogue - faulty;
     }
 }
 
@@ -331,7 +333,7 @@ TEST(LecturerStatistics, AStudyThatIsTooShortIsAnErrorWhateverTheFilters)
                 const LecturerFilter filter = {razina, program};
                 EXPECT_THROW(Courses(Ana, filter), SubscriptOutOfRange)
                     << studij << ", " << razina << ", " << program;
-                EXPECT_THROW(LoadTable(Ana, filter), SubscriptOutOfRange)
+                EXPECT_THROW(TeachingLoadTable(Ana, filter), SubscriptOutOfRange)
                     << studij << ", " << razina << ", " << program;
             }
     }
@@ -343,7 +345,7 @@ TEST(LecturerStatistics, ALecturersOwnRowNeedsNoMoreThanItsName)
     catalogue.Nastavnici = {"1;Anić Ana", "2;Šarić Žarko", "3;Đurić Ćiro"};
     catalogue.Use();
     EXPECT_EQ(Courses(Ana).size(), 2U);
-    EXPECT_EQ(LoadTable(Ana).back(), "TOTAL;Sve;3;1;0;7;2");
+    EXPECT_EQ(TeachingLoadTable(Ana).back(), "TOTAL;Sve;3;1;0;7;2");
 }
 
 } // namespace

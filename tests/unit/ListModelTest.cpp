@@ -1,4 +1,4 @@
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ TEST(ListModel, EveryOtherTypeIsBlack)
 
 TEST(ListModel, TheCellsOfAUniformRowAreDrawnAlike)
 {
-    const ListRow row = UniformRow({"a", "", "b"}, Red, true);
+    const ListRow row = UniformRow({"a", "", "b"}, ListColours::Red, true);
     ASSERT_EQ(row.size(), 3U);
     EXPECT_EQ(row[0].Text + row[1].Text + row[2].Text, "ab");
     for (const ListCell& cell : row)
@@ -31,12 +31,12 @@ TEST(ListModel, TheCellsOfAUniformRowAreDrawnAlike)
 
 TEST(ListModel, KeptRowsAnswerForTheirCells)
 {
-    const KeptRows rows({{{"a"}, {"b", Red, true}}, {{"c", Blue}, {""}}});
+    const KeptRows rows({{{"a"}, {"b", ListColours::Red, true}}, {{"c", ListColours::Blue}, {""}}});
     ASSERT_EQ(rows.RowCount(), 2U);
     EXPECT_EQ(rows.Text(0, 0) + rows.Text(0, 1) + rows.Text(1, 0) + rows.Text(1, 1), "abc");
     EXPECT_EQ(rows.Style(0, 0), CellStyle());
-    EXPECT_EQ(rows.Style(0, 1), (CellStyle{Red, true}));
-    EXPECT_EQ(rows.Style(1, 0), (CellStyle{Blue, false}));
+    EXPECT_EQ(rows.Style(0, 1), (CellStyle{ListColours::Red, true}));
+    EXPECT_EQ(rows.Style(1, 0), (CellStyle{ListColours::Blue, false}));
 }
 
 } // namespace

@@ -26,18 +26,18 @@ class Lock
 {
 public:
     explicit Lock(const fs::path& file, DWORD sharing = 0)
-        : File(CreateFileW(file.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
-                           nullptr))
+        : m_file(CreateFileW(file.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING,
+                             FILE_ATTRIBUTE_NORMAL, nullptr))
     {
-        if (File == INVALID_HANDLE_VALUE)
+        if (m_file == INVALID_HANDLE_VALUE)
             throw std::runtime_error("cannot lock " + file.string());
     }
-    ~Lock() { CloseHandle(File); }
+    ~Lock() { CloseHandle(m_file); }
     Lock(const Lock&) = delete;
     Lock& operator=(const Lock&) = delete;
 
 private:
-    HANDLE File;
+    HANDLE m_file;
 };
 
 class LockedFile : public testing::Test

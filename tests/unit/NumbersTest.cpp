@@ -1,4 +1,5 @@
-#include "data/Numbers.h"
+#include "text/Numbers.h"
+#include "data/CheckedNumbers.h"
 #include "data/Errors.h"
 
 #include <gtest/gtest.h>
@@ -33,10 +34,10 @@ TEST(Numbers, TheRangeEndsWithRounding)
 {
     EXPECT_EQ(ToLong("2147483647"), INT32_MAX);
     EXPECT_EQ(ToLong("2147483647.4"), INT32_MAX);
-    EXPECT_THROW(ToLong("2147483647.5"), Overflow);
+    EXPECT_THROW(ToLong("2147483647.5"), OverflowError);
     EXPECT_EQ(ToLong("-2147483648.5"), INT32_MIN);
-    EXPECT_THROW(ToLong("-2147483648.51"), Overflow);
-    EXPECT_THROW(ToLong("99999999999999999999999999"), Overflow);
+    EXPECT_THROW(ToLong("-2147483648.51"), OverflowError);
+    EXPECT_THROW(ToLong("99999999999999999999999999"), OverflowError);
     EXPECT_EQ(ToLong("00000000000000000000000007"), 7);
 }
 
@@ -67,10 +68,10 @@ TEST(Numbers, SafeConversionNeverFails)
 TEST(Numbers, SumsAndProductsAreChecked)
 {
     EXPECT_EQ(CheckedSum(INT32_MAX, -1), INT32_MAX - 1);
-    EXPECT_THROW(CheckedSum(INT32_MAX, 1), Overflow);
-    EXPECT_THROW(CheckedSum(INT32_MIN, -1), Overflow);
+    EXPECT_THROW(CheckedSum(INT32_MAX, 1), OverflowError);
+    EXPECT_THROW(CheckedSum(INT32_MIN, -1), OverflowError);
     EXPECT_EQ(CheckedProduct(46340, 46340), 2147395600);
-    EXPECT_THROW(CheckedProduct(46341, 46341), Overflow);
+    EXPECT_THROW(CheckedProduct(46341, 46341), OverflowError);
 }
 
 TEST(Numbers, WhatOnlyLooksLikeANumberIsNone)
@@ -84,16 +85,16 @@ TEST(Numbers, ANumberIsOneWhateverItsSize)
 {
     EXPECT_TRUE(IsNumeric("99999999999999999999"));
     EXPECT_TRUE(IsNumeric(std::string(100'000, '9')));
-    EXPECT_THROW(ToLong(std::string(100'000, '9')), Overflow);
+    EXPECT_THROW(ToLong(std::string(100'000, '9')), OverflowError);
     EXPECT_EQ(ToLong("7," + std::string(100'000, '4')), 7);
 }
 
 TEST(Numbers, AReadingThatFailsLeavesTheValueAlone)
 {
     std::int32_t value = 42;
-    EXPECT_EQ(ReadLong("abc", value), NumberReading::NotNumeric);
-    EXPECT_EQ(ReadLong("2147483648", value), NumberReading::TooLarge);
+    EXPECT_EQ(ParseLong("abc", value), NumberKind::NotNumeric);
+    EXPECT_EQ(ParseLong("2147483648", value), NumberKind::TooLarge);
     EXPECT_EQ(value, 42);
-    EXPECT_EQ(ReadLong("-2147483648", value), NumberReading::Whole);
+    EXPECT_EQ(ParseLong("-2147483648", value), NumberKind::Whole);
     EXPECT_EQ(value, INT32_MIN);
 }

@@ -51,15 +51,15 @@ class ProvjeraRuns : public testing::Test
 protected:
     static void SetUpTestSuite()
     {
-        Loaded = std::make_unique<TestFolder>();
-        SmallCatalogue().WriteTo(Loaded->Data());
+        m_loaded = std::make_unique<TestFolder>();
+        SmallCatalogue().WriteTo(m_loaded->Data());
         modData::LoadAllTables();
     }
 
-    static void TearDownTestSuite() { Loaded.reset(); }
+    static void TearDownTestSuite() { m_loaded.reset(); }
 
 private:
-    static inline std::unique_ptr<TestFolder> Loaded;
+    static inline std::unique_ptr<TestFolder> m_loaded;
 };
 
 TEST_F(ProvjeraRuns, AValidCatalogueEndsWithZero)

@@ -137,7 +137,7 @@ TEST(SemesterStatistics, NothingOfACourseThatIsLeftOutIsRead)
 {
     With({"1;K;99999999999;0;0;1;obvezni;5;1"}, {"1;1"}).Use();
     EXPECT_EQ(Total({}, "Diplomski"), "0 0 0 0 0");
-    EXPECT_THROW(StatistikaRows({}, "Preddiplomski"), Overflow);
+    EXPECT_THROW(StatistikaRows({}, "Preddiplomski"), OverflowError);
 }
 
 TEST(SemesterStatistics, EveryTypeButTheCompulsoryOneIsElective)
@@ -178,7 +178,7 @@ TEST(SemesterStatistics, MoreThan30EctsOfASemestersTypeAreRedInTheirCellAlone)
         {
             const bool overfull = (row[0].Text == "2" && row[1].Text == "Obvezni") ||
                                   (row[0].Text == "3" && row[1].Text == "Izborni");
-            EXPECT_EQ(row[column].Colour, overfull && column == 5 ? Red : Black)
+            EXPECT_EQ(row[column].Colour, overfull && column == 5 ? ListColours::Red : ListColours::Black)
                 << row[0].Text << " " << row[1].Text << " column " << column;
         }
 }
@@ -197,7 +197,7 @@ TEST(SemesterStatistics, HoursAreReadAsWholeNumbersOrZero)
     EXPECT_EQ(ParseWholeOrZero("0.5"), 0);
     EXPECT_EQ(ParseWholeOrZero("-4"), -4);
     EXPECT_EQ(ParseWholeOrZero("2147483647"), std::numeric_limits<std::int32_t>::max());
-    EXPECT_THROW(ParseWholeOrZero("2147483648"), Overflow);
+    EXPECT_THROW(ParseWholeOrZero("2147483648"), OverflowError);
 }
 
 TEST(SemesterStatistics, FieldsThatAreNoNumbersCountAsZero)
@@ -209,7 +209,7 @@ TEST(SemesterStatistics, FieldsThatAreNoNumbersCountAsZero)
 TEST(SemesterStatistics, ASumBeyond32BitsIsAnError)
 {
     With({"1;K;2147483647;0;0;0;obvezni;1;1", "2;K;1;0;0;0;obvezni;1;1"}, {"1;1", "2;1"}).Use();
-    EXPECT_THROW(StatistikaRows({}, "Preddiplomski"), Overflow);
+    EXPECT_THROW(StatistikaRows({}, "Preddiplomski"), OverflowError);
     EXPECT_EQ(Total(OfSemestar(2)), "0 0 0 0 0");
 }
 
@@ -217,13 +217,13 @@ TEST(SemesterStatistics, AWeightedNumberBeyond32BitsIsAnError)
 {
     With({"1;K;1073741824;0;0;0;obvezni;1;1"}, {"1;1", "1;2"}).Use();
     EXPECT_EQ(Total(OfSmjer(1)), "1073741824 0 0 0 1");
-    EXPECT_THROW(StatistikaRows({}, "Preddiplomski"), Overflow);
+    EXPECT_THROW(StatistikaRows({}, "Preddiplomski"), OverflowError);
 }
 
 TEST(SemesterStatistics, ANumberBeyond32BitsIsAnErrorOnlyWhereItCounts)
 {
     With({"1;K;0;0;0;99999999999;obvezni;1;1"}, {"1;1"}).Use();
-    EXPECT_THROW(StatistikaRows({}, "Preddiplomski"), Overflow);
+    EXPECT_THROW(StatistikaRows({}, "Preddiplomski"), OverflowError);
     EXPECT_EQ(Total(OfStudij(2)), "0 0 0 0 0");
 }
 

@@ -1,5 +1,5 @@
-#include "lists/CroatianOrder.h"
-#include "lists/ListModel.h"
+#include "text/CroatianOrder.h"
+#include "ui/controls/ListModel.h"
 
 #include <gtest/gtest.h>
 

@@ -64,7 +64,8 @@ TEST_P(SpoiledFileTest, IsFoundAndMendedOrNamed)
     EXPECT_TRUE(lines.find("\n" + std::string(finding)) != std::string::npos) << lines;
 
     const auto tables = modData::AllTables();
-    const auto table = std::ranges::find(tables, file, [](const Table* t) { return t->Layout().FileName; });
+    const auto table =
+        std::ranges::find(tables, file, [](const modData::Table* t) { return t->Layout().FileName; });
     const std::string mended = Check::Mend(spoiled, (*table)->Layout()).Bytes;
     EXPECT_EQ(mended == ReadBytes(DemoFolder() / file), isMended) << mended;
 }

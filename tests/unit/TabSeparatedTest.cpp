@@ -1,4 +1,4 @@
-#include "lists/TabSeparated.h"
+#include "text/TabSeparated.h"
 
 #include <gtest/gtest.h>
 

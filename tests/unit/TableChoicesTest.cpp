@@ -1,4 +1,4 @@
-#include "lists/TableChoices.h"
+#include "data/TableChoices.h"
 #include "data/Errors.h"
 #include "support/Catalogue.h"
 

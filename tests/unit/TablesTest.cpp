@@ -18,13 +18,13 @@ class Tables : public testing::Test
 {
 protected:
     /// Loads a file of two columns with this content.
-    Table Load(std::string_view content)
+    modData::Table Load(std::string_view content)
     {
         WriteBytes(ToPath(Path), content);
         return modData::LoadTable(Path, modData::KolegijSmjerovi.Layout());
     }
 
-    std::string Saved(const Table& table)
+    std::string Saved(const modData::Table& table)
     {
         modData::SaveTable(Path, "KolegijID;SmjerID", table);
         return ReadBytes(ToPath(Path));
@@ -42,7 +42,7 @@ protected:
 
 TEST_F(Tables, AHeaderAloneIsAnEmptyTableAndIsSavedAsTheHeaderAlone)
 {
-    const Table table = Load("whatever;it;says");
+    const modData::Table table = Load("whatever;it;says");
     EXPECT_EQ(table.RowCount(), 0U);
     EXPECT_EQ(Saved(table), "KolegijID;SmjerID\r\n");
 }
@@ -75,7 +75,7 @@ TEST_F(Tables, CrLfOrCrEndsALineAndALoneLfDoesNot)
 
 TEST_F(Tables, FieldsAreNeitherUnquotedNorCounted)
 {
-    const Table table = Load("h\r\n\"1;2\"\r\n7\r\n1;2;3;4;5\r\n");
+    const modData::Table table = Load("h\r\n\"1;2\"\r\n7\r\n1;2;3;4;5\r\n");
     EXPECT_EQ(table[0].Field(0), "\"1");
     EXPECT_EQ(table[1].FieldCount(), 1U);
     EXPECT_EQ(table[2].FieldCount(), 5U);
@@ -92,7 +92,7 @@ TEST_F(Tables, EveryByteSurvivesLoadAndSave)
 
 TEST_F(Tables, ACharacterThatWindows1250LacksIsSavedAsAQuestionMark)
 {
-    Table table(modData::KolegijSmjerovi.Layout());
+    modData::Table table(modData::KolegijSmjerovi.Layout());
     table.Append({"1", "Ж"});
     EXPECT_EQ(Saved(table), "KolegijID;SmjerID\r\n1;?\r\n");
 }
@@ -119,7 +119,7 @@ TEST_F(Tables, ARowMayHaveManyFields)
     std::string line = "1";
     for (int field = 2; field <= 50; ++field)
         line += ";" + std::to_string(field);
-    const Table table = Load("h\r\n" + line);
+    const modData::Table table = Load("h\r\n" + line);
     EXPECT_EQ(table[0].FieldCount(), 50U);
     EXPECT_EQ(table[0].Field(1), "2");
     EXPECT_EQ(Saved(table), "KolegijID;SmjerID\r\n" + line + "\r\n");
@@ -128,14 +128,14 @@ TEST_F(Tables, ARowMayHaveManyFields)
 
 TEST_F(Tables, ASemicolonTypedIntoAFieldSplitsItOnTheNextLoad)
 {
-    Table table(modData::KolegijSmjerovi.Layout());
+    modData::Table table(modData::KolegijSmjerovi.Layout());
     table.Append({"1", "a;b"});
     EXPECT_EQ(Load(Saved(table))[0].FieldCount(), 3U);
 }
 
 TEST_F(Tables, AFailedSaveLeavesTheFormerFile)
 {
-    const Table table = Load("h\r\n1;2\r\n");
+    const modData::Table table = Load("h\r\n1;2\r\n");
     std::filesystem::create_directory(TemporaryNameFor(ToPath(Path)));
     WriteBytes(TemporaryNameFor(ToPath(Path)) / "in the way", "");
     EXPECT_THROW(modData::SaveTable(Path, "KolegijID;SmjerID", table), FileError);
@@ -151,7 +151,7 @@ TEST_F(Tables, AHugeLineIsOneRow)
 
 TEST_F(Tables, AFieldThatIsMissingIsOutOfRangeAndNamesItsPlace)
 {
-    const Table table = Load("h\r\n\r\n1;2\r\n3\r\n");
+    const modData::Table table = Load("h\r\n\r\n1;2\r\n3\r\n");
     try
     {
         table[1].Field(KolegijSmjer::SmjerID);
@@ -167,7 +167,7 @@ TEST_F(Tables, AFieldThatIsMissingIsOutOfRangeAndNamesItsPlace)
 
 TEST_F(Tables, EveryLineEndOfTheFileCountsForTheLineNumber)
 {
-    const Table table = Load("h\r\r\n   \r\r\n1\n;x\r9;x");
+    const modData::Table table = Load("h\r\r\n   \r\r\n1\n;x\r9;x");
     const auto place = [&](std::size_t row) -> std::string
     {
         try
@@ -186,7 +186,7 @@ TEST_F(Tables, EveryLineEndOfTheFileCountsForTheLineNumber)
 
 TEST_F(Tables, ABadNumberNamesItsPlace)
 {
-    const Table table = Load("h\r\nx;99999999999\r\n");
+    const modData::Table table = Load("h\r\nx;99999999999\r\n");
     const auto description = [&](std::size_t column) -> std::string
     {
         try
@@ -207,7 +207,7 @@ TEST_F(Tables, ABadNumberNamesItsPlace)
 
 TEST_F(Tables, ARowEnteredInTheProgramSaysSo)
 {
-    Table table(modData::KolegijSmjerovi.Layout());
+    modData::Table table(modData::KolegijSmjerovi.Layout());
     table.Append({"a", "1"});
     try
     {
@@ -224,7 +224,7 @@ TEST_F(Tables, ARowEnteredInTheProgramSaysSo)
 
 TEST_F(Tables, TheFirstMatchWinsAndEndsTheSearch)
 {
-    const Table table = Load("h\r\n07;1\r\n7;2\r\nbad;3\r\n8;4\r\n");
+    const modData::Table table = Load("h\r\n07;1\r\n7;2\r\nbad;3\r\n8;4\r\n");
     EXPECT_EQ(table.FindFirst(0, 7)->Field(1), "1");
     EXPECT_THROW(table.FindFirst(0, 8), TypeMismatch) << "the bad row stands before it";
     EXPECT_THROW(table.FindFirst(0, 99), TypeMismatch);
@@ -232,11 +232,11 @@ TEST_F(Tables, TheFirstMatchWinsAndEndsTheSearch)
 
 TEST_F(Tables, GatheringPassesTheWholeTable)
 {
-    const Table table = Load("h\r\n7;1\r\n7.0;2\r\n\r\n7;3\r\nbad;4\r\n");
+    const modData::Table table = Load("h\r\n7;1\r\n7.0;2\r\n\r\n7;3\r\nbad;4\r\n");
     std::string gathered;
     const auto gather = [&]
     {
-        for (const Row& row : table.Matching(0, 7))
+        for (const modData::Row& row : table.Matching(0, 7))
             gathered += row.Field(1);
     };
     EXPECT_THROW(gather(), TypeMismatch);
@@ -245,7 +245,7 @@ TEST_F(Tables, GatheringPassesTheWholeTable)
 
 TEST_F(Tables, ASearchSeesEveryChange)
 {
-    Table table = Load("h\r\n1;a\r\n2;b\r\n");
+    modData::Table table = Load("h\r\n1;a\r\n2;b\r\n");
     EXPECT_EQ(table.FindFirst(0, 3), nullptr);
     table.Append({"3", "c"});
     EXPECT_EQ(table.FindFirst(0, 3)->Field(1), "c");
@@ -259,9 +259,9 @@ TEST_F(Tables, ASearchSeesEveryChange)
 
 TEST_F(Tables, SafeSearchTakesWhatIsNoNumberAsZero)
 {
-    const Table table = Load("h\r\nx;1\r\n0;2\r\n5;3\r\n");
+    const modData::Table table = Load("h\r\nx;1\r\n0;2\r\n5;3\r\n");
     std::string gathered;
-    for (const Row& row : table.Matching(0, 0, Conversion::Safe))
+    for (const modData::Row& row : table.Matching(0, 0, Conversion::Safe))
         gathered += row.Field(1);
     EXPECT_EQ(gathered, "12");
     EXPECT_EQ(table.FindFirst(0, 5, Conversion::Safe)->Field(1), "3");
@@ -269,7 +269,7 @@ TEST_F(Tables, SafeSearchTakesWhatIsNoNumberAsZero)
 
 TEST_F(Tables, RemovingStopsAtABadRowWithNothingRemoved)
 {
-    Table table = Load("h\r\n1;a\r\nbad;b\r\n1;c\r\n");
+    modData::Table table = Load("h\r\n1;a\r\nbad;b\r\n1;c\r\n");
     EXPECT_THROW(table.RemoveMatches(0, 1), TypeMismatch);
     EXPECT_EQ(table.RowCount(), 3U);
 }
@@ -278,8 +278,8 @@ TEST_F(Tables, RemovingStopsAtABadRowWithNothingRemoved)
 
 TEST_F(Tables, RemovingGoesFromTheLastRowToTheFirst)
 {
-    Table table = Load("\r\n5;1\r\nabc;2\r\n99999999999;3\r\n5;4\r\n");
-    EXPECT_THROW(table.RemoveMatches(KolegijSmjer::KolegijID, 5), Overflow);
+    modData::Table table = Load("\r\n5;1\r\nabc;2\r\n99999999999;3\r\n5;4\r\n");
+    EXPECT_THROW(table.RemoveMatches(KolegijSmjer::KolegijID, 5), OverflowError);
     EXPECT_EQ(table.RowCount(), 4U);
     table = Load("\r\n5;1\r\n6;2\r\n5;3\r\n7;4\r\n");
     table.RemoveMatches(KolegijSmjer::KolegijID, 5);
@@ -300,7 +300,7 @@ TEST_F(Tables, TheDemoCatalogueComesBackByteForByte)
 TEST_F(Tables, TheHeadersAreTheColumnNames)
 {
     Lines headers;
-    for (const Table* table : modData::AllTables())
+    for (const modData::Table* table : modData::AllTables())
         headers.push_back(std::string(table->Layout().FileName) + " " + table->Layout().Header());
     EXPECT_EQ(headers,
               (Lines{"db_zavod.csv ID;Naziv;Kratica", "db_nastavnici.csv ID;PrezimeIme;Titula;ZavodID",
@@ -329,7 +329,7 @@ TEST_F(Tables, TheNextIDIsTheLargestPlusOne)
     EXPECT_EQ(nextAfter({}), 1);
     EXPECT_EQ(nextAfter({"3;a", "17;b", "5;c"}), 18);
     EXPECT_EQ(nextAfter({"-5;a"}), 1);
-    EXPECT_THROW(nextAfter({"2147483647;a"}), Overflow);
+    EXPECT_THROW(nextAfter({"2147483647;a"}), OverflowError);
     EXPECT_THROW(nextAfter({"1;a", "x;b"}), TypeMismatch);
 }
 

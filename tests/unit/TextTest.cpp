@@ -1,4 +1,4 @@
-#include "data/Text.h"
+#include "text/Text.h"
 #include "data/Windows1250.h"
 
 #include <gtest/gtest.h>
@@ -59,9 +59,9 @@ TEST(Text, ALetterThatWindows1250LacksKeepsItsCase)
 
 TEST(Text, AWordIsFoundTrimmedAndInAnyCase)
 {
-    EXPECT_TRUE(IsWord(" Izborni ", "IZBORNI"));
-    EXPECT_FALSE(IsWord("izborni.", "IZBORNI"));
-    EXPECT_FALSE(IsWord("", "IZBORNI"));
+    EXPECT_TRUE(EqualsIgnoreCase(" Izborni ", "IZBORNI"));
+    EXPECT_FALSE(EqualsIgnoreCase("izborni.", "IZBORNI"));
+    EXPECT_FALSE(EqualsIgnoreCase("", "IZBORNI"));
 }
 
 TEST(Text, CharactersComeAndGoAsUtf8)
@@ -72,7 +72,7 @@ TEST(Text, CharactersComeAndGoAsUtf8)
     std::string written;
     while (!rest.empty())
     {
-        characters += TakeCodePoint(rest);
+        characters += DecodeUtf8(rest);
         AppendCodePoint(written, characters.back());
     }
     EXPECT_EQ(characters, U"A\u010D\u20AC\U0001F600");
@@ -87,10 +87,10 @@ TEST(Text, ABrokenByteIsOneReplacementCharacter)
     {
         std::string_view rest = broken;
         while (!rest.empty())
-            EXPECT_EQ(TakeCodePoint(rest), U'\uFFFD');
+            EXPECT_EQ(DecodeUtf8(rest), U'\uFFFD');
     }
     std::string_view rest = "\xC4z";
-    EXPECT_EQ(TakeCodePoint(rest), U'\uFFFD');
+    EXPECT_EQ(DecodeUtf8(rest), U'\uFFFD');
     EXPECT_EQ(rest, "z");
 }
 

@@ -127,7 +127,7 @@ TEST(Validation, WhatIsNoNumberOrMissingIsAnErrorNotAMessage)
     EXPECT_THROW(validateWith([](Catalogue& c) { c.Nastavnici.push_back("9;A;;"); }), TypeMismatch);
     EXPECT_THROW(validateWith([](Catalogue& c) { c.Kolegiji.push_back("9;A;;;;;;treći;1"); }), TypeMismatch);
     EXPECT_THROW(validateWith([](Catalogue& c) { c.Kolegiji.push_back("9;A;;;;;;99999999999;1"); }),
-                 Overflow);
+                 OverflowError);
     EXPECT_THROW(validateWith([](Catalogue& c) { c.Kolegiji.push_back("9;A"); }), SubscriptOutOfRange);
     EXPECT_THROW(validateWith([](Catalogue& c) { c.KolegijNastavnici.push_back("1;1;;"); }), TypeMismatch);
     EXPECT_THROW(validateWith([](Catalogue& c) { c.KolegijSmjerovi.push_back("1"); }), SubscriptOutOfRange);

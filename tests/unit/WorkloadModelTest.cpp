@@ -1,6 +1,7 @@
 #include "ects/WorkloadModel.h"
 
 #include "data/Errors.h"
+#include "support/WorkloadWarnings.h"
 
 #include <gtest/gtest.h>
 
@@ -10,16 +11,6 @@
 
 namespace
 {
-
-const char* const NoEstimate = "Odabrana je vlastita procjena literature, ali procjena nije unesena.";
-const char* const NoPages = "Odabran je normativ literature, ali broj stranica nije unesen.";
-const char* const PagesAndWords = "Za pismeni zadatak unesite ili stranice ili riječi, ne oboje.";
-const char* const NoWrittenEstimate =
-    "Odabrana je vlastita procjena pismenog zadatka, ali procjena nije unesena.";
-const char* const NoWrittenExtent = "Odabran je normativ pismenog zadatka, ali nije unesen opseg.";
-const char* const NoSelfStudy = "Unesena je kontaktna nastava, ali samostalni sati nisu uneseni.";
-const char* const NoWorkload = "Ukupno opterećenje nije uneseno.";
-const char* const NoWarning = "Nema upozorenja.";
 
 WorkloadFields Recalculated(WorkloadFields fields, const std::string& separator = ",")
 {
@@ -42,7 +33,7 @@ TEST(WorkloadModel, ShowsZerosForAnEmptyForm)
         EXPECT_EQ(fields.OstaleMetodeUkupno, zero);
         EXPECT_EQ(fields.UkupnoOpter, (std::array{zero, zero, zero, zero + "0", zero + "0"}));
         EXPECT_EQ(fields.Upozorenje, NoPages);
-        EXPECT_EQ(fields.BojaUpozorenja, Red);
+        EXPECT_EQ(fields.BojaUpozorenja, ListColours::Red);
         EXPECT_EQ(fields.KontaktniSati, (std::array<std::string, 3>{})) << "entries stay as they are";
     }
 }
@@ -242,7 +233,8 @@ TEST(WorkloadModel, WarnsOfTheFirstThingThatIsWrong)
     const auto warning = [&]
     {
         fields = Recalculated(fields);
-        EXPECT_EQ(fields.BojaUpozorenja, fields.Upozorenje == NoWarning ? Blue : Red);
+        EXPECT_EQ(fields.BojaUpozorenja,
+                  fields.Upozorenje == NoWarning ? ListColours::Blue : ListColours::Red);
         return fields.Upozorenje;
     };
 
@@ -325,9 +317,9 @@ struct Entry
 class RandomEntries
 {
 public:
-    explicit RandomEntries(unsigned seed) : Engine(seed) {}
+    explicit RandomEntries(unsigned seed) : m_engine(seed) {}
 
-    int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(Engine); }
+    int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(m_engine); }
 
     Entry Next()
     {
@@ -377,7 +369,7 @@ public:
     }
 
 private:
-    std::mt19937 Engine;
+    std::mt19937 m_engine;
 };
 
 /// A quotient of whole numbers rounded to a whole number, halves away from zero.

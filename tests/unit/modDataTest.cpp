@@ -154,7 +154,7 @@ TEST(NextKolegijID, FailsOnAnIDThatIsNoNumber)
 TEST(NextKolegijID, FailsWhereNoNumberIsLeft)
 {
     for (const char* id : {"2147483647", "2147483648", "-2147483649", "99999999999999999999"})
-        EXPECT_THROW(NextAfter(id), Overflow) << id;
+        EXPECT_THROW(NextAfter(id), OverflowError) << id;
 }
 
 // The data folder

@@ -27,7 +27,7 @@ wxFont ProgramFont()
     return font.SetFaceName("Segoe UI") ? font : systemFont;
 }
 
-void UseProgramLook(wxTopLevelWindow& window)
+void ApplyAppStyle(wxTopLevelWindow& window)
 {
     window.SetFont(ProgramFont());
     window.SetIcons(ProgramIcons());

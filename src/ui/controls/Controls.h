@@ -26,7 +26,7 @@ class wxWindow;
 wxFont ProgramFont();
 
 /// Gives a window the program's icon, and its font, which every control made in it from then on inherits.
-void UseProgramLook(wxTopLevelWindow& window);
+void ApplyAppStyle(wxTopLevelWindow& window);
 
 wxButton* NewButton(wxWindow* parent, std::string_view name, std::string_view caption);
 wxStaticText* NewLabel(wxWindow* parent, std::string_view name, std::string_view caption);

@@ -1,6 +1,6 @@
 #include "ui/controls/ListMenu.h"
 
-#include "lists/TabSeparated.h"
+#include "text/TabSeparated.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/clipbrd.h>

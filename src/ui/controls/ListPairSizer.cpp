@@ -20,7 +20,7 @@ wxSize RoomFor(const ListView& list, int rows)
 
 } // namespace
 
-ListPairSizer::ListPairSizer(ListView* courses, ListView* sums) : Courses(courses), Sums(sums)
+ListPairSizer::ListPairSizer(ListView* courses, ListView* sums) : m_courses(courses), m_sums(sums)
 {
     Add(courses);
     Add(sums);
@@ -28,15 +28,15 @@ ListPairSizer::ListPairSizer(ListView* courses, ListView* sums) : Courses(course
 
 wxSize ListPairSizer::CalcMin()
 {
-    return {Courses->GetEffectiveMinSize().x,
-            RoomFor(*Courses, FewestRows).y + Gap(Sums) + RoomFor(*Sums, FewestRows).y};
+    return {m_courses->GetEffectiveMinSize().x,
+            RoomFor(*m_courses, FewestRows).y + Gap(m_sums) + RoomFor(*m_sums, FewestRows).y};
 }
 
 void ListPairSizer::RepositionChildren(const wxSize&)
 {
-    const int gap = Gap(Sums);
-    const wxSize courses = RoomFor(*Courses, FewestRows);
-    const wxSize sums = RoomFor(*Sums, Sums->RowCount());
+    const int gap = Gap(m_sums);
+    const wxSize courses = RoomFor(*m_courses, FewestRows);
+    const wxSize sums = RoomFor(*m_sums, m_sums->RowCount());
     wxRect first(m_position, m_size);
     wxRect second(m_position, m_size);
     if (m_size.x >= courses.x + gap + sums.x)
@@ -48,10 +48,10 @@ void ListPairSizer::RepositionChildren(const wxSize&)
     else
     {
         const int room = m_size.y - gap - courses.y;
-        second.height = std::max(std::min(sums.y, room), RoomFor(*Sums, FewestRows).y);
+        second.height = std::max(std::min(sums.y, room), RoomFor(*m_sums, FewestRows).y);
         first.height = std::max(m_size.y - gap - second.height, courses.y);
         second.y += first.height + gap;
     }
-    Courses->SetSize(first);
-    Sums->SetSize(second);
+    m_courses->SetSize(first);
+    m_sums->SetSize(second);
 }

@@ -16,6 +16,6 @@ public:
     void RepositionChildren(const wxSize& minSize) override;
 
 private:
-    ListView* Courses;
-    ListView* Sums;
+    ListView* m_courses;
+    ListView* m_sums;
 };

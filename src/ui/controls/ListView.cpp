@@ -1,9 +1,9 @@
 #include "ui/controls/ListView.h"
 
+#include "ui/controls/AccessibleName.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/ListMenu.h"
 #include "ui/controls/NativeList.h"
-#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/sizer.h>
@@ -41,37 +41,37 @@ std::vector<std::size_t> PositionsOf(const ListModel& model, std::optional<ListO
 
 } // namespace
 
-ListView::ListView(wxWindow* parent, const wxString& name, std::string_view spokenName)
+ListView::ListView(wxWindow* parent, const wxString& name, std::string_view accessibleName)
     : m_model(std::make_unique<KeptRows>(std::vector<ListRow>()))
 {
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxTAB_TRAVERSAL, name);
-    Native = CreateNativeList(
+    m_native = CreateNativeList(
         *this,
         {.ColumnClicked =
              [this](int column)
          {
-             if (ColumnClicked)
-                 ColumnClicked(column);
+             if (m_columnClicked)
+                 m_columnClicked(column);
          },
          .Activated =
              [this](int)
          {
-             if (Activated)
-                 Activated();
+             if (m_activated)
+                 m_activated();
          },
          // Characters have no meaning in a list: the system must not search for them, nor activate a row.
          .KeyPressed = [this](const wxKeyEvent& key)
-         { return (KeyPressed && KeyPressed(key)) || IsCharacter(key); },
+         { return (m_keyPressed && m_keyPressed(key)) || IsCharacter(key); },
          .MenuWanted = [this](const wxPoint& place) { ShowMenu(place); }});
-    Native->Window()->Bind(wxEVT_MOTION,
-                           [this](wxMouseEvent& event)
-                           {
-                               ShowTip();
-                               event.Skip();
-                           });
-    SetSpokenName(*Native->Window(), spokenName);
+    m_native->Window()->Bind(wxEVT_MOTION,
+                             [this](wxMouseEvent& event)
+                             {
+                                 ShowTip();
+                                 event.Skip();
+                             });
+    SetAccessibleName(*m_native->Window(), accessibleName);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
-    sizer->Add(Native->Window(), wxSizerFlags(1).Expand());
+    sizer->Add(m_native->Window(), wxSizerFlags(1).Expand());
     SetSizer(sizer);
 }
 
@@ -79,52 +79,52 @@ ListView::~ListView() = default;
 
 void ListView::SetColumns(std::span<const ListColumn> columns)
 {
-    Columns = columns;
+    m_columns = columns;
     for (const ListColumn& column : columns)
     {
         const wxString caption = ToWx(column.Caption);
         const int pixels = WithTextSize(*this, FromDIP(column.Twips / TwipsPerPixel));
-        Native->AddColumn(caption, std::max(pixels, Native->CaptionWidth(caption)));
+        m_native->AddColumn(caption, std::max(pixels, m_native->CaptionWidth(caption)));
     }
-    Native->ColumnsComplete();
+    m_native->ColumnsComplete();
 }
 
 void ListView::SetEmptyText(std::string_view text)
 {
     m_emptyText = ToWx(text);
-    Native->Window()->Refresh();
+    m_native->Window()->Refresh();
 }
 
 void ListView::Show(std::unique_ptr<const ListModel> model)
 {
     m_model = std::move(model);
-    m_positions = PositionsOf(*m_model, Order);
-    Native->ShowNewRows(RowCount());
-    Native->Window()->UnsetToolTip();
+    m_positions = PositionsOf(*m_model, m_order);
+    m_native->ShowNewRows(RowCount());
+    m_native->Window()->UnsetToolTip();
 }
 
 void ListView::Show(std::unique_ptr<const ListModel> model, std::optional<std::size_t> selected)
 {
     const int former = SelectedRow();
-    const NativeList::Place place = former >= 0 ? Native->PlaceOf(former) : NativeList::Place();
+    const NativeList::Place place = former >= 0 ? m_native->PlaceOf(former) : NativeList::Place();
     Show(std::move(model));
     if (!selected)
         return;
     const int row = RowOf(*selected);
     SelectRow(row);
     if (former >= 0)
-        Native->ScrollTo(row, place);
+        m_native->ScrollTo(row, place);
 }
 
 void ListView::SortBy(ListOrder order)
 {
-    Order = order;
-    Native->ShowSortArrow(static_cast<int>(order.Column), order.Descending);
+    m_order = order;
+    m_native->ShowSortArrow(static_cast<int>(order.Column), order.Descending);
 
     const int selected = SelectedRow();
     const std::size_t kept = selected >= 0 ? ModelRow(selected) : 0;
-    m_positions = PositionsOf(*m_model, Order);
-    Native->ShowReorderedRows();
+    m_positions = PositionsOf(*m_model, m_order);
+    m_native->ShowReorderedRows();
     if (selected >= 0)
         SelectModelRow(kept);
 }
@@ -136,11 +136,11 @@ int ListView::RowOf(std::size_t modelRow) const
 
 void ListView::ShowMenu(wxPoint place)
 {
-    wxWindow* rows = Native->Window();
+    wxWindow* rows = m_native->Window();
     rows->SetFocus(); // not every system does so at a click with the right button
     if (place == wxDefaultPosition)
     {
-        const wxRect selected = SelectedRow() >= 0 ? Native->RowArea(SelectedRow()) : wxRect();
+        const wxRect selected = SelectedRow() >= 0 ? m_native->RowArea(SelectedRow()) : wxRect();
         place = rows->ClientToScreen(selected.IsEmpty() ? wxPoint() : selected.GetBottomLeft());
     }
     ShowListMenu(*this, place, m_commands);
@@ -148,16 +148,16 @@ void ListView::ShowMenu(wxPoint place)
 
 void ListView::ShowTip()
 {
-    wxWindow* rows = Native->Window();
+    wxWindow* rows = m_native->Window();
     wxString tip;
     if (const std::optional<NativeList::Cell> cell =
-            Native->CellAt(rows->ScreenToClient(wxGetMousePosition())))
+            m_native->CellAt(rows->ScreenToClient(wxGetMousePosition())))
     {
         const wxString text = CellText(cell->Row, cell->Column);
         const wxFont font = CellBold(cell->Row, cell->Column) ? rows->GetFont().Bold() : rows->GetFont();
         wxSize extent;
         rows->GetTextExtent(text, &extent.x, &extent.y, nullptr, nullptr, &font);
-        if (extent.x > Native->TextWidth(cell->Column))
+        if (extent.x > m_native->TextWidth(cell->Column))
             tip = text;
     }
     if (tip != rows->GetToolTipText())
@@ -166,12 +166,12 @@ void ListView::ShowTip()
 
 wxString ListView::ColumnCaption(int column) const
 {
-    return ToWx(Columns[Index(column)].Caption);
+    return ToWx(m_columns[Index(column)].Caption);
 }
 
 int ListView::ColumnWidth(int column) const
 {
-    return Native->ColumnWidth(column);
+    return m_native->ColumnWidth(column);
 }
 
 std::string ListView::Text(int row, int column) const
@@ -201,22 +201,22 @@ bool ListView::CellBold(int row, int column) const
 
 int ListView::SelectedRow() const
 {
-    return Native->SelectedRow();
+    return m_native->SelectedRow();
 }
 
 void ListView::SelectRow(int row)
 {
-    Native->SelectRow(row);
+    m_native->SelectRow(row);
 }
 
 void ListView::ClickColumn(int column)
 {
-    Native->ClickColumn(column);
+    m_native->ClickColumn(column);
 }
 
 void ListView::ActivateRow(int row)
 {
-    Native->ActivateRow(row);
+    m_native->ActivateRow(row);
 }
 
 wxSize ListView::DoGetBestClientSize() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <wx/containr.h>
 #include <wx/window.h>
@@ -31,8 +31,8 @@ struct ListCommand
 class ListView : public wxNavigationEnabled<wxWindow>
 {
 public:
-    /// `spokenName` is what a screen reader says for the list (UTF-8).
-    ListView(wxWindow* parent, const wxString& name, std::string_view spokenName);
+    /// `accessibleName` is what a screen reader says for the list (UTF-8).
+    ListView(wxWindow* parent, const wxString& name, std::string_view accessibleName);
     ~ListView() override;
 
     /// Sets the columns; once, before any row.
@@ -55,20 +55,20 @@ public:
     void SortBy(ListOrder order);
 
     /// What to call with the column when its header is clicked.
-    void OnColumnClick(std::function<void(int column)> handler) { ColumnClicked = std::move(handler); }
+    void OnColumnClick(std::function<void(int column)> handler) { m_columnClicked = std::move(handler); }
 
     /// What to call on a double click on a row.
-    void OnActivate(std::function<void()> handler) { Activated = std::move(handler); }
+    void OnActivate(std::function<void()> handler) { m_activated = std::move(handler); }
 
     /// What to call with a key pressed in the list; it answers whether the key is dealt with.
-    void OnKey(std::function<bool(const wxKeyEvent& key)> handler) { KeyPressed = std::move(handler); }
+    void OnKey(std::function<bool(const wxKeyEvent& key)> handler) { m_keyPressed = std::move(handler); }
 
     /// The commands of the context menu. Those that copy rows, which every list has, follow them.
     void SetCommands(std::vector<ListCommand> commands) { m_commands = std::move(commands); }
 
     // Reading the list as it is shown.
 
-    int ColumnCount() const { return static_cast<int>(Columns.size()); }
+    int ColumnCount() const { return static_cast<int>(m_columns.size()); }
     wxString ColumnCaption(int column) const;
     int ColumnWidth(int column) const; ///< In pixels.
     int RowCount() const { return static_cast<int>(m_positions.size()); }
@@ -99,14 +99,14 @@ private:
     /// Shows the whole text of the cell at the pointer as a tooltip if it is cut.
     void ShowTip();
 
-    std::span<const ListColumn> Columns;
+    std::span<const ListColumn> m_columns;
     std::unique_ptr<const ListModel> m_model;
     std::vector<std::size_t> m_positions; ///< The model's rows in the order in which they are shown.
-    std::optional<ListOrder> Order;
+    std::optional<ListOrder> m_order;
     std::vector<ListCommand> m_commands;
     wxString m_emptyText;
-    std::function<void(int)> ColumnClicked;
-    std::function<void()> Activated;
-    std::function<bool(const wxKeyEvent&)> KeyPressed;
-    std::unique_ptr<NativeList> Native;
+    std::function<void(int)> m_columnClicked;
+    std::function<void()> m_activated;
+    std::function<bool(const wxKeyEvent&)> m_keyPressed;
+    std::unique_ptr<NativeList> m_native;
 };

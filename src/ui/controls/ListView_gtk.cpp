@@ -23,14 +23,14 @@ constexpr int FillerWidth = 16;
 class Model : public wxDataViewVirtualListModel
 {
 public:
-    explicit Model(const ListView& view) : View(view) {}
+    explicit Model(const ListView& view) : m_view(view) {}
 
-    unsigned GetColumnCount() const override { return static_cast<unsigned>(View.ColumnCount()); }
+    unsigned GetColumnCount() const override { return static_cast<unsigned>(m_view.ColumnCount()); }
     wxString GetColumnType(unsigned) const override { return "string"; }
 
     void GetValueByRow(wxVariant& value, unsigned row, unsigned column) const override
     {
-        value = column < GetColumnCount() ? View.CellText(static_cast<int>(row), static_cast<int>(column))
+        value = column < GetColumnCount() ? m_view.CellText(static_cast<int>(row), static_cast<int>(column))
                                           : wxString();
     }
 
@@ -38,9 +38,9 @@ public:
     {
         if (column >= GetColumnCount())
             return false;
-        const CellStyle style = View.Style(static_cast<int>(row), static_cast<int>(column));
+        const CellStyle style = m_view.Style(static_cast<int>(row), static_cast<int>(column));
         // Black is left to the theme, whose text may be light on dark.
-        if (style.Colour != Black)
+        if (style.Colour != ListColours::Black)
             attr.SetColour(wxColour(style.Colour));
         attr.SetBold(style.Bold);
         return style != CellStyle();
@@ -49,7 +49,7 @@ public:
     bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
 
 private:
-    const ListView& View;
+    const ListView& m_view;
 };
 
 /// GTK calls this after it has painted the tree; 0 lets others paint, too.
@@ -71,46 +71,47 @@ class GtkList : public NativeList
 {
 public:
     GtkList(ListView& view, Listener listener)
-        : ToView(std::move(listener)),
-          Rows(new Model(view)),
-          Control(new wxDataViewCtrl(&view, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                                     wxDV_SINGLE | wxDV_ROW_LINES | wxDV_HORIZ_RULES | wxDV_VERT_RULES))
+        : m_toView(std::move(listener)),
+          m_rows(new Model(view)),
+          m_control(new wxDataViewCtrl(&view, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                       wxDV_SINGLE | wxDV_ROW_LINES | wxDV_HORIZ_RULES | wxDV_VERT_RULES))
     {
-        Control->AssociateModel(Rows.get());
+        m_control->AssociateModel(m_rows.get());
         // GTK's own search box would open at a character that no key event announces.
         if (const auto enableSearch =
                 NativeFunction<void (*)(GtkWidget*, int)>("gtk_tree_view_set_enable_search"))
-            enableSearch(Control->GtkGetTreeView(), 0);
+            enableSearch(m_control->GtkGetTreeView(), 0);
         if (const auto connect =
                 NativeFunction<unsigned long (*)(void*, const char*, void (*)(), void*, void*, int)>(
                     "g_signal_connect_data"))
         {
             constexpr int after = 1;
-            connect(Control->GtkGetTreeView(), "draw", reinterpret_cast<void (*)()>(&PaintEmptyText), &view,
+            connect(m_control->GtkGetTreeView(), "draw", reinterpret_cast<void (*)()>(&PaintEmptyText), &view,
                     nullptr, after);
         }
-        Control->Bind(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK,
-                      [this](wxDataViewEvent& event)
-                      {
-                          if (event.GetColumn() < static_cast<int>(Rows->GetColumnCount()))
-                              ToView.ColumnClicked(event.GetColumn());
-                      });
-        Control->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED,
-                      [this](wxDataViewEvent& event) { ToView.Activated(RowOf(event.GetItem())); });
-        Control->Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU,
-                      [this](wxDataViewEvent&) { ToView.MenuWanted(wxGetMousePosition()); });
-        Control->Bind(wxEVT_CONTEXT_MENU, // of the key
-                      [this](wxContextMenuEvent& event) { ToView.MenuWanted(event.GetPosition()); });
-        Control->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!ToView.KeyPressed(event)); });
+        m_control->Bind(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK,
+                        [this](wxDataViewEvent& event)
+                        {
+                            if (event.GetColumn() < static_cast<int>(m_rows->GetColumnCount()))
+                                m_toView.ColumnClicked(event.GetColumn());
+                        });
+        m_control->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED,
+                        [this](wxDataViewEvent& event) { m_toView.Activated(RowOf(event.GetItem())); });
+        m_control->Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU,
+                        [this](wxDataViewEvent&) { m_toView.MenuWanted(wxGetMousePosition()); });
+        m_control->Bind(wxEVT_CONTEXT_MENU, // of the key
+                        [this](wxContextMenuEvent& event) { m_toView.MenuWanted(event.GetPosition()); });
+        m_control->Bind(wxEVT_KEY_DOWN,
+                        [this](wxKeyEvent& event) { event.Skip(!m_toView.KeyPressed(event)); });
     }
 
-    wxWindow* Window() override { return Control; }
+    wxWindow* Window() override { return m_control; }
 
     void AddColumn(const wxString& caption, int pixels) override
     {
         wxDataViewColumn* column =
-            Control->AppendTextColumn(caption, Control->GetColumnCount(), wxDATAVIEW_CELL_INERT, pixels,
-                                      wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE);
+            m_control->AppendTextColumn(caption, m_control->GetColumnCount(), wxDATAVIEW_CELL_INERT, pixels,
+                                        wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE);
         column->GetRenderer()->EnableEllipsize(wxELLIPSIZE_END);
     }
 
@@ -118,62 +119,63 @@ public:
     {
         // GTK gives the last column all the width that is left: this one takes it, so that the others keep
         // theirs.
-        Control->AppendTextColumn(wxString(), Control->GetColumnCount(), wxDATAVIEW_CELL_INERT, FillerWidth);
+        m_control->AppendTextColumn(wxString(), m_control->GetColumnCount(), wxDATAVIEW_CELL_INERT,
+                                    FillerWidth);
     }
 
     int CaptionWidth(const wxString& caption) const override
     {
         constexpr int padding = 18; // what the themes leave on both sides of the bold caption
         wxSize extent;
-        Control->GetTextExtent(caption, &extent.x, &extent.y, nullptr, nullptr, &HeaderFont);
+        m_control->GetTextExtent(caption, &extent.x, &extent.y, nullptr, nullptr, &m_headerFont);
         return extent.x + padding;
     }
 
     int ColumnWidth(int column) const override
     {
-        return Control->GetColumn(static_cast<unsigned>(column))->GetWidth();
+        return m_control->GetColumn(static_cast<unsigned>(column))->GetWidth();
     }
 
     void ShowNewRows(int count) override
     {
-        Rows->Reset(static_cast<unsigned>(count));
+        m_rows->Reset(static_cast<unsigned>(count));
         if (count == 0)
             return;
         // Without a current row the focus would select the first one.
-        SetTreeCursor(Control->GtkGetTreeView(), 0);
-        Control->UnselectAll();
+        SetTreeCursor(m_control->GtkGetTreeView(), 0);
+        m_control->UnselectAll();
     }
 
     // The model has no memory of cells: repainting shows what stands where now. A reset would scroll to the
     // top.
-    void ShowReorderedRows() override { Control->Refresh(); }
+    void ShowReorderedRows() override { m_control->Refresh(); }
 
     void ShowSortArrow(int column, bool descending) override
     {
-        if (wxDataViewColumn* former = Control->GetSortingColumn())
+        if (wxDataViewColumn* former = m_control->GetSortingColumn())
             former->UnsetAsSortKey();
-        Control->GetColumn(static_cast<unsigned>(column))->SetSortOrder(!descending);
+        m_control->GetColumn(static_cast<unsigned>(column))->SetSortOrder(!descending);
     }
 
     int SelectedRow() const override
     {
-        const wxDataViewItem item = Control->GetSelection();
+        const wxDataViewItem item = m_control->GetSelection();
         return item.IsOk() ? RowOf(item) : -1;
     }
 
     void SelectRow(int row) override
     {
         if (row < 0)
-            Control->UnselectAll();
+            m_control->UnselectAll();
         else // scrolls by itself; the toolkit would scroll later, to a row that may be gone by then
-            SetTreeCursor(Control->GtkGetTreeView(), row);
+            SetTreeCursor(m_control->GtkGetTreeView(), row);
     }
 
     Place PlaceOf(int row) const override
     {
-        if (Scroll && Scroll->Row == row)
-            return Scroll->At;
-        const TreePlace place = TreePlaceOf(Control->GtkGetTreeView(), row);
+        if (m_scroll && m_scroll->Row == row)
+            return m_scroll->At;
+        const TreePlace place = TreePlaceOf(m_control->GtkGetTreeView(), row);
         if (place.Row.height <= 0)
             return {};
         const double height = place.Row.height;
@@ -183,34 +185,34 @@ public:
     void ScrollTo(int row, const Place& place) override
     {
         // GTK scrolls when it has measured the new rows, which it does before the toolkit is idle.
-        Scroll = {row, place};
-        Control->CallAfter([this] { Scroll.reset(); });
+        m_scroll = {row, place};
+        m_control->CallAfter([this] { m_scroll.reset(); });
 
         const double last = place.Page - 1; // the last place that shows a row whole
         if (place.Row >= 0 && place.Row <= last)
         {
-            ScrollTree(Control->GtkGetTreeView(), row, last > 0 ? place.Row / last : 0);
+            ScrollTree(m_control->GtkGetTreeView(), row, last > 0 ? place.Row / last : 0);
             return;
         }
         // A row that is out of sight, or cut, cannot be aligned: the first row on the screen can.
         const int first = row - static_cast<int>(std::lround(place.Row));
-        ScrollTree(Control->GtkGetTreeView(), std::clamp(first, 0, static_cast<int>(Rows->GetCount()) - 1),
-                   0);
+        ScrollTree(m_control->GtkGetTreeView(),
+                   std::clamp(first, 0, static_cast<int>(m_rows->GetCount()) - 1), 0);
     }
 
     std::optional<Cell> CellAt(const wxPoint& point) const override
     {
         wxDataViewItem item;
         wxDataViewColumn* column = nullptr;
-        Control->HitTest(point, item, column);
-        if (!item.IsOk() || column == nullptr || column->GetModelColumn() >= Rows->GetColumnCount())
+        m_control->HitTest(point, item, column);
+        if (!item.IsOk() || column == nullptr || column->GetModelColumn() >= m_rows->GetColumnCount())
             return std::nullopt;
         return Cell{RowOf(item), static_cast<int>(column->GetModelColumn())};
     }
 
     wxRect RowArea(int row) const override
     {
-        return Control->GetItemRect(Rows->GetItem(static_cast<unsigned>(row)));
+        return m_control->GetItemRect(m_rows->GetItem(static_cast<unsigned>(row)));
     }
 
     int TextWidth(int column) const override
@@ -221,17 +223,17 @@ public:
 
     void ClickColumn(int column) override
     {
-        wxDataViewEvent click(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK, Control,
-                              Control->GetColumn(static_cast<unsigned>(column)));
-        Control->ProcessWindowEvent(click);
+        wxDataViewEvent click(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK, m_control,
+                              m_control->GetColumn(static_cast<unsigned>(column)));
+        m_control->ProcessWindowEvent(click);
     }
 
     void ActivateRow(int row) override
     {
         SelectRow(row);
-        wxDataViewEvent activation(wxEVT_DATAVIEW_ITEM_ACTIVATED, Control,
-                                   Rows->GetItem(static_cast<unsigned>(row)));
-        Control->ProcessWindowEvent(activation);
+        wxDataViewEvent activation(wxEVT_DATAVIEW_ITEM_ACTIVATED, m_control,
+                                   m_rows->GetItem(static_cast<unsigned>(row)));
+        m_control->ProcessWindowEvent(activation);
     }
 
 private:
@@ -241,13 +243,13 @@ private:
         Place At;
     };
 
-    int RowOf(const wxDataViewItem& item) const { return static_cast<int>(Rows->GetRow(item)); }
+    int RowOf(const wxDataViewItem& item) const { return static_cast<int>(m_rows->GetRow(item)); }
 
-    Listener ToView;
-    wxObjectDataPtr<Model> Rows;
-    wxDataViewCtrl* Control;
-    std::optional<RowAtPlace> Scroll; // that GTK has yet to do
-    wxFont HeaderFont = Control->GetFont().Bold();
+    Listener m_toView;
+    wxObjectDataPtr<Model> m_rows;
+    wxDataViewCtrl* m_control;
+    std::optional<RowAtPlace> m_scroll; // that GTK has yet to do
+    wxFont m_headerFont = m_control->GetFont().Bold();
 };
 
 } // namespace

@@ -26,19 +26,19 @@ public:
     MswList(ListView& view, Listener listener)
         : wxListCtrl(&view, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                      wxLC_REPORT | wxLC_VIRTUAL | wxLC_SINGLE_SEL),
-          View(view),
-          ToView(std::move(listener))
+          m_view(view),
+          m_toView(std::move(listener))
     {
         Bind(wxEVT_LIST_COL_CLICK,
              [this](wxListEvent& event)
              {
                  if (event.GetColumn() >= 0)
-                     ToView.ColumnClicked(event.GetColumn());
+                     m_toView.ColumnClicked(event.GetColumn());
              });
-        Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent& event) { ToView.Activated(event.GetIndex()); });
+        Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent& event) { m_toView.Activated(event.GetIndex()); });
         Bind(wxEVT_CONTEXT_MENU,
-             [this](wxContextMenuEvent& event) { ToView.MenuWanted(event.GetPosition()); });
-        Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!ToView.KeyPressed(event)); });
+             [this](wxContextMenuEvent& event) { m_toView.MenuWanted(event.GetPosition()); });
+        Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { event.Skip(!m_toView.KeyPressed(event)); });
     }
 
     wxWindow* Window() override { return this; }
@@ -163,14 +163,14 @@ protected:
             return 0;
         }
         const WXLRESULT result = wxListCtrl::MSWWindowProc(message, word, data);
-        if (View.RowCount() == 0 && (message == WM_SIZE || message == WM_HSCROLL))
+        if (m_view.RowCount() == 0 && (message == WM_SIZE || message == WM_HSCROLL))
             Refresh(); // the text of the empty list stays in the middle
         return result;
     }
 
     wxString OnGetItemText(long row, long column) const override
     {
-        return IsShown(row) ? View.CellText(static_cast<int>(row), static_cast<int>(column)) : wxString();
+        return IsShown(row) ? m_view.CellText(static_cast<int>(row), static_cast<int>(column)) : wxString();
     }
 
     int OnGetItemImage(long) const override { return NoImage; }
@@ -179,15 +179,15 @@ protected:
 
     wxItemAttr* OnGetItemColumnAttr(long row, long column) const override
     {
-        Attributes = wxItemAttr();
+        m_attributes = wxItemAttr();
         if (!IsShown(row))
-            return &Attributes;
-        const CellStyle style = View.Style(static_cast<int>(row), static_cast<int>(column));
-        if (style.Colour != Black)
-            Attributes.SetTextColour(wxColour(style.Colour));
+            return &m_attributes;
+        const CellStyle style = m_view.Style(static_cast<int>(row), static_cast<int>(column));
+        if (style.Colour != ListColours::Black)
+            m_attributes.SetTextColour(wxColour(style.Colour));
         if (style.Bold)
-            Attributes.SetFont(GetFont().Bold());
-        return &Attributes;
+            m_attributes.SetFont(GetFont().Bold());
+        return &m_attributes;
     }
 
 private:
@@ -195,7 +195,7 @@ private:
     static constexpr int NoRow = -1;
 
     /// While the rows are replaced by fewer, the control still asks for some that are gone.
-    bool IsShown(long row) const { return row < View.RowCount(); }
+    bool IsShown(long row) const { return row < m_view.RowCount(); }
 
     /// Paints in memory first: painted in place, the list would be empty for a moment at every refresh.
     void PaintBuffered()
@@ -210,7 +210,7 @@ private:
         MSWDefWindowProc(WM_PAINT, memory, 0);
         RECT header = {};
         ::GetClientRect(ListView_GetHeader(GetHWND()), &header);
-        if (View.RowCount() == 0)
+        if (m_view.RowCount() == 0)
             DrawEmptyText(canvas, static_cast<int>(header.bottom));
         else
             DrawGrid(canvas);
@@ -242,14 +242,15 @@ private:
     {
         canvas.SetFont(GetFont());
         canvas.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
-        canvas.DrawLabel(View.EmptyText(),
+        canvas.DrawLabel(m_view.EmptyText(),
                          wxRect(0, top + GetCharHeight(), GetClientSize().x, GetCharHeight()),
                          wxALIGN_CENTRE_HORIZONTAL);
     }
 
-    ListView& View;
-    Listener ToView;
-    mutable wxItemAttr Attributes; // of the cell asked for last: the list takes it over before it asks again
+    ListView& m_view;
+    Listener m_toView;
+    mutable wxItemAttr
+        m_attributes; // of the cell asked for last: the list takes it over before it asks again
 };
 
 } // namespace

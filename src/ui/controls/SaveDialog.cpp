@@ -1,7 +1,7 @@
 #include "ui/controls/SaveDialog.h"
 
 #include "data/Files.h"
-#include "data/Text.h"
+#include "text/Text.h"
 #include "ui/controls/Messages.h"
 #include "ui/controls/Strings.h"
 

@@ -1,9 +1,10 @@
 #include "ui/course_editor/CourseEntry.h"
 
-#include "data/Numbers.h"
-#include "data/Text.h"
+#include "data/CheckedNumbers.h"
+#include "data/TableChoices.h"
 #include "data/modData.h"
-#include "lists/TableChoices.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <string_view>
@@ -28,26 +29,26 @@ constexpr NumberField NumberFields[] = {
 constexpr EntryField NastavnikFields[] = {EntryField::Nastavnik1, EntryField::Nastavnik2,
                                           EntryField::Nastavnik3};
 
-std::optional<EntryFault> CheckNumber(const NumberField& field, const std::string& text)
+std::optional<ValidationError> CheckNumber(const NumberField& field, const std::string& text)
 {
     std::int32_t value = 0;
-    if (ReadLong(text, value) != NumberReading::Whole)
-        return EntryFault{field.Field, std::string(field.Name) + " mora biti broj."};
+    if (ParseLong(text, value) != NumberKind::Whole)
+        return ValidationError{field.Field, std::string(field.Name) + " mora biti broj."};
     if (value < 0)
-        return EntryFault{field.Field, std::string(field.Name) + " mora biti nenegativan broj."};
+        return ValidationError{field.Field, std::string(field.Name) + " mora biti nenegativan broj."};
     return std::nullopt;
 }
 
-std::optional<EntryFault> CheckNositelji(const CourseEntry& entry)
+std::optional<ValidationError> CheckNositelji(const CourseEntry& entry)
 {
     const auto& ids = entry.NastavnikIDs;
     if (ids == std::array<std::optional<std::int32_t>, NositeljPlaces>{})
-        return EntryFault{NastavnikFields[0], "Odaberite barem jednog nastavnika."};
+        return ValidationError{NastavnikFields[0], "Odaberite barem jednog nastavnika."};
     for (std::size_t later = 1; later < ids.size(); ++later)
         for (std::size_t earlier = 0; earlier < later; ++earlier)
             if (ids[earlier].value_or(0) != 0 && ids[earlier] == ids[later])
-                return EntryFault{NastavnikFields[later],
-                                  "Ne možete odabrati istog nastavnika više puta. Promijenite odabir."};
+                return ValidationError{NastavnikFields[later],
+                                       "Ne možete odabrati istog nastavnika više puta. Promijenite odabir."};
     return std::nullopt;
 }
 
@@ -77,7 +78,8 @@ std::array<std::optional<std::int32_t>, NositeljPlaces> NositeljiOf(std::int32_t
 {
     const std::vector<Choice> offered = NamedNastavnikChoices();
     std::array<std::optional<std::int32_t>, NositeljPlaces> ids;
-    for (const Row& link : modData::KolegijNastavnici.Matching(KolegijNastavnik::KolegijID, kolegijID))
+    for (const modData::Row& link :
+         modData::KolegijNastavnici.Matching(KolegijNastavnik::KolegijID, kolegijID))
     {
         const std::int32_t place = link.Number(KolegijNastavnik::Redoslijed);
         if (place < 1 || place > static_cast<std::int32_t>(NositeljPlaces))
@@ -91,19 +93,19 @@ std::array<std::optional<std::int32_t>, NositeljPlaces> NositeljiOf(std::int32_t
 
 } // namespace
 
-std::optional<EntryFault> CheckEntry(const CourseEntry& entry)
+std::optional<ValidationError> CheckEntry(const CourseEntry& entry)
 {
     if (TrimBlanks(entry.Naziv).empty())
-        return EntryFault{EntryField::Naziv, "Unesite naziv kolegija."};
+        return ValidationError{EntryField::Naziv, "Unesite naziv kolegija."};
     for (const NumberField& field : NumberFields)
-        if (std::optional<EntryFault> fault = CheckNumber(field, entry.*field.Text))
+        if (std::optional<ValidationError> fault = CheckNumber(field, entry.*field.Text))
             return fault;
     if (entry.Semestar.empty())
-        return EntryFault{EntryField::Semestar, "Odaberite semestar."};
-    if (!IsWord(entry.Tip, "IZBORNI") && !IsWord(entry.Tip, "OBVEZNI"))
-        return EntryFault{EntryField::Tip, "Odaberite tip kolegija (obvezni/izborni)."};
+        return ValidationError{EntryField::Semestar, "Odaberite semestar."};
+    if (!EqualsIgnoreCase(entry.Tip, "IZBORNI") && !EqualsIgnoreCase(entry.Tip, "OBVEZNI"))
+        return ValidationError{EntryField::Tip, "Odaberite tip kolegija (obvezni/izborni)."};
     if (entry.SmjerIDs.empty())
-        return EntryFault{EntryField::Smjerovi, "Odaberite barem jedan smjer."};
+        return ValidationError{EntryField::Smjerovi, "Odaberite barem jedan smjer."};
     return CheckNositelji(entry);
 }
 
@@ -127,7 +129,7 @@ void ReplaceKolegij(std::int32_t id, const CourseEntry& entry)
 
 std::optional<CourseEntry> EntryOf(std::int32_t kolegijID)
 {
-    const Row* kolegij = modData::Kolegiji.FindFirst(Kolegij::ID, kolegijID);
+    const modData::Row* kolegij = modData::Kolegiji.FindFirst(Kolegij::ID, kolegijID);
     if (kolegij == nullptr)
         return std::nullopt;
 
@@ -139,7 +141,7 @@ std::optional<CourseEntry> EntryOf(std::int32_t kolegijID)
     entry.ECTS = kolegij->Field(Kolegij::ECTS);
     entry.Tip = kolegij->Field(Kolegij::Tip);
     entry.Semestar = kolegij->Field(Kolegij::Semestar);
-    for (const Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
+    for (const modData::Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
         entry.SmjerIDs.push_back(link.Number(KolegijSmjer::SmjerID));
     entry.NastavnikIDs = NositeljiOf(kolegijID);
     return entry;

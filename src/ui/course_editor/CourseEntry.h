@@ -43,14 +43,14 @@ enum class EntryField
 };
 
 /// What is wrong with an entry, and where.
-struct EntryFault
+struct ValidationError
 {
     EntryField Field;
     std::string Message;
 };
 
 /// The first thing that is wrong with an entry, in the order of the checks; nothing when it may be saved.
-std::optional<EntryFault> CheckEntry(const CourseEntry& entry);
+std::optional<ValidationError> CheckEntry(const CourseEntry& entry);
 
 /// Adds an entry that has passed its checks as a new course, with its links behind all others.
 /// @throws DataError for a course ID in the table that cannot be read

@@ -1,7 +1,7 @@
 #include "ui/course_editor/frmKolegij.h"
 
-#include "data/Numbers.h"
-#include "lists/TableChoices.h"
+#include "data/CheckedNumbers.h"
+#include "data/TableChoices.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
@@ -46,7 +46,7 @@ frmKolegij::frmKolegij(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Title), wxDefaultPosition, wxDefaultSize,
            wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, "frmKolegij");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
 
     // The controls are made in tab order: fields, lists, buttons.
     auto* content = new wxBoxSizer(wxVERTICAL);
@@ -160,11 +160,11 @@ int frmKolegij::ShowModal()
 void frmKolegij::Form_Load()
 {
     // The handed level and study hold even where a box shows another entry.
-    CurrentRazina = StartRazina;
-    CurrentStudijID = StartStudijID;
+    m_currentRazina = StartRazina;
+    m_currentStudijID = StartStudijID;
     FillRazinaCombo();
     FillProgramCombo();
-    if (!SelectData(*cboProgram, CurrentStudijID))
+    if (!SelectData(*cboProgram, m_currentStudijID))
         SelectFirst(*cboProgram);
     FillChoices(*cboObvezniIzborni, {{"obvezni"}, {"izborni"}});
     FillSemestarList();
@@ -181,23 +181,23 @@ void frmKolegij::FillRazinaCombo()
 {
     FillChoices(*cboRazina, RazinaChoices());
     constexpr bool exactly = true;
-    const int level = cboRazina->FindString(ToWx(CurrentRazina), exactly);
+    const int level = cboRazina->FindString(ToWx(m_currentRazina), exactly);
     cboRazina->SetSelection(level == wxNOT_FOUND ? 0 : level);
 }
 
 void frmKolegij::FillProgramCombo()
 {
-    FillChoices(*cboProgram, StudijChoices(CurrentRazina, RazinaMatch::Trimmed));
+    FillChoices(*cboProgram, StudijChoices(m_currentRazina, RazinaMatch::Trimmed));
 }
 
 void frmKolegij::FillSemestarList()
 {
-    FillChoices(*lstSemestar, SemestarChoices(CurrentRazina));
+    FillChoices(*lstSemestar, SemestarChoices(m_currentRazina));
 }
 
 void frmKolegij::FillSmjerList()
 {
-    FillChoices(*lstSmjerovi, SmjerChoices(CurrentStudijID));
+    FillChoices(*lstSmjerovi, SmjerChoices(m_currentStudijID));
 }
 
 void frmKolegij::ShowKolegij(const CourseEntry& entry)
@@ -218,10 +218,10 @@ void frmKolegij::ShowKolegij(const CourseEntry& entry)
 
 void frmKolegij::cboRazina_Click()
 {
-    CurrentRazina = ChosenText(*cboRazina);
+    m_currentRazina = ChosenText(*cboRazina);
     FillProgramCombo();
     SelectFirst(*cboProgram);
-    CurrentStudijID = SelectedData(*cboProgram);
+    m_currentStudijID = SelectedData(*cboProgram);
     FillSemestarList();
     FillSmjerList();
 }
@@ -230,14 +230,14 @@ void frmKolegij::cboProgram_Click()
 {
     if (cboProgram->GetSelection() == wxNOT_FOUND)
         return;
-    CurrentStudijID = SelectedData(*cboProgram);
+    m_currentStudijID = SelectedData(*cboProgram);
     FillSmjerList();
 }
 
 void frmKolegij::cmdSave_Click()
 {
     const CourseEntry entry = CurrentEntry();
-    if (const std::optional<EntryFault> fault = CheckEntry(entry))
+    if (const std::optional<ValidationError> fault = CheckEntry(entry))
     {
         ShowWarning(this, fault->Message, Title);
         ControlOf(fault->Field)->SetFocus();
@@ -265,7 +265,7 @@ CourseEntry frmKolegij::CurrentEntry() const
     entry.ECTS = ToUtf8(txtECTS->GetValue());
     entry.Tip = ToUtf8(cboObvezniIzborni->GetValue());
     entry.Semestar = ChosenText(*lstSemestar);
-    entry.StudijID = CurrentStudijID;
+    entry.StudijID = m_currentStudijID;
     wxArrayInt selected;
     lstSmjerovi->GetSelections(selected);
     for (const int position : selected)

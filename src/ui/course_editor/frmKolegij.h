@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/Choice.h"
+#include "data/Choice.h"
 #include "ui/course_editor/CourseEntry.h"
 
 #include <wx/dialog.h>
@@ -61,8 +61,8 @@ private:
     CourseEntry CurrentEntry() const;
     wxWindow* ControlOf(EntryField field) const;
 
-    std::string CurrentRazina;
-    std::int32_t CurrentStudijID = 0;
+    std::string m_currentRazina;
+    std::int32_t m_currentStudijID = 0;
 
     // Controls
     wxTextCtrl* txtNaziv;

@@ -1,8 +1,10 @@
 #include "ui/department_stats/DepartmentStatistics.h"
 
+#include "data/CheckedNumbers.h"
+#include "data/Choice.h"
 #include "data/modData.h"
-#include "lists/Choice.h"
-#include "statistics/TaughtCourses.h"
+#include "text/Numbers.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 namespace
 {
@@ -11,11 +13,11 @@ bool PassesRazina(std::int32_t studijID, std::string_view wanted)
 {
     if (wanted == Svi)
         return true;
-    const Row* studij = modData::Studiji.FindFirst(Studij::ID, studijID, Conversion::Safe);
+    const modData::Row* studij = modData::Studiji.FindFirst(Studij::ID, studijID, Conversion::Safe);
     return studij != nullptr && studij->Field(Studij::Razina) == wanted;
 }
 
-bool Passes(const Row& kolegij, const DepartmentFilter& filter)
+bool Passes(const modData::Row& kolegij, const DepartmentFilter& filter)
 {
     return PassesSemestar(kolegij.Number(Kolegij::Semestar, Conversion::Safe), filter.Semestar) &&
            PassesRazina(kolegij.Number(Kolegij::StudijID, Conversion::Safe), filter.Razina);
@@ -24,13 +26,14 @@ bool Passes(const Row& kolegij, const DepartmentFilter& filter)
 /// Calls `visit` with each course of each of the department's lecturers.
 void ForEachCourseOfZavod(std::int32_t zavodID, const CourseVisitor& visit)
 {
-    for (const Row& nastavnik : modData::Nastavnici.Matching(Nastavnik::ZavodID, zavodID, Conversion::Safe))
+    for (const modData::Row& nastavnik :
+         modData::Nastavnici.Matching(Nastavnik::ZavodID, zavodID, Conversion::Safe))
         ForEachCourseOfNastavnik(nastavnik.Number(Nastavnik::ID, Conversion::Safe), Conversion::Safe, visit);
 }
 
 TeachingStatistic StatisticOf(const DepartmentFilter& filter)
 {
-    return {.Passes = [&filter](const Row& kolegij) { return Passes(kolegij, filter); },
+    return {.Passes = [&filter](const modData::Row& kolegij) { return Passes(kolegij, filter); },
             .ForEachTaughtCourse = ForEachCourseOfZavod,
             .Numbers = Conversion::Safe,
             .ShownHours = Conversion::Safe,
@@ -49,7 +52,7 @@ std::vector<ListRow> DepartmentCourseRows(std::int32_t zavodID, const Department
     return TaughtCourseRows(StatisticOf(filter), zavodID);
 }
 
-std::vector<ListRow> DepartmentLoadRows(std::int32_t zavodID, const DepartmentFilter& filter)
+std::vector<ListRow> DepartmentTeachingLoadRows(std::int32_t zavodID, const DepartmentFilter& filter)
 {
     return TeachingLoadRows(StatisticOf(filter), zavodID);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <cstdint>
 #include <string>
@@ -23,7 +23,7 @@ struct DepartmentFilter
 std::vector<ListRow> DepartmentCourseRows(std::int32_t zavodID, const DepartmentFilter& filter);
 
 /// The department's table of load: a type that is neither "obvezni" nor "izborni" is not counted.
-std::vector<ListRow> DepartmentLoadRows(std::int32_t zavodID, const DepartmentFilter& filter);
+std::vector<ListRow> DepartmentTeachingLoadRows(std::int32_t zavodID, const DepartmentFilter& filter);
 
 /// Writes the tables of all departments. @throws also FileError, and an older file stays
 void ExportAllDepartments(std::string_view path, const DepartmentFilter& filter);

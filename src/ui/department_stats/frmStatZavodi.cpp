@@ -1,7 +1,6 @@
 #include "ui/department_stats/frmStatZavodi.h"
 
-#include "lists/TableChoices.h"
-#include "statistics/TaughtCourses.h"
+#include "data/TableChoices.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
@@ -10,6 +9,7 @@
 #include "ui/controls/ListView.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 #include <wx/button.h>
 #include <wx/choice.h>
@@ -40,7 +40,7 @@ frmStatZavodi::frmStatZavodi(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmStatZavodi");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: filters, lists, buttons.
@@ -137,7 +137,7 @@ void frmStatZavodi::ShowSelected()
             return;
     const std::int32_t zavodID = SelectedData(*cboZavodi);
     lvwKolegiji->ShowRows(DepartmentCourseRows(zavodID, CurrentFilter()));
-    lvwStatZavod->ShowRows(DepartmentLoadRows(zavodID, CurrentFilter()));
+    lvwStatZavod->ShowRows(DepartmentTeachingLoadRows(zavodID, CurrentFilter()));
     Panel->Layout(); // the sums are as high as their rows
 }
 

@@ -1,15 +1,15 @@
 #include "ui/lecturer_stats/LecturerStatistics.h"
 
+#include "data/Choice.h"
 #include "data/modData.h"
-#include "lists/Choice.h"
-#include "statistics/TaughtCourses.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 namespace
 {
 
-bool Passes(const Row& kolegij, const LecturerFilter& filter)
+bool Passes(const modData::Row& kolegij, const LecturerFilter& filter)
 {
-    const Row* studij = modData::Studiji.FindFirst(Studij::ID, kolegij.Number(Kolegij::StudijID));
+    const modData::Row* studij = modData::Studiji.FindFirst(Studij::ID, kolegij.Number(Kolegij::StudijID));
     const std::string_view razina = studij == nullptr ? "" : studij->Field(Studij::Razina);
     const std::string_view kratica = studij == nullptr ? "" : studij->Field(Studij::Kratica);
     return (filter.Razina == Svi || filter.Razina == razina) &&
@@ -18,7 +18,7 @@ bool Passes(const Row& kolegij, const LecturerFilter& filter)
 
 TeachingStatistic StatisticOf(const LecturerFilter& filter)
 {
-    return {.Passes = [&filter](const Row& kolegij) { return Passes(kolegij, filter); },
+    return {.Passes = [&filter](const modData::Row& kolegij) { return Passes(kolegij, filter); },
             .ForEachTaughtCourse = [](std::int32_t nastavnikID, const CourseVisitor& visit)
             { ForEachCourseOfNastavnik(nastavnikID, Conversion::Strict, visit); },
             .Numbers = Conversion::Strict,
@@ -38,7 +38,7 @@ std::vector<ListRow> LecturerCourseRows(std::int32_t nastavnikID, const Lecturer
     return TaughtCourseRows(StatisticOf(filter), nastavnikID);
 }
 
-std::vector<ListRow> LecturerLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter)
+std::vector<ListRow> LecturerTeachingLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter)
 {
     return TeachingLoadRows(StatisticOf(filter), nastavnikID);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <cstdint>
 #include <string>
@@ -21,7 +21,7 @@ struct LecturerFilter
 std::vector<ListRow> LecturerCourseRows(std::int32_t nastavnikID, const LecturerFilter& filter);
 
 /// The lecturer's table of load: every type but "obvezni" counts as elective.
-std::vector<ListRow> LecturerLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter);
+std::vector<ListRow> LecturerTeachingLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter);
 
 /// Writes the tables of all lecturers. Here hours and credits that are not numeric count as 0.
 /// @throws also FileError, and an older file stays

@@ -1,7 +1,6 @@
 #include "ui/lecturer_stats/frmStatNositelji.h"
 
-#include "lists/TableChoices.h"
-#include "statistics/TaughtCourses.h"
+#include "data/TableChoices.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
@@ -10,6 +9,7 @@
 #include "ui/controls/ListView.h"
 #include "ui/controls/SortMemory.h"
 #include "ui/controls/Strings.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 #include <wx/button.h>
 #include <wx/choice.h>
@@ -42,7 +42,7 @@ frmStatNositelji::frmStatNositelji(wxWindow* parent)
 {
     Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmStatNositelji");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: lecturers, filters, lists, buttons.
@@ -129,8 +129,8 @@ LecturerFilter frmStatNositelji::CurrentFilter() const
 void frmStatNositelji::ShowSelected()
 {
     lvwKolegiji->SetEmptyText(NoCourses);
-    lvwKolegiji->ShowRows(LecturerCourseRows(SelectedNastavnikID, CurrentFilter()));
-    lvwStat->ShowRows(LecturerLoadRows(SelectedNastavnikID, CurrentFilter()));
+    lvwKolegiji->ShowRows(LecturerCourseRows(m_selectedNastavnikID, CurrentFilter()));
+    lvwStat->ShowRows(LecturerTeachingLoadRows(m_selectedNastavnikID, CurrentFilter()));
     Panel->Layout(); // the sums are as high as their rows
 }
 
@@ -138,7 +138,7 @@ void frmStatNositelji::lstNastavnici_Click()
 {
     if (lstNastavnici->GetSelection() == wxNOT_FOUND)
         return;
-    SelectedNastavnikID = SelectedData(*lstNastavnici);
+    m_selectedNastavnikID = SelectedData(*lstNastavnici);
     ShowSelected();
 }
 

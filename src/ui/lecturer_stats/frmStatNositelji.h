@@ -42,7 +42,7 @@ private:
     void cmdExportAllStat_Click();
     void cmdClose_Click();
 
-    std::int32_t SelectedNastavnikID = 0; ///< Of the last click in the list.
+    std::int32_t m_selectedNastavnikID = 0; ///< Of the last click in the list.
 
     // Controls
     wxPanel* Panel;

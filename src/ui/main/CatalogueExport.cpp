@@ -2,8 +2,8 @@
 
 #include "data/Files.h"
 #include "data/Lookups.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 #include <string>
 #include <vector>
@@ -14,7 +14,7 @@ namespace
 constexpr std::string_view Header =
     "ID_kolegij;Nositelj1;Nositelj2;Nositelj3;Kolegij;P;S;V;ECTS;Smjer;O_I;Program;Semestar;P_D";
 
-std::string ExportLine(const Row& kolegij)
+std::string ExportLine(const modData::Row& kolegij)
 {
     const std::int32_t id = kolegij.Number(Kolegij::ID);
     const std::int32_t studijID = kolegij.Number(Kolegij::StudijID);
@@ -38,7 +38,7 @@ void ExportKolegijiToCSV(std::string_view path)
 {
     TextFile file;
     file.AddLine(Header);
-    for (const Row& kolegij : modData::Kolegiji)
+    for (const modData::Row& kolegij : modData::Kolegiji)
         file.AddLine(ExportLine(kolegij));
     file.SaveAs(path);
 }

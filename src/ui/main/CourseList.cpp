@@ -1,10 +1,11 @@
 #include "ui/main/CourseList.h"
 
+#include "data/CheckedNumbers.h"
 #include "data/Errors.h"
 #include "data/Lookups.h"
-#include "data/Numbers.h"
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +24,7 @@ enum LookedUpColumn : std::size_t
 };
 static_assert(std::size(CourseListColumns) == NastavniciColumn + 1);
 
-std::string CellText(const Row& kolegij, std::size_t column)
+std::string CellText(const modData::Row& kolegij, std::size_t column)
 {
     switch (column)
     {
@@ -40,7 +41,7 @@ std::string CellText(const Row& kolegij, std::size_t column)
 
 /// Makes sure that every cell of a course can be shown. The study, the course's last field, comes first: of
 /// several errors in a row its own is reported. A search has read the lecturers already. @throws DataError
-void RequireCells(const Row& kolegij, bool isSearched)
+void RequireCells(const modData::Row& kolegij, bool isSearched)
 {
     static_cast<void>(CellText(kolegij, StudijColumn));
     static_cast<void>(CellText(kolegij, SmjeroviColumn));
@@ -57,10 +58,10 @@ void AppendNastavnici(std::string& text, std::int32_t kolegijID)
 }
 
 /// Whether a course has this ID; an ID that is no number is none.
-bool HasID(const Row& kolegij, std::int32_t id)
+bool HasID(const modData::Row& kolegij, std::int32_t id)
 {
     std::int32_t read = 0;
-    return ReadLong(kolegij.Field(Kolegij::ID), read) == NumberReading::Whole && read == id;
+    return ParseLong(kolegij.Field(Kolegij::ID), read) == NumberKind::Whole && read == id;
 }
 
 } // namespace
@@ -79,7 +80,7 @@ bool Search::Matches(std::size_t position)
     return *verdict;
 }
 
-bool MatchesSearch(const Row& kolegij, std::string_view search)
+bool MatchesSearch(const modData::Row& kolegij, std::string_view search)
 {
     if (search.empty())
         return true;
@@ -93,7 +94,7 @@ bool MatchesSearch(const Row& kolegij, std::string_view search)
     return searched.find(search) != std::string::npos;
 }
 
-bool PassesBoxes(const Row& kolegij, const CourseFilter& filter)
+bool PassesBoxes(const modData::Row& kolegij, const CourseFilter& filter)
 {
     return (filter.StudijID == 0 || kolegij.Number(Kolegij::StudijID) == filter.StudijID) &&
            (filter.Semestar == 0 || kolegij.Number(Kolegij::Semestar) == filter.Semestar);
@@ -104,7 +105,7 @@ std::vector<std::uint32_t> CoursesThatPass(const CourseFilter& filter, Search& s
     std::vector<std::uint32_t> passing;
     for (std::uint32_t position = 0; position < modData::Kolegiji.RowCount(); ++position)
     {
-        const Row& kolegij = modData::Kolegiji[position];
+        const modData::Row& kolegij = modData::Kolegiji[position];
         if (!PassesBoxes(kolegij, filter) || !search.Matches(position) ||
             (filter.SmjerID != 0 && !KolegijHasSmjer(kolegij.Number(Kolegij::ID), filter.SmjerID)))
             continue;
@@ -129,7 +130,7 @@ std::string CourseListModel::Text(std::size_t row, std::size_t column) const
         return m_ids[row];
     try
     {
-        const Row* kolegij = CourseOf(row);
+        const modData::Row* kolegij = CourseOf(row);
         return kolegij == nullptr ? std::string() : CellText(*kolegij, column);
     }
     catch (const DataError&)
@@ -140,7 +141,7 @@ std::string CourseListModel::Text(std::size_t row, std::size_t column) const
 
 CellStyle CourseListModel::Style(std::size_t row, std::size_t) const
 {
-    const Row* kolegij = CourseOf(row);
+    const modData::Row* kolegij = CourseOf(row);
     if (kolegij == nullptr || kolegij->FieldCount() <= Kolegij::Tip)
         return {};
     return {.Colour = ElectiveColour(kolegij->Field(Kolegij::Tip))};
@@ -171,14 +172,14 @@ std::optional<std::size_t> CourseListModel::RowOf(const CourseMark& course) cons
     return std::nullopt;
 }
 
-const Row* CourseListModel::CourseOf(std::size_t row) const
+const modData::Row* CourseListModel::CourseOf(std::size_t row) const
 {
     return modData::Kolegiji.RowCount() == m_tableRows ? &modData::Kolegiji[m_positions[row]] : nullptr;
 }
 
 bool KolegijHasSmjer(std::int32_t kolegijID, std::int32_t smjerID)
 {
-    for (const Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
+    for (const modData::Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
         if (link.Number(KolegijSmjer::SmjerID) == smjerID)
             return true;
     return false;
@@ -187,8 +188,9 @@ bool KolegijHasSmjer(std::int32_t kolegijID, std::int32_t smjerID)
 std::string GetSmjeroviForKolegijString(std::int32_t kolegijID)
 {
     std::string joined;
-    for (const Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
-        if (const Row* smjer = modData::Smjerovi.FindFirst(Smjer::ID, link.Number(KolegijSmjer::SmjerID)))
+    for (const modData::Row& link : modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
+        if (const modData::Row* smjer =
+                modData::Smjerovi.FindFirst(Smjer::ID, link.Number(KolegijSmjer::SmjerID)))
             AppendJoined(joined, ", ", smjer->Field(Smjer::Kratica));
     return joined;
 }
@@ -203,9 +205,10 @@ std::string GetNastavniciForKolegijString(std::int32_t kolegijID)
 std::string GetNositelji123String(std::int32_t kolegijID)
 {
     std::array<std::string, 3> names;
-    for (const Row& link : modData::KolegijNastavnici.Matching(KolegijNastavnik::KolegijID, kolegijID))
+    for (const modData::Row& link :
+         modData::KolegijNastavnici.Matching(KolegijNastavnik::KolegijID, kolegijID))
     {
-        if (!IsWord(link.Field(KolegijNastavnik::Uloga), "NOSITELJ"))
+        if (!EqualsIgnoreCase(link.Field(KolegijNastavnik::Uloga), "NOSITELJ"))
             continue;
         const std::int32_t redoslijed = link.Number(KolegijNastavnik::Redoslijed);
         if (redoslijed >= 1 && redoslijed <= 3)

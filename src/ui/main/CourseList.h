@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/Table.h"
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <cstdint>
 #include <optional>
@@ -48,11 +48,11 @@ private:
 
 /// The search rule: a course matches when the text occurs in its title, credits, type or lecturers, upper and
 /// lower case alike. `search` is trimmed and in upper case already; an empty one matches every course.
-bool MatchesSearch(const Row& kolegij, std::string_view search);
+bool MatchesSearch(const modData::Row& kolegij, std::string_view search);
 
 /// Whether a course passes the boxes of study and semester. The direction is up to the caller: the list asks
 /// for a link, the sums count the links.
-bool PassesBoxes(const Row& kolegij, const CourseFilter& filter);
+bool PassesBoxes(const modData::Row& kolegij, const CourseFilter& filter);
 
 /// The positions of the courses that pass the filter. Throws also for a number that a course's row needs: an
 /// error ends the refresh, never the painting.
@@ -85,7 +85,7 @@ public:
     std::optional<std::size_t> RowOf(const CourseMark& course) const;
 
 private:
-    const Row* CourseOf(std::size_t row) const;
+    const modData::Row* CourseOf(std::size_t row) const;
 
     std::vector<std::uint32_t> m_positions;
     std::vector<std::string> m_ids;

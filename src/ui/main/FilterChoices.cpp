@@ -1,7 +1,7 @@
 #include "ui/main/FilterChoices.h"
 
+#include "data/TableChoices.h"
 #include "data/modData.h"
-#include "lists/TableChoices.h"
 
 std::vector<Choice> SmjerFilterChoices(std::optional<std::int32_t> studijID)
 {

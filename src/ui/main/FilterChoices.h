@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/Choice.h"
+#include "data/Choice.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,14 +1,14 @@
 #include "ui/main/SemesterStatistics.h"
 
 #include "data/Errors.h"
-#include "data/Numbers.h"
 #include "data/modData.h"
-#include "statistics/LoadTable.h"
+#include "statistics/TeachingLoad.h"
+#include "text/Numbers.h"
 
 namespace
 {
 
-Load LoadOf(const Row& kolegij)
+TeachingLoad LoadOf(const modData::Row& kolegij)
 {
     return {.P = ParseWholeOrZero(kolegij.Field(Kolegij::P)),
             .S = ParseWholeOrZero(kolegij.Field(Kolegij::S)),
@@ -22,10 +22,10 @@ Load LoadOf(const Row& kolegij)
 std::vector<ListRow> StatistikaRows(const CourseFilter& filter, Search& search, std::string_view razina)
 {
     const int last = modData::LastSemestar(razina);
-    LoadSums sums;
+    TeachingLoadSums sums;
     for (std::size_t position = 0; position < modData::Kolegiji.RowCount(); ++position)
     {
-        const Row& kolegij = modData::Kolegiji[position];
+        const modData::Row& kolegij = modData::Kolegiji[position];
         const std::int32_t id = kolegij.Number(Kolegij::ID);
         const std::int32_t semestar = kolegij.Number(Kolegij::Semestar);
         if (!PassesBoxes(kolegij, filter) || !search.Matches(position) || semestar < 1 || semestar > last)
@@ -35,7 +35,7 @@ std::vector<ListRow> StatistikaRows(const CourseFilter& filter, Search& search, 
         if (tip && weight > 0)
             sums.Add(semestar, *tip, LoadOf(kolegij).Times(weight));
     }
-    return LoadRows(sums, FlaggingStyle, {.Last = last, .Only = filter.Semestar});
+    return TeachingLoadRows(sums, FlaggingStyle, {.Last = last, .Only = filter.Semestar});
 }
 
 std::int32_t CountKolegijSmjerLinks(std::int32_t kolegijID, std::int32_t smjerID)
@@ -43,7 +43,7 @@ std::int32_t CountKolegijSmjerLinks(std::int32_t kolegijID, std::int32_t smjerID
     if (smjerID != 0)
         return KolegijHasSmjer(kolegijID, smjerID) ? 1 : 0;
     std::int32_t count = 0;
-    for ([[maybe_unused]] const Row& link :
+    for ([[maybe_unused]] const modData::Row& link :
          modData::KolegijSmjerovi.Matching(KolegijSmjer::KolegijID, kolegijID))
         ++count;
     return count;
@@ -52,7 +52,7 @@ std::int32_t CountKolegijSmjerLinks(std::int32_t kolegijID, std::int32_t smjerID
 std::int32_t ParseWholeOrZero(std::string_view text)
 {
     std::int32_t value = 0;
-    if (ReadLong(text, value) == NumberReading::TooLarge)
-        throw Overflow(text);
+    if (ParseLong(text, value) == NumberKind::TooLarge)
+        throw OverflowError(text);
     return value;
 }

@@ -1,7 +1,7 @@
 #include "ui/main/StatistikaExport.h"
 
 #include "data/Files.h"
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 

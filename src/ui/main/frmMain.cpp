@@ -1,12 +1,12 @@
 #include "ui/main/frmMain.h"
 
+#include "data/CheckedNumbers.h"
 #include "data/Errors.h"
 #include "data/Lookups.h"
-#include "data/Numbers.h"
-#include "data/Text.h"
+#include "data/TableChoices.h"
 #include "data/modData.h"
 #include "ects/frmECTSCalc.h"
-#include "lists/TableChoices.h"
+#include "text/Text.h"
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
@@ -69,7 +69,7 @@ frmMain::frmMain()
 {
     Create(nullptr, wxID_ANY, ToWx(ProductName), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
            "frmMain");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
     Panel = new wxPanel(this);
 
     // The controls are made in tab order: filters, lists, commands.
@@ -479,7 +479,7 @@ void frmMain::cmdEdit_Click()
     frmKolegij editor(this);
     editor.Mode = "EDIT";
     editor.EditKolegijID = *id;
-    if (const Row* kolegij = modData::Kolegiji.FindFirst(Kolegij::ID, *id))
+    if (const modData::Row* kolegij = modData::Kolegiji.FindFirst(Kolegij::ID, *id))
     {
         editor.StartStudijID = kolegij->Number(Kolegij::StudijID);
         editor.StartRazina = modData::GetStudijRazina(editor.StartStudijID);
@@ -565,14 +565,14 @@ void frmMain::cmdExit_Click()
     }
     modData::SaveAllTables();
     UnloadOtherWindows();
-    if (!Unloading)
+    if (!m_unloading)
         Close(true);
 }
 
 void frmMain::Form_Unload()
 {
     // The window closes whatever the exit command says: with faulty data it closes without saving.
-    Unloading = true;
+    m_unloading = true;
     cmdExit_Click();
     Destroy();
 }

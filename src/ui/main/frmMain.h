@@ -95,7 +95,7 @@ private:
     void UnloadOtherWindows();
 
     bool FormReady = false; ///< False until the filter boxes are filled: no list is filled before.
-    bool Unloading = false;
+    bool m_unloading = false;
     const CourseListModel* m_courses = nullptr; ///< What the course list shows; its own.
 
     // Controls

@@ -2,8 +2,8 @@
 
 #include "data/Product.h"
 #include "data/modData.h"
+#include "ui/controls/AccessibleName.h"
 #include "ui/controls/Controls.h"
-#include "ui/controls/SpokenName.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -58,7 +58,7 @@ frmAbout::frmAbout(wxWindow* parent)
 {
     Create(parent, wxID_ANY, "About " + ToWx(ProductName), wxDefaultPosition, wxDefaultSize,
            wxDEFAULT_DIALOG_STYLE, "frmAbout");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
 
     auto* column = new wxBoxSizer(wxVERTICAL);
     lblTitle = AddLabel(*column, "lblTitle");
@@ -84,7 +84,7 @@ frmAbout::frmAbout(wxWindow* parent)
 
 wxStaticText* frmAbout::AddLabel(wxSizer& sizer, const char* name, const std::string& text)
 {
-    wxStaticText* label = NewRemark(this, name, "");
+    wxStaticText* label = NewCaption(this, name, "");
     SetText(*label, text);
     sizer.Add(label, wxSizerFlags().Border(wxBOTTOM, Gap(this)));
     return label;

@@ -19,7 +19,7 @@ frmSplash::frmSplash(int shownMilliseconds) : Timer1(this)
 {
     Create(nullptr, wxID_ANY, ToWx(ProductName), wxDefaultPosition, wxDefaultSize,
            wxBORDER_NONE | wxFRAME_NO_TASKBAR, "frmSplash");
-    UseProgramLook(*this);
+    ApplyAppStyle(*this);
 
     Picture1 =
         new wxWindow(this, wxID_ANY, wxDefaultPosition, FromDIP(PictureSize), wxWANTS_CHARS, "Picture1");
@@ -48,9 +48,9 @@ void frmSplash::BindEvents()
 
 void frmSplash::CloseSplash()
 {
-    if (Closing)
+    if (m_closing)
         return;
-    Closing = true;
+    m_closing = true;
     Timer1.Stop();
     try
     {

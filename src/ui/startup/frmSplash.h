@@ -23,7 +23,7 @@ private:
     void Form_Click();
     void Form_KeyDown(wxKeyEvent& key);
 
-    bool Closing = false;
+    bool m_closing = false;
 
     // Controls
     wxWindow* Picture1;

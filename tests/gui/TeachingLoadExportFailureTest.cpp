@@ -1,43 +1,29 @@
 // The exports of teaching load in the whole program: an error in writing ends it with the last report.
 
 #include "support/Catalogue.h"
-#include "support/LoadChecks.h"
+#include "support/ScriptedProgram.h"
+#include "support/TeachingLoadChecks.h"
 #include "support/Windows.h"
-
-#include <wx/filename.h>
-#include <wx/stdpaths.h>
-#include <wx/utils.h>
 
 namespace
 {
 
-struct Outcome
-{
-    long ExitCode;
-    std::string Output; ///< The message boxes, a line each: title, severity, text.
-};
-
 /// By the button that opens the window of load.
-class LoadExportInProgram : public testing::TestWithParam<const char*>
+class TeachingLoadExportInProgram : public testing::TestWithParam<const char*>
 {
 protected:
-    LoadExportInProgram()
+    TeachingLoadExportInProgram()
     {
         SmallCatalogue().WriteTo(Folder.Data());
         // A blank line, which saving drops: it tells whether the program has saved.
         WriteBytes(Folder.Data() / "db_zavod.csv", Unsaved);
     }
-    ~LoadExportInProgram() override { SetEnvironment("VARLO_EXPORT_LOAD", ""); }
+    ~TeachingLoadExportInProgram() override { SetEnvironment("VARLO_EXPORT_LOAD", ""); }
 
     static Outcome Run()
     {
         SetEnvironment("VARLO_EXPORT_LOAD", GetParam());
-        wxFileName program(wxStandardPaths::Get().GetExecutablePath());
-        program.SetName("scripted_program");
-        wxArrayString output;
-        wxArrayString errors;
-        const long exitCode = wxExecute("\"" + program.GetFullPath() + "\"", output, errors, wxEXEC_SYNC);
-        return {exitCode, wxJoin(output, '\n', '\0').utf8_string()};
+        return RunScriptedProgram();
     }
 
     bool HasSaved() const { return ReadBytes(Folder.Data() / "db_zavod.csv") != Unsaved; }
@@ -46,7 +32,7 @@ protected:
     TestFolder Folder;
 };
 
-TEST_P(LoadExportInProgram, WrittenItTellsAndGoesOn)
+TEST_P(TeachingLoadExportInProgram, WrittenItTellsAndGoesOn)
 {
     const Outcome outcome = Run();
     EXPECT_EQ(outcome.ExitCode, 0);
@@ -57,7 +43,7 @@ TEST_P(LoadExportInProgram, WrittenItTellsAndGoesOn)
     EXPECT_TRUE(HasSaved());
 }
 
-TEST_P(LoadExportInProgram, AFileThatMayNotBeWrittenEndsTheProgramAndStays)
+TEST_P(TeachingLoadExportInProgram, AFileThatMayNotBeWrittenEndsTheProgramAndStays)
 {
     WriteBytes(Folder.Path() / "load.csv", "older");
     const ReadOnly marked(Folder.Path() / "load.csv");
@@ -71,7 +57,7 @@ TEST_P(LoadExportInProgram, AFileThatMayNotBeWrittenEndsTheProgramAndStays)
     EXPECT_FALSE(HasSaved());
 }
 
-TEST_P(LoadExportInProgram, AFolderInTheFilesPlaceEndsTheProgram)
+TEST_P(TeachingLoadExportInProgram, AFolderInTheFilesPlaceEndsTheProgram)
 {
     std::filesystem::create_directory(Folder.Path() / "load.csv");
     const Outcome outcome = Run();
@@ -81,6 +67,7 @@ TEST_P(LoadExportInProgram, AFolderInTheFilesPlaceEndsTheProgram)
     EXPECT_FALSE(HasSaved());
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, LoadExportInProgram, testing::Values("cmdStatNositelji", "cmdStatZavodi"));
+INSTANTIATE_TEST_SUITE_P(Windows, TeachingLoadExportInProgram,
+                         testing::Values("cmdStatNositelji", "cmdStatZavodi"));
 
 } // namespace

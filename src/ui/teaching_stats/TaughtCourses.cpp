@@ -1,4 +1,4 @@
-#include "statistics/TaughtCourses.h"
+#include "ui/teaching_stats/TaughtCourses.h"
 
 #include "data/Errors.h"
 #include "data/Files.h"
@@ -16,16 +16,17 @@ struct CourseLoad
 {
     std::int32_t Semestar;
     Tip Type;
-    Load Adds;
+    TeachingLoad Adds;
 };
 
 /// What a course adds to the sums, if anything. @throws DataError
-std::optional<CourseLoad> LoadOf(const Row& kolegij, const TeachingStatistic& statistic, Conversion hours)
+std::optional<CourseLoad> LoadOf(const modData::Row& kolegij, const TeachingStatistic& statistic,
+                                 Conversion hours)
 {
     if (!statistic.Passes(kolegij))
         return std::nullopt;
     const std::int32_t semestar = kolegij.Number(Kolegij::Semestar, statistic.Numbers);
-    if (semestar < 1 || semestar > MostSemesters)
+    if (semestar < 1 || semestar > MaxSemesters)
         return std::nullopt;
     const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), statistic.Others);
     if (!tip)
@@ -41,9 +42,9 @@ std::optional<CourseLoad> LoadOf(const Row& kolegij, const TeachingStatistic& st
 
 /// The sums of one lecturer or department; `loadOf` gives the load of the course at a position.
 template<typename LoadOfPosition>
-LoadSums SumsOf(const TeachingStatistic& statistic, std::int32_t id, const LoadOfPosition& loadOf)
+TeachingLoadSums SumsOf(const TeachingStatistic& statistic, std::int32_t id, const LoadOfPosition& loadOf)
 {
-    LoadSums sums;
+    TeachingLoadSums sums;
     statistic.ForEachTaughtCourse(id,
                                   [&](std::size_t position)
                                   {
@@ -63,7 +64,7 @@ public:
         m_loads.reserve(modData::Kolegiji.RowCount());
         try
         {
-            for (const Row& kolegij : modData::Kolegiji)
+            for (const modData::Row& kolegij : modData::Kolegiji)
                 m_loads.push_back(LoadOf(kolegij, statistic, statistic.ExportedHours));
         }
         catch (const DataError&)
@@ -84,7 +85,7 @@ private:
     std::vector<std::optional<CourseLoad>> m_loads; // by position, up to the first that cannot be read
 };
 
-ListRow TaughtCourseRow(const Row& kolegij, Conversion conversion)
+ListRow TaughtCourseRow(const modData::Row& kolegij, Conversion conversion)
 {
     std::vector<std::string> texts;
     for (std::size_t column = Kolegij::Naziv; column <= Kolegij::Semestar; ++column)
@@ -98,13 +99,13 @@ ListRow TaughtCourseRow(const Row& kolegij, Conversion conversion)
 
 void ForEachCourseOfNastavnik(std::int32_t nastavnikID, Conversion conversion, const CourseVisitor& visit)
 {
-    const Table& table = modData::KolegijNastavnici;
-    const Matches links = table.Matching(KolegijNastavnik::NastavnikID, nastavnikID, conversion);
+    const modData::Table& table = modData::KolegijNastavnici;
+    const modData::Matches links = table.Matching(KolegijNastavnik::NastavnikID, nastavnikID, conversion);
     for (auto link = links.begin(); link != links.end(); ++link)
     {
         const std::int32_t kolegijID =
             table.NumberAt(link.Position(), KolegijNastavnik::KolegijID, conversion);
-        const Matches courses = modData::Kolegiji.Matching(Kolegij::ID, kolegijID, conversion);
+        const modData::Matches courses = modData::Kolegiji.Matching(Kolegij::ID, kolegijID, conversion);
         for (auto course = courses.begin(); course != courses.end(); ++course)
             visit(course.Position());
     }
@@ -116,7 +117,7 @@ std::vector<ListRow> TaughtCourseRows(const TeachingStatistic& statistic, std::i
     statistic.ForEachTaughtCourse(id,
                                   [&](std::size_t position)
                                   {
-                                      const Row& kolegij = modData::Kolegiji[position];
+                                      const modData::Row& kolegij = modData::Kolegiji[position];
                                       if (statistic.Passes(kolegij))
                                           rows.push_back(TaughtCourseRow(kolegij, statistic.Numbers));
                                   });
@@ -127,7 +128,7 @@ std::vector<ListRow> TeachingLoadRows(const TeachingStatistic& statistic, std::i
 {
     const auto loadOf = [&](std::size_t position)
     { return LoadOf(modData::Kolegiji[position], statistic, statistic.ShownHours); };
-    return LoadRows(SumsOf(statistic, id, loadOf), statistic.Style);
+    return TeachingLoadRows(SumsOf(statistic, id, loadOf), statistic.Style);
 }
 
 void ExportTeachingLoad(const TeachingStatistic& statistic, std::string_view path)
@@ -136,11 +137,12 @@ void ExportTeachingLoad(const TeachingStatistic& statistic, std::string_view pat
     file.AddLine(std::string(statistic.OwnerTitle) + ";Semestar;Tip;P;S;V;ECTS;Broj kolegija");
     const ExportedLoads loads(statistic);
     std::string text;
-    for (const Row& owner : *statistic.Owners)
+    for (const modData::Row& owner : *statistic.Owners)
     {
         const std::string_view name = owner.Field(statistic.OwnerName);
-        const LoadSums sums = SumsOf(statistic, owner.Number(modData::IDColumn, statistic.Numbers), loads);
-        for (const LoadLine& line : LoadLines(sums, statistic.Style))
+        const TeachingLoadSums sums =
+            SumsOf(statistic, owner.Number(modData::IDColumn, statistic.Numbers), loads);
+        for (const TeachingLoadLine& line : TeachingLoadLines(sums, statistic.Style))
         {
             text.assign(name).append(";").append(line.First).append(";").append(line.Second);
             for (const std::int32_t number : line.Sums.Numbers())

@@ -1,6 +1,6 @@
-#include "lists/CroatianOrder.h"
+#include "text/CroatianOrder.h"
 
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <array>
 #include <cstddef>
@@ -54,7 +54,7 @@ std::string CroatianSortKey(std::string_view text)
     key.reserve(upper.size());
     while (!rest.empty())
     {
-        const char32_t character = TakeCodePoint(rest);
+        const char32_t character = DecodeUtf8(rest);
         const std::uint8_t letter = character < KeyTableSize ? LetterKeys[character] : 0;
         if (letter == 0)
         {
@@ -62,7 +62,7 @@ std::string CroatianSortKey(std::string_view text)
             continue;
         }
         std::string_view behind = rest;
-        if (!behind.empty() && MakesDigraph(character, TakeCodePoint(behind)))
+        if (!behind.empty() && MakesDigraph(character, DecodeUtf8(behind)))
         {
             key += static_cast<char>(letter + 1);
             rest = behind;

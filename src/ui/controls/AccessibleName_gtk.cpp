@@ -1,6 +1,6 @@
 // Names for screen readers on GTK.
 
-#include "ui/controls/SpokenName.h"
+#include "ui/controls/AccessibleName.h"
 
 #include "ui/controls/NativeFunction_gtk.h"
 #include "ui/controls/Strings.h"
@@ -21,7 +21,7 @@ protected:
 
 } // namespace
 
-void SetSpokenName(wxWindow& control, std::string_view name)
+void SetAccessibleName(wxWindow& control, std::string_view name)
 {
     const auto accessibleOf = NativeFunction<void* (*)(GtkWidget*)>("gtk_widget_get_accessible");
     const auto setName = NativeFunction<void (*)(void*, const char*)>("atk_object_set_name");
@@ -29,7 +29,7 @@ void SetSpokenName(wxWindow& control, std::string_view name)
         setName(accessibleOf(control.GetConnectWidget()), ToWx(name).utf8_str());
 }
 
-wxStaticText* NewRemark(wxWindow* parent, std::string_view name, std::string_view caption)
+wxStaticText* NewCaption(wxWindow* parent, std::string_view name, std::string_view caption)
 {
     return new Remark(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize, 0, ToWx(name));
 }

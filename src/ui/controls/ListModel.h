@@ -10,9 +10,12 @@
 /// A colour as the platform's list has it: 0xBBGGRR.
 using ListColour = std::uint32_t;
 
+namespace ListColours
+{
 inline constexpr ListColour Black = 0x000000;
 inline constexpr ListColour Red = 0x0000FF;
 inline constexpr ListColour Blue = 0xFF0000;
+} // namespace ListColours
 
 /// The colour of a course's row in every course list: blue for an elective, by its type's text.
 ListColour ElectiveColour(std::string_view tip);
@@ -28,7 +31,7 @@ struct ListColumn
 /// How a cell is drawn.
 struct CellStyle
 {
-    ListColour Colour = Black;
+    ListColour Colour = ListColours::Black;
     bool Bold = false;
 
     bool operator==(const CellStyle&) const = default;
@@ -52,7 +55,7 @@ public:
 struct ListCell
 {
     std::string Text;
-    ListColour Colour = Black;
+    ListColour Colour = ListColours::Black;
     bool Bold = false;
 };
 

@@ -1,7 +1,7 @@
-#include "statistics/LoadTable.h"
+#include "statistics/TeachingLoad.h"
 
-#include "data/Numbers.h"
-#include "data/Text.h"
+#include "data/CheckedNumbers.h"
+#include "text/Text.h"
 
 #include <iterator>
 #include <string>
@@ -21,20 +21,20 @@ struct NamedTip
 
 constexpr NamedTip Types[] = {{Tip::Obvezni, "Obvezni"}, {Tip::Izborni, "Izborni"}};
 
-constexpr std::string_view SemesterTexts[MostSemesters] = {"1", "2", "3", "4", "5", "6"};
+constexpr std::string_view SemesterTexts[MaxSemesters] = {"1", "2", "3", "4", "5", "6"};
 
 } // namespace
 
 std::optional<Tip> TipOf(std::string_view text, OtherTypes others)
 {
-    if (IsWord(text, "OBVEZNI"))
+    if (EqualsIgnoreCase(text, "OBVEZNI"))
         return Tip::Obvezni;
-    if (others == OtherTypes::CountAsElective || IsWord(text, "IZBORNI"))
+    if (others == OtherTypes::CountAsElective || EqualsIgnoreCase(text, "IZBORNI"))
         return Tip::Izborni;
     return std::nullopt;
 }
 
-Load& Load::operator+=(const Load& other)
+TeachingLoad& TeachingLoad::operator+=(const TeachingLoad& other)
 {
     P = CheckedSum(P, other.P);
     S = CheckedSum(S, other.S);
@@ -44,35 +44,36 @@ Load& Load::operator+=(const Load& other)
     return *this;
 }
 
-Load Load::Times(std::int32_t weight) const
+TeachingLoad TeachingLoad::Times(std::int32_t weight) const
 {
     return {CheckedProduct(P, weight), CheckedProduct(S, weight), CheckedProduct(V, weight),
             CheckedProduct(ECTS, weight), CheckedProduct(Kolegija, weight)};
 }
 
-void LoadSums::Add(std::int32_t semestar, Tip tip, const Load& load)
+void TeachingLoadSums::Add(std::int32_t semestar, Tip tip, const TeachingLoad& load)
 {
-    if (semestar >= 1 && semestar <= MostSemesters)
-        Sums[static_cast<std::size_t>(semestar - 1)][static_cast<std::size_t>(tip)] += load;
+    if (semestar >= 1 && semestar <= MaxSemesters)
+        m_sums[static_cast<std::size_t>(semestar - 1)][static_cast<std::size_t>(tip)] += load;
 }
 
-const Load& LoadSums::Of(int semestar, Tip tip) const
+const TeachingLoad& TeachingLoadSums::Of(int semestar, Tip tip) const
 {
-    return Sums.at(static_cast<std::size_t>(semestar - 1))[static_cast<std::size_t>(tip)];
+    return m_sums.at(static_cast<std::size_t>(semestar - 1))[static_cast<std::size_t>(tip)];
 }
 
-Load LoadSums::Total(Tip tip, int last) const
+TeachingLoad TeachingLoadSums::Total(Tip tip, int last) const
 {
-    Load total;
+    TeachingLoad total;
     for (int semestar = 1; semestar <= last; ++semestar)
         total += Of(semestar, tip);
     return total;
 }
 
-std::vector<LoadLine> LoadLines(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range)
+std::vector<TeachingLoadLine> TeachingLoadLines(const TeachingLoadSums& sums, const TeachingLoadStyle& style,
+                                                SemesterRange range)
 {
-    std::vector<LoadLine> lines;
-    lines.reserve((MostSemesters + 1) * std::size(Types) + 1);
+    std::vector<TeachingLoadLine> lines;
+    lines.reserve((MaxSemesters + 1) * std::size(Types) + 1);
     for (int semestar = 1; semestar <= range.Last; ++semestar)
     {
         if (range.Only != 0 && semestar != range.Only)
@@ -80,15 +81,15 @@ std::vector<LoadLine> LoadLines(const LoadSums& sums, const LoadTableStyle& styl
         const std::string_view text = SemesterTexts[semestar - 1];
         for (const auto& [tip, name] : Types)
         {
-            const Load& load = sums.Of(semestar, tip);
+            const TeachingLoad& load = sums.Of(semestar, tip);
             lines.push_back({text, name, load, false, load.ECTS > FullSemesterEcts});
         }
     }
 
-    Load grandTotal;
+    TeachingLoad grandTotal;
     for (const auto& [tip, name] : Types)
     {
-        const Load total = sums.Total(tip, range.Last);
+        const TeachingLoad total = sums.Total(tip, range.Last);
         lines.push_back({style.TypeTotal, name, total, true, false});
         grandTotal += total;
     }
@@ -96,17 +97,18 @@ std::vector<LoadLine> LoadLines(const LoadSums& sums, const LoadTableStyle& styl
     return lines;
 }
 
-std::vector<ListRow> LoadRows(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range)
+std::vector<ListRow> TeachingLoadRows(const TeachingLoadSums& sums, const TeachingLoadStyle& style,
+                                      SemesterRange range)
 {
     std::vector<ListRow> rows;
-    for (const LoadLine& line : LoadLines(sums, style, range))
+    for (const TeachingLoadLine& line : TeachingLoadLines(sums, style, range))
     {
         std::vector<std::string> texts = {std::string(line.First), std::string(line.Second)};
         for (const std::int32_t number : line.Sums.Numbers())
             texts.push_back(std::to_string(number));
-        rows.push_back(UniformRow(texts, Black, line.IsTotal));
+        rows.push_back(UniformRow(texts, ListColours::Black, line.IsTotal));
         if (style.FlagsOverfull && line.IsOverfull)
-            rows.back()[EctsColumn].Colour = Red;
+            rows.back()[EctsColumn].Colour = ListColours::Red;
     }
     return rows;
 }

@@ -15,14 +15,14 @@ std::string UpperCase(std::string_view text);
 void MakeUpperCase(std::string& text);
 
 /// True when the text, trimmed and upper-cased, is the given upper-case word.
-bool IsWord(std::string_view text, std::string_view upperCaseWord);
+bool EqualsIgnoreCase(std::string_view text, std::string_view upperCaseWord);
 
 /// Takes off the ASCII characters that a text begins with: most of a text is ASCII, and in one piece it goes
 /// over in half of the time.
-std::string_view TakeAscii(std::string_view& text);
+std::string_view TakeAsciiPrefix(std::string_view& text);
 
 /// Takes the first character off a UTF-8 text that is not empty; U+FFFD stands for a byte that fits nowhere.
-char32_t TakeCodePoint(std::string_view& text);
+char32_t DecodeUtf8(std::string_view& text);
 
 /// Appends a character as UTF-8.
 void AppendCodePoint(std::string& text, char32_t character);

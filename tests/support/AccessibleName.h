@@ -47,7 +47,7 @@ inline std::string AccessibleName(HWND window)
 
 /// Fields and lists without an accessible object of their own get their name from the label right before
 /// them: the system's rule, which not every system that runs its programs keeps.
-inline std::string SpokenName(wxWindow* control)
+inline std::string AccessibleName(wxWindow* control)
 {
     wxWindow* window = SpokenWindow(control);
     const bool isNamed =
@@ -103,7 +103,7 @@ inline std::string NameOfWidget(void* widget)
 }
 
 /// A reader says the labels that belong to a control, and the control's own name where there is none.
-inline std::string SpokenName(wxWindow* control)
+inline std::string AccessibleName(wxWindow* control)
 {
     wxWindow* window = SpokenWindow(control);
     for (void* widget :

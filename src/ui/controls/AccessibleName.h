@@ -9,7 +9,7 @@ class wxWindow;
 // that stands before it in the order of the controls. The rest is here.
 
 /// Names a control that has no label of its own, in UTF-8.
-void SetSpokenName(wxWindow& control, std::string_view name);
+void SetAccessibleName(wxWindow& control, std::string_view name);
 
 /// A text that is no label: what stands behind it does not get its name from it.
-wxStaticText* NewRemark(wxWindow* parent, std::string_view name, std::string_view caption);
+wxStaticText* NewCaption(wxWindow* parent, std::string_view name, std::string_view caption);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "data/Numbers.h"
+#include "data/CheckedNumbers.h"
 #include "data/Table.h"
-#include "lists/ListModel.h"
-#include "statistics/LoadTable.h"
+#include "statistics/TeachingLoad.h"
+#include "ui/controls/ListModel.h"
 
 #include <cstdint>
 #include <functional>
@@ -28,16 +28,16 @@ using CourseVisitor = std::function<void(std::size_t position)>;
 /// What is different about the two statistics. A conversion says how strictly numbers are read.
 struct TeachingStatistic
 {
-    std::function<bool(const Row& kolegij)> Passes;                                       ///< The filter.
+    std::function<bool(const modData::Row& kolegij)> Passes;                              ///< The filter.
     std::function<void(std::int32_t id, const CourseVisitor& visit)> ForEachTaughtCourse; ///< Once per link.
     Conversion Numbers;       ///< Of identifiers and semesters.
     Conversion ShownHours;    ///< Of hours and credits in the window.
     Conversion ExportedHours; ///< And in the file.
     OtherTypes Others;
-    LoadTableStyle Style;
-    const Table* Owners;         ///< The table of those whose load it is.
-    std::size_t OwnerName;       ///< The column of their names.
-    std::string_view OwnerTitle; ///< The first column's title in the file.
+    TeachingLoadStyle Style;
+    const modData::Table* Owners; ///< The table of those whose load it is.
+    std::size_t OwnerName;        ///< The column of their names.
+    std::string_view OwnerTitle;  ///< The first column's title in the file.
 };
 
 /// Calls `visit` with each course that a lecturer is linked to, once per link, in the order of the links,

@@ -1,6 +1,6 @@
 // Names for screen readers on Windows: an accessible object that answers for the name alone.
 
-#include "ui/controls/SpokenName.h"
+#include "ui/controls/AccessibleName.h"
 
 #include "ui/controls/Controls.h"
 #include "ui/controls/Strings.h"
@@ -16,28 +16,28 @@ namespace
 class NamedAccessible : public wxAccessible
 {
 public:
-    NamedAccessible(wxWindow* control, wxString name) : wxAccessible(control), Name(std::move(name)) {}
+    NamedAccessible(wxWindow* control, wxString name) : wxAccessible(control), m_name(std::move(name)) {}
 
     wxAccStatus GetName(int child, wxString* name) override
     {
         if (child != wxACC_SELF)
             return wxACC_NOT_IMPLEMENTED; // the system's own answer
-        *name = Name;
+        *name = m_name;
         return wxACC_OK;
     }
 
 private:
-    wxString Name;
+    wxString m_name;
 };
 
 } // namespace
 
-void SetSpokenName(wxWindow& control, std::string_view name)
+void SetAccessibleName(wxWindow& control, std::string_view name)
 {
     control.SetAccessible(new NamedAccessible(&control, ToWx(name)));
 }
 
-wxStaticText* NewRemark(wxWindow* parent, std::string_view name, std::string_view caption)
+wxStaticText* NewCaption(wxWindow* parent, std::string_view name, std::string_view caption)
 {
     return NewLabel(parent, name, caption); // what comes behind it has a name of its own
 }

@@ -1,12 +1,12 @@
-#include "lists/TableChoices.h"
+#include "data/TableChoices.h"
 
-#include "data/Text.h"
 #include "data/modData.h"
+#include "text/Text.h"
 
 namespace
 {
 
-Choice ChoiceOf(const Row& row, std::size_t textColumn)
+Choice ChoiceOf(const modData::Row& row, std::size_t textColumn)
 {
     return {std::string(row.Field(textColumn)), row.Number(modData::IDColumn)};
 }
@@ -32,7 +32,7 @@ std::vector<Choice> StudijChoices(std::string_view razina, RazinaMatch match)
     { return match == RazinaMatch::Trimmed ? TrimBlanks(text) : text; };
 
     std::vector<Choice> choices;
-    for (const Row& studij : modData::Studiji)
+    for (const modData::Row& studij : modData::Studiji)
         if (compared(studij.Field(Studij::Razina)) == compared(razina))
             choices.push_back(ChoiceOf(studij, Studij::Kratica));
     return choices;
@@ -41,7 +41,7 @@ std::vector<Choice> StudijChoices(std::string_view razina, RazinaMatch match)
 std::vector<Choice> SmjerChoices(std::int32_t studijID)
 {
     std::vector<Choice> choices;
-    for (const Row& smjer : modData::Smjerovi.Matching(Smjer::StudijID, studijID))
+    for (const modData::Row& smjer : modData::Smjerovi.Matching(Smjer::StudijID, studijID))
         choices.push_back(ChoiceOf(smjer, Smjer::Kratica));
     return choices;
 }
@@ -49,7 +49,7 @@ std::vector<Choice> SmjerChoices(std::int32_t studijID)
 std::vector<Choice> NastavnikChoices()
 {
     std::vector<Choice> choices;
-    for (const Row& nastavnik : modData::Nastavnici)
+    for (const modData::Row& nastavnik : modData::Nastavnici)
         choices.push_back(ChoiceOf(nastavnik, Nastavnik::PrezimeIme));
     return choices;
 }
@@ -57,7 +57,7 @@ std::vector<Choice> NastavnikChoices()
 std::vector<Choice> NamedNastavnikChoices()
 {
     std::vector<Choice> choices;
-    for (const Row& nastavnik : modData::Nastavnici)
+    for (const modData::Row& nastavnik : modData::Nastavnici)
         if (!TrimBlanks(nastavnik.Field(Nastavnik::PrezimeIme)).empty())
             choices.push_back(ChoiceOf(nastavnik, Nastavnik::PrezimeIme));
     return choices;
@@ -66,7 +66,7 @@ std::vector<Choice> NamedNastavnikChoices()
 std::vector<Choice> ZavodChoices()
 {
     std::vector<Choice> choices;
-    for (const Row& zavod : modData::Zavodi)
+    for (const modData::Row& zavod : modData::Zavodi)
         choices.push_back(
             {std::string(zavod.Field(Zavod::Naziv)), zavod.Number(Zavod::ID, Conversion::Safe)});
     return choices;

@@ -1,4 +1,4 @@
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -40,7 +40,7 @@ struct Lead
 };
 
 /// What the first byte of a character beyond ASCII says of it.
-Lead ReadLead(std::uint8_t byte)
+Lead DecodeLead(std::uint8_t byte)
 {
     if (byte >= 0xC2 && byte < 0xE0)
         return {1, byte & 0x1FU, 0x80};
@@ -84,7 +84,7 @@ void MakeUpperCase(std::string& text)
         c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
 
     std::string_view rest = text;
-    for (TakeAscii(rest); rest.size() > 1; TakeAscii(rest))
+    for (TakeAsciiPrefix(rest); rest.size() > 1; TakeAsciiPrefix(rest))
     {
         const auto first = static_cast<std::uint8_t>(rest[0]);
         const bool isInTable = first >= FirstLead && first < EndOfLeads;
@@ -100,16 +100,16 @@ void MakeUpperCase(std::string& text)
     }
 }
 
-bool IsWord(std::string_view text, std::string_view upperCaseWord)
+bool EqualsIgnoreCase(std::string_view text, std::string_view upperCaseWord)
 {
     text = TrimBlanks(text);
     while (!text.empty() && !upperCaseWord.empty())
-        if (UpperCase(TakeCodePoint(text)) != TakeCodePoint(upperCaseWord))
+        if (UpperCase(DecodeUtf8(text)) != DecodeUtf8(upperCaseWord))
             return false;
     return text.empty() && upperCaseWord.empty();
 }
 
-std::string_view TakeAscii(std::string_view& text)
+std::string_view TakeAsciiPrefix(std::string_view& text)
 {
     constexpr std::uint64_t highBits = 0x8080808080808080;
     std::size_t size = 0;
@@ -126,14 +126,14 @@ std::string_view TakeAscii(std::string_view& text)
     return ascii;
 }
 
-char32_t TakeCodePoint(std::string_view& text)
+char32_t DecodeUtf8(std::string_view& text)
 {
     if (const auto first = static_cast<std::uint8_t>(text.front()); first < 0x80)
     {
         text.remove_prefix(1); // most characters
         return first;
     }
-    const auto [followers, bits, smallest] = ReadLead(static_cast<std::uint8_t>(text.front()));
+    const auto [followers, bits, smallest] = DecodeLead(static_cast<std::uint8_t>(text.front()));
     char32_t code = bits;
     text.remove_prefix(1);
     std::string_view rest = text;
@@ -203,7 +203,7 @@ std::string Shown(std::string_view text, std::size_t maxCharacters)
     {
         if (count == maxCharacters)
             return shown + "…";
-        const char32_t character = TakeCodePoint(text);
+        const char32_t character = DecodeUtf8(text);
         const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
         if (isControl)
             shown.append({'\\', 'x', digit(character / 16), digit(character % 16)});

@@ -2,7 +2,7 @@
 
 #include "support/Catalogue.h"
 #include "support/ListWindow.h"
-#include "support/LoadChecks.h"
+#include "support/TeachingLoadChecks.h"
 #include "support/Windows.h"
 #include "ui/main/frmMain.h"
 
@@ -47,10 +47,10 @@ inline void GoDown(wxControlWithItems* box)
 
 /// A main window on a test's data, and the window of load that its button opens.
 template<typename Window>
-class LoadWindowTest : public testing::Test
+class TeachingLoadWindowTest : public testing::Test
 {
 protected:
-    explicit LoadWindowTest(const char* button) : Button(button) {}
+    explicit TeachingLoadWindowTest(const char* button) : Button(button) {}
 
     void TearDown() override { CloseAllWindows(); }
 

@@ -1,7 +1,6 @@
-#include "data/Numbers.h"
+#include "text/Numbers.h"
 
-#include "data/Errors.h"
-#include "data/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <limits>
@@ -48,7 +47,7 @@ int CompareWithHalf(std::string_view fraction)
 
 /// Reads a text of nothing but a few digits, as nearly all numbers in the files are; false for any other. The
 /// whole rule takes three times as long.
-bool ReadPlainDigits(std::string_view text, std::int32_t& value)
+bool ParsePlainDigits(std::string_view text, std::int32_t& value)
 {
     constexpr std::size_t mostThatFit = 9;
     if (text.empty() || text.size() > mostThatFit)
@@ -66,13 +65,13 @@ bool ReadPlainDigits(std::string_view text, std::int32_t& value)
 
 } // namespace
 
-NumberReading ReadLong(std::string_view text, std::int32_t& value)
+NumberKind ParseLong(std::string_view text, std::int32_t& value)
 {
-    if (ReadPlainDigits(text, value))
-        return NumberReading::Whole;
+    if (ParsePlainDigits(text, value))
+        return NumberKind::Whole;
     Decimal decimal;
     if (!SplitDecimal(text, decimal))
-        return NumberReading::NotNumeric;
+        return NumberKind::NotNumeric;
 
     constexpr std::int64_t beyond = std::int64_t{1} << 40;
     std::int64_t number = 0;
@@ -86,9 +85,9 @@ NumberReading ReadLong(std::string_view text, std::int32_t& value)
         number = -number;
     if (number < std::numeric_limits<std::int32_t>::min() ||
         number > std::numeric_limits<std::int32_t>::max())
-        return NumberReading::TooLarge;
+        return NumberKind::TooLarge;
     value = static_cast<std::int32_t>(number);
-    return NumberReading::Whole;
+    return NumberKind::Whole;
 }
 
 bool IsNumeric(std::string_view text)
@@ -97,39 +96,8 @@ bool IsNumeric(std::string_view text)
     return SplitDecimal(text, decimal);
 }
 
-std::int32_t ToLong(std::string_view text)
-{
-    std::int32_t value = 0;
-    switch (ReadLong(text, value))
-    {
-    case NumberReading::NotNumeric:
-        throw TypeMismatch(text);
-    case NumberReading::TooLarge:
-        throw Overflow(text);
-    case NumberReading::Whole:
-        break;
-    }
-    return value;
-}
-
 std::int32_t ToLongOrZero(std::string_view text)
 {
     std::int32_t value = 0;
-    return ReadLong(text, value) == NumberReading::Whole ? value : 0;
-}
-
-std::int32_t CheckedSum(std::int32_t a, std::int32_t b)
-{
-    std::int32_t sum = 0;
-    if (__builtin_add_overflow(a, b, &sum))
-        throw Overflow();
-    return sum;
-}
-
-std::int32_t CheckedProduct(std::int32_t a, std::int32_t b)
-{
-    std::int32_t product = 0;
-    if (__builtin_mul_overflow(a, b, &product))
-        throw Overflow();
-    return product;
+    return ParseLong(text, value) == NumberKind::Whole ? value : 0;
 }

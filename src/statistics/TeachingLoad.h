@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
 #include <array>
 #include <cstddef>
@@ -30,7 +30,7 @@ enum class OtherTypes
 std::optional<Tip> TipOf(std::string_view text, OtherTypes others);
 
 /// What one cell of the sums holds. All sums are 32-bit signed and checked.
-struct Load
+struct TeachingLoad
 {
     std::int32_t P = 0;
     std::int32_t S = 0;
@@ -38,37 +38,37 @@ struct Load
     std::int32_t ECTS = 0;
     std::int32_t Kolegija = 0; ///< How many courses.
 
-    /// Adds another load field by field. @throws Overflow
-    Load& operator+=(const Load& other);
+    /// Adds another load field by field. @throws OverflowError
+    TeachingLoad& operator+=(const TeachingLoad& other);
 
-    /// The load that many times over. @throws Overflow
-    Load Times(std::int32_t weight) const;
+    /// The load that many times over. @throws OverflowError
+    TeachingLoad Times(std::int32_t weight) const;
 
     /// The five numbers in the order of the table's columns.
     std::array<std::int32_t, 5> Numbers() const { return {P, S, V, ECTS, Kolegija}; }
 };
 
-inline constexpr int MostSemesters = 6;
+inline constexpr int MaxSemesters = 6;
 
 /// The sums per semester and type.
-class LoadSums
+class TeachingLoadSums
 {
 public:
-    /// Adds a course's load; a semester outside 1 to 6 is left out. @throws Overflow
-    void Add(std::int32_t semestar, Tip tip, const Load& load);
+    /// Adds a course's load; a semester outside 1 to 6 is left out. @throws OverflowError
+    void Add(std::int32_t semestar, Tip tip, const TeachingLoad& load);
 
     /// The sums of a semester from 1 to 6.
-    const Load& Of(int semestar, Tip tip) const;
+    const TeachingLoad& Of(int semestar, Tip tip) const;
 
-    /// The sums of a type over the semesters 1 to `last`. @throws Overflow
-    Load Total(Tip tip, int last) const;
+    /// The sums of a type over the semesters 1 to `last`. @throws OverflowError
+    TeachingLoad Total(Tip tip, int last) const;
 
 private:
-    std::array<std::array<Load, 2>, MostSemesters> Sums;
+    std::array<std::array<TeachingLoad, 2>, MaxSemesters> m_sums;
 };
 
 /// How a window words its totals, and whether it flags a semester's type with more than 30 ECTS.
-struct LoadTableStyle
+struct TeachingLoadStyle
 {
     std::string_view TypeTotal;  ///< First cell of the rows of both types.
     std::string_view GrandTotal; ///< First cell of the last row.
@@ -76,30 +76,32 @@ struct LoadTableStyle
     bool FlagsOverfull;
 };
 
-inline constexpr LoadTableStyle FlaggingStyle = {"UKUPNO", "TOTAL", "Sve", true};
-inline constexpr LoadTableStyle PlainStyle = {"Ukupno", "Ukupno", "Total", false};
+inline constexpr TeachingLoadStyle FlaggingStyle = {"UKUPNO", "TOTAL", "Sve", true};
+inline constexpr TeachingLoadStyle PlainStyle = {"Ukupno", "Ukupno", "Total", false};
 
 /// Which semesters have rows: 1 to `Last`, or `Only` one of them. The totals cover 1 to `Last` all the same.
 struct SemesterRange
 {
-    int Last = MostSemesters;
+    int Last = MaxSemesters;
     int Only = 0; ///< 0 for all.
 };
 
 /// One row of the table before it is text.
-struct LoadLine
+struct TeachingLoadLine
 {
     std::string_view First;  ///< The semester, or what the total is of.
     std::string_view Second; ///< The type.
-    Load Sums;
+    TeachingLoad Sums;
     bool IsTotal;
     bool IsOverfull; ///< More than 30 ECTS for one type in one semester.
 };
 
-/// The table's lines, in the order of LoadRows. @throws Overflow
-std::vector<LoadLine> LoadLines(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range = {});
+/// The table's lines, in the order of TeachingLoadRows. @throws OverflowError
+std::vector<TeachingLoadLine> TeachingLoadLines(const TeachingLoadSums& sums, const TeachingLoadStyle& style,
+                                                SemesterRange range = {});
 
 /// The table's rows: per semester the compulsory and the elective sums, then three bold rows of totals.
 /// Cells: semester, type, P, S, V, ECTS, number of courses; the ECTS of an overfull row are red. @throws
-/// Overflow
-std::vector<ListRow> LoadRows(const LoadSums& sums, const LoadTableStyle& style, SemesterRange range = {});
+/// OverflowError
+std::vector<ListRow> TeachingLoadRows(const TeachingLoadSums& sums, const TeachingLoadStyle& style,
+                                      SemesterRange range = {});

@@ -4,7 +4,7 @@
 #include <string_view>
 
 /// How a text reads as a whole number.
-enum class NumberReading
+enum class NumberKind
 {
     Whole,      ///< A number that fits 32 bits signed.
     NotNumeric, ///< No number at all.
@@ -14,26 +14,10 @@ enum class NumberReading
 /// Reads a text as a whole number, halves rounded to even; `value` is set only for `Whole`.
 /// A number is: blanks around it, an optional sign, digits with at most one "." or "," as the decimal
 /// separator, at least one digit. No locale changes this.
-NumberReading ReadLong(std::string_view text, std::int32_t& value);
+NumberKind ParseLong(std::string_view text, std::int32_t& value);
 
 /// True when the text is a number, whatever its size.
 bool IsNumeric(std::string_view text);
 
-/// The text as a whole number. @throws TypeMismatch when it is not numeric, Overflow when it does not fit.
-std::int32_t ToLong(std::string_view text);
-
 /// Safe conversion: 0 for a text that is not numeric or does not fit.
 std::int32_t ToLongOrZero(std::string_view text);
-
-/// How a stored number is converted where it is used.
-enum class Conversion
-{
-    Strict, ///< A text that is no whole number is an error.
-    Safe,   ///< It counts as 0.
-};
-
-/// The sum. @throws Overflow when it does not fit 32 bits signed.
-std::int32_t CheckedSum(std::int32_t a, std::int32_t b);
-
-/// The product. @throws Overflow when it does not fit 32 bits signed.
-std::int32_t CheckedProduct(std::int32_t a, std::int32_t b);

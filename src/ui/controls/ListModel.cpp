@@ -1,14 +1,14 @@
-#include "lists/ListModel.h"
+#include "ui/controls/ListModel.h"
 
-#include "data/Text.h"
-#include "lists/CroatianOrder.h"
+#include "text/CroatianOrder.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <numeric>
 
 ListColour ElectiveColour(std::string_view tip)
 {
-    return IsWord(tip, "IZBORNI") ? Blue : Black;
+    return EqualsIgnoreCase(tip, "IZBORNI") ? ListColours::Blue : ListColours::Black;
 }
 
 ListRow UniformRow(const std::vector<std::string>& texts, ListColour colour, bool bold)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lists/ListModel.h"
 #include "support/TestFolder.h"
+#include "ui/controls/ListModel.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -52,14 +52,14 @@ inline std::vector<std::string> FileLines(std::string_view content)
 class ReadOnly
 {
 public:
-    explicit ReadOnly(std::filesystem::path file) : File(std::move(file))
+    explicit ReadOnly(std::filesystem::path file) : m_file(std::move(file))
     {
-        std::filesystem::permissions(File, Write, std::filesystem::perm_options::remove);
+        std::filesystem::permissions(m_file, Write, std::filesystem::perm_options::remove);
     }
     ~ReadOnly()
     {
         std::error_code ignored;
-        std::filesystem::permissions(File, Write, std::filesystem::perm_options::add, ignored);
+        std::filesystem::permissions(m_file, Write, std::filesystem::perm_options::add, ignored);
     }
     ReadOnly(const ReadOnly&) = delete;
     ReadOnly& operator=(const ReadOnly&) = delete;
@@ -68,5 +68,5 @@ private:
     static constexpr std::filesystem::perms Write = std::filesystem::perms::owner_write |
                                                     std::filesystem::perms::group_write |
                                                     std::filesystem::perms::others_write;
-    std::filesystem::path File;
+    std::filesystem::path m_file;
 };

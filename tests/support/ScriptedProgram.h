@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+/// How a run of the scripted program ended.
+struct Outcome
+{
+    long ExitCode;
+    std::string Output; ///< The message boxes, a line each: title, severity, text.
+};
+
+/// Runs the scripted program to its end. What it does is asked for by variables of the environment.
+Outcome RunScriptedProgram();
