@@ -8,6 +8,7 @@
 #include "ui/controls/ExportCommand.h"
 #include "ui/controls/Messages.h"
 #include "ui/controls/NativeFields.h"
+#include "ui/controls/ReadableColour.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -78,7 +79,7 @@ void frmECTSCalc::OnLostFocus(std::span<wxTextCtrl* const> boxes, const std::fun
 void frmECTSCalc::Form_Load()
 {
     CenterForm(*this);
-    lblUpozorenje->SetForegroundColour(wxColour(ListColours::Red));
+    lblUpozorenje->SetForegroundColour(ReadableColour(wxColour(ListColours::Red), wxSYS_COLOUR_BTNFACE));
     for (const std::string_view hours : HoursPerEctsChoices)
         cbo1ECTS->Append(ToWx(hours));
     cbo1ECTS->SetSelection(InitialHoursPerEcts);
@@ -119,7 +120,8 @@ void frmECTSCalc::ShowFields()
     for (const Field& field : m_boxes)
         if (ShownText(*field.Box) != *field.Text)
             field.Box->ChangeValue(ToWx(*field.Text));
-    lblUpozorenje->SetForegroundColour(wxColour(m_fields.BojaUpozorenja));
+    lblUpozorenje->SetForegroundColour(
+        ReadableColour(wxColour(m_fields.BojaUpozorenja), wxSYS_COLOUR_BTNFACE));
     lblUpozorenje->SetLabel(ToWx(m_fields.Upozorenje));
 }
 

@@ -3,6 +3,7 @@
 #include "ui/controls/ListView.h"
 #include "ui/controls/NativeFunction_gtk.h"
 #include "ui/controls/NativeList.h"
+#include "ui/controls/ReadableColour.h"
 #include "ui/controls/TreeCursor_gtk.h"
 
 #include <wx/dataview.h>
@@ -41,7 +42,7 @@ public:
         const CellStyle style = m_view.Style(static_cast<int>(row), static_cast<int>(column));
         // Black is left to the theme, whose text may be light on dark.
         if (style.Colour != ListColours::Black)
-            attr.SetColour(wxColour(style.Colour));
+            attr.SetColour(ReadableColour(wxColour(style.Colour), wxSYS_COLOUR_LISTBOX));
         attr.SetBold(style.Bold);
         return style != CellStyle();
     }

@@ -2,6 +2,7 @@
 
 #include "ui/controls/ListView.h"
 #include "ui/controls/NativeList.h"
+#include "ui/controls/ReadableColour.h"
 
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
@@ -184,7 +185,7 @@ protected:
             return &m_attributes;
         const CellStyle style = m_view.Style(static_cast<int>(row), static_cast<int>(column));
         if (style.Colour != ListColours::Black)
-            m_attributes.SetTextColour(wxColour(style.Colour));
+            m_attributes.SetTextColour(ReadableColour(wxColour(style.Colour), wxSYS_COLOUR_LISTBOX));
         if (style.Bold)
             m_attributes.SetFont(GetFont().Bold());
         return &m_attributes;

@@ -4,6 +4,7 @@
 #include "data/modData.h"
 #include "ui/controls/AccessibleName.h"
 #include "ui/controls/Controls.h"
+#include "ui/controls/ReadableColour.h"
 #include "ui/controls/Strings.h"
 
 #include <wx/button.h>
@@ -93,7 +94,7 @@ wxStaticText* frmAbout::AddLabel(wxSizer& sizer, const char* name, const std::st
 wxStaticText* frmAbout::AddLink(wxSizer& sizer, const char* name, const std::string& text)
 {
     wxStaticText* label = AddLabel(sizer, name, text);
-    label->SetForegroundColour(LinkColour);
+    label->SetForegroundColour(ReadableColour(LinkColour, wxSYS_COLOUR_BTNFACE));
     label->SetFont(label->GetFont().Underlined());
     return label;
 }
