@@ -140,7 +140,7 @@ inline void ExpectColumns(const ListView* list, const std::vector<ExpectedColumn
         EXPECT_EQ(list->ColumnCaption(i), column.Caption);
         const int given = list->FromDIP(column.Twips / 15);
 #ifdef _WIN32
-        constexpr int padding = 13; // that the header leaves around a caption
+        constexpr int padding = 18; // that the header leaves around a caption
         const int needed = InnerList(list)->GetTextExtent(column.Caption).x + list->FromDIP(padding);
         EXPECT_EQ(list->ColumnWidth(i), std::max(given, needed)) << column.Caption;
 #else

@@ -57,7 +57,7 @@ public:
 
     int CaptionWidth(const wxString& caption) const override
     {
-        constexpr int padding = 13; // at 96 dots to the inch; the header's own, on both sides
+        constexpr int padding = 18; // at 96 dots to the inch; the widest header's own, on both sides
         return GetTextExtent(caption).x + FromDIP(padding);
     }
 
