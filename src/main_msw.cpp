@@ -7,8 +7,8 @@ wxIMPLEMENT_APP_NO_MAIN(VarlostudijiApp);
 namespace
 {
 
-// Someone could plant a library beside the portable program, in the folder of downloads. From here on,
-// libraries come from the system's folder alone. Windows 7 may lack the call; the program then goes on
+// Someone could plant a library beside the portable program, for example in the downloads folder. From here
+// on libraries come only from the system's folder. Windows 7 may lack this function; the program then runs
 // without it.
 void LoadLibrariesFromSystemOnly()
 {

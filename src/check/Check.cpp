@@ -30,7 +30,7 @@ FileContent ReadContent(const std::string& folder, std::string_view name)
         if (TypeOf(path) != FileType::Missing)
             content.Bytes = ReadFile(path);
         if (!content.Bytes || content.Bytes->empty() || content.Bytes == modData::Utf8Mark)
-            content.Failure = InputPastEnd(path); // a missing file is created empty at a start
+            content.Failure = InputPastEnd(path); // at its start the program creates a missing file, empty
     }
     catch (const FileError& error)
     {
@@ -39,7 +39,7 @@ FileContent ReadContent(const std::string& folder, std::string_view name)
     return content;
 }
 
-/// A rule's own text; a field's value in it may be of any length.
+/// The text of a validation message; a field's value in it may be of any length.
 std::string RuleText(std::string_view text)
 {
     constexpr std::size_t maxCharacters = 250;
@@ -51,7 +51,7 @@ std::string ErrorText(const RuntimeError& error)
     return RuleText("Greška " + std::to_string(error.Number()) + ": " + std::string(error.Fault()));
 }
 
-/// Where a finding is among all: file, line, column.
+/// The sort key of a finding: file, line, column.
 using Position = std::tuple<std::size_t, std::size_t, std::size_t>;
 
 template<typename Range, typename Value, typename Projection = std::identity>
@@ -68,7 +68,7 @@ Position PositionOf(const Finding& finding)
     return {file, finding.Place.Line, IndexIn(tables[file]->Layout().Columns, finding.Place.Column)};
 }
 
-/// Runs the validation over every row, also after one that ends in an error.
+/// Runs the validation over every row, and goes on after a row that ends in an error.
 void Validate(Findings& findings)
 {
     for (const modCSVValidator::RowCheck& check : modCSVValidator::RowChecks)
@@ -88,7 +88,7 @@ void Validate(Findings& findings)
         }
 }
 
-/// Leaves out repeated findings: an error that many rows meet at one place, and a danger there as well.
+/// Leaves out repeated findings: an error that many rows cause at one place, and a danger at the same place.
 void RemoveRepeated(Findings& findings)
 {
     std::set<std::pair<Position, std::string>> errors;
@@ -103,11 +103,11 @@ void RemoveRepeated(Findings& findings)
                   });
 }
 
-/// What the rows of the loaded tables show, at the places that an editor shows.
+/// The findings of the loaded tables' rows, at the lines that an editor shows.
 Findings FindInTables(const Contents& contents)
 {
     Findings findings;
-    Validate(findings); // before the rest, so that a danger at the place of an error can be left out
+    Validate(findings); // first: a danger at the place of an error is left out later
     FindInRows(findings);
     const auto tables = modData::AllTables();
     std::vector<EditorLines> lines;
@@ -154,7 +154,7 @@ Findings FindingsOf(const Contents& contents)
             FindInFile(bytes, layout, findings);
         *tables[i] = modData::ParseTable(modData::NormalizedContent(std::string(bytes)), layout);
     }
-    // Beside a table that is missing, most references of the others would lead nowhere.
+    // Without one of the tables most references to it would be reported.
     if (std::ranges::none_of(contents,
                              [](const FileContent& content) { return content.Failure.has_value(); }))
         std::ranges::move(FindInTables(contents), std::back_inserter(findings));

@@ -15,7 +15,7 @@ namespace
 std::wstring Wide(std::string_view text)
 {
     const int size = static_cast<int>(text.size());
-    std::wstring wide(text.size(), L'\0'); // enough, since no character has fewer bytes
+    std::wstring wide(text.size(), L'\0'); // enough: a UTF-16 unit comes from one byte or more
     wide.resize(static_cast<std::size_t>(
         MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), static_cast<int>(wide.size()))));
     return wide;
@@ -55,7 +55,7 @@ void WriteToConsole(HANDLE console, std::wstring_view text)
 
 std::vector<std::string> Arguments(int, char* const*)
 {
-    // The ones that main is given are in the system's code page, which has not all letters.
+    // The arguments of main are in the system's code page, which lacks some letters.
     int count = 0;
     wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> arguments;
@@ -70,7 +70,7 @@ void Write(std::string_view text)
     const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
     if (IsConsole(output))
         return WriteToConsole(output, Wide(text));
-    std::fwrite(text.data(), 1, text.size(), stdout); // which makes CR LF of each "\n"
+    std::fwrite(text.data(), 1, text.size(), stdout); // turns "\n" into CR LF
     std::fflush(stdout);
 }
 

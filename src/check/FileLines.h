@@ -12,15 +12,15 @@
 namespace Check
 {
 
-/// A line of a file as an editor shows it: CR LF, CR or LF ends it.
+/// A line of a file as an editor shows it; CR LF, CR or LF ends it.
 struct FileLine
 {
     std::size_t Number; ///< From 1.
     std::string_view Text;
-    std::string_view End; ///< Empty at the end of a file without one.
+    std::string_view End; ///< Empty if the file's last line has no end.
 };
 
-/// Takes the first line off. The bytes are not empty.
+/// Takes the first line off. There must be at least one byte.
 FileLine TakeFileLine(std::string_view& bytes, std::size_t number);
 
 /// Calls `visit` with each line.
@@ -31,7 +31,7 @@ void ForEachLine(std::string_view bytes, const Visit& visit)
         visit(TakeFileLine(bytes, number));
 }
 
-/// Calls `visit` with each field of a line and its position, from 0. Every ";" splits.
+/// Calls `visit` with each field of a line and its position, from 0. Every ";" separates.
 template<typename Visit>
 void ForEachField(std::string_view line, const Visit& visit)
 {
@@ -47,11 +47,10 @@ void ForEachField(std::string_view line, const Visit& visit)
 
 std::size_t FieldCount(std::string_view line);
 
-/// Whether a line has a separator and blanks, and nothing else.
+/// True for a line of separators and blanks only, with at least one separator.
 bool IsSeparatorsOnly(std::string_view line);
 
-/// Turns the places that a table gives into those that an editor shows: the table does not count a lone LF
-/// as the end of a line.
+/// Turns a table's line numbers into those that an editor shows: for the table a lone LF does not end a line.
 class EditorLines
 {
 public:
@@ -68,7 +67,7 @@ private:
 
     std::string_view m_bytes;
     const modData::TableLayout& m_layout;
-    std::vector<Start> m_starts; // of the table's lines; none where both count alike
+    std::vector<Start> m_starts; // of the table's lines; empty if both count alike
 };
 
 } // namespace Check

@@ -112,7 +112,7 @@ private:
             m_isUtf8Told = true;
         }
         const bool hasQuote = m_hasQuotes && line.Text.find('"') != std::string_view::npos;
-        if (hasQuote || m_hasNuls || m_written.In == Letters::Utf8) // in most files nothing is to be found
+        if (hasQuote || m_hasNuls || m_written.In == Letters::Utf8) // false for most files
             ForEachField(line.Text,
                          [&](std::string_view field, std::size_t position) {
                              FindInField(field, {m_layout.FileName, line.Number, ColumnAt(position)});

@@ -5,25 +5,25 @@
 #include <string>
 #include <vector>
 
-/// What is wrong with a catalogue's files, and where; and the mending of what needs no decision.
+/// Finds what is wrong with a catalogue's files, and where. Mends what needs no decision.
 namespace Check
 {
 
 enum class Group
 {
-    Error,  ///< Ends the load, or fails the validation.
-    Danger, ///< The next save would lose or spoil it, or a window would end in an error.
-    Note    ///< May be meant.
+    Error,  ///< The program cannot load the catalogue, or its validation fails.
+    Danger, ///< The next save would lose or change data, or a window would end in an error.
+    Note    ///< May be intended.
 };
 
-/// Something that a person should look at. The line is the one that an editor shows, 0 for a whole file; the
-/// column is empty for a whole line.
+/// Something that a person should look at. `Line` is the line number that an editor shows, 0 for a whole
+/// file; `Column` is empty for a whole line.
 struct Finding
 {
     Group In;
     FieldPlace Place;
     std::string Text;
-    bool MayBeMended = false; ///< Mend mends this kind where it needs no decision.
+    bool MayBeMended = false; ///< Mend handles this kind, if no decision is needed.
 };
 
 using Findings = std::vector<Finding>;

@@ -19,7 +19,7 @@ bool IsAscii(std::string_view bytes)
     return bytes.empty();
 }
 
-/// Whether the mark of UTF-16 begins the bytes, or one byte of the first letter is 0: a header is ASCII.
+/// Looks for UTF-16: its mark, or a 0 in the first two bytes, since a header is ASCII.
 bool IsUtf16(std::string_view bytes)
 {
     return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
@@ -31,7 +31,8 @@ bool IsInWindows1250(std::string_view character)
     return ToWindows1250(character) != "?";
 }
 
-/// Calls `visit` with each character beyond ASCII and with whether it is one, until it answers false.
+/// Calls `visit` with each character beyond ASCII and true, or with a byte that is not UTF-8 and false, until
+/// it returns false.
 template<typename Visit>
 void ForEachBeyondAscii(std::string_view text, const Visit& visit)
 {

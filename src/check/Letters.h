@@ -6,10 +6,10 @@
 namespace Check
 {
 
-/// How a file's letters are written.
+/// The encoding of a file's letters.
 enum class Letters
 {
-    Windows1250, ///< Or nothing but ASCII.
+    Windows1250, ///< Or plain ASCII.
     Utf8,
     Mixed, ///< Some lines in windows-1250, others in UTF-8.
     Utf16
@@ -17,20 +17,20 @@ enum class Letters
 
 struct Writing
 {
-    bool HasMark; ///< The UTF-8 mark is at the start.
+    bool HasMark; ///< The file begins with the UTF-8 mark.
     Letters In;
 };
 
 Writing WritingOf(std::string_view bytes);
 
-/// Whether bytes are UTF-8 with at least one character beyond ASCII.
+/// True for valid UTF-8 with at least one character beyond ASCII.
 bool IsBeyondAsciiUtf8(std::string_view bytes);
 
-/// As IsBeyondAsciiUtf8, with at least one character that windows-1250 has too. In Croatian windows-1250 text
-/// no letters in a row look like one.
+/// As IsBeyondAsciiUtf8, with at least one character that windows-1250 has too. Croatian text in windows-1250
+/// never looks like that.
 bool IsUtf8Text(std::string_view bytes);
 
-/// The characters of a UTF-8 text that windows-1250 lacks, each once.
+/// The characters of a UTF-8 text that windows-1250 lacks; each once.
 std::string LettersLost(std::string_view text);
 
 } // namespace Check

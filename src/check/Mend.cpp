@@ -19,7 +19,7 @@ namespace
 
 constexpr std::string_view LoneLF = "\n";
 
-/// Splits bytes into lines. A record with a line break in quotes is a line.
+/// Splits bytes into lines. A record with a line break in quotes is one line.
 std::vector<FileLine> RecordsOf(std::string_view bytes, std::size_t columns)
 {
     std::vector<FileLine> records;
@@ -45,7 +45,7 @@ bool IsWholeRow(const FileLine& record, std::size_t columns)
            QuotedRecordSize(record.Text, columns) > 0;
 }
 
-/// Mends the records of a file whose letters are in order.
+/// Mends the records of a file whose encoding is already right.
 class RecordMender
 {
 public:
@@ -67,7 +67,7 @@ public:
             std::ranges::any_of(records, [](const FileLine& record) { return record.End.starts_with('\r'); });
         for (auto begin = records.begin(); begin != records.end();)
         {
-            // As the table reads them: lone LFs do not end a line.
+            // As the table reads them: a lone LF does not end a line.
             auto end = std::find_if(begin, records.end(),
                                     [](const FileLine& record) { return record.End != LoneLF; });
             end = end == records.end() ? end : end + 1;
@@ -90,8 +90,7 @@ private:
         return InQuotes(m_isUtf8 ? std::string(bytes) : FromWindows1250(bytes));
     }
 
-    /// Where other lines end in CR, a lone LF may be part of a field: it is mended where whole rows are on
-    /// both of its sides.
+    /// If other lines end in CR, a lone LF may be part of a field: it is mended only between two whole rows.
     void MendTableLine(std::span<const FileLine> records)
     {
         const bool hasLoneLF = records.front().End == LoneLF;
@@ -139,8 +138,8 @@ private:
                      });
     }
 
-    /// Quotes may be part of a name. A doubled one inside or a quoted header shows that a spreadsheet put
-    /// them.
+    /// Quotes may be part of a name. Doubled quotes inside, or a quoted header, show that they are a
+    /// spreadsheet's.
     std::string MendedField(std::string_view field, const FieldPlace& place)
     {
         if (!IsQuoted(field) ||
@@ -162,7 +161,7 @@ private:
     std::size_t m_firstLoneLF = 0;
 };
 
-/// Why the letters of a file cannot be mended without a decision; empty when they can.
+/// Why the encoding of a file cannot be mended without a decision; empty if it can.
 std::string WhyLettersStay(std::string_view bytes, const Writing& writing)
 {
     if (writing.In == Letters::Utf16)
@@ -188,7 +187,7 @@ Mended MendOnce(std::string_view bytes, const modData::TableLayout& layout)
 
     Mended result;
     std::string text(unmarked);
-    const bool staysUtf8 = writing.HasMark && writing.In == Letters::Utf8; // the program converts it itself
+    const bool staysUtf8 = writing.HasMark && writing.In == Letters::Utf8; // the program converts it
     if (staysUtf8)
         result.Bytes = modData::Utf8Mark;
     else if (writing.HasMark)

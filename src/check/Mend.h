@@ -10,7 +10,7 @@
 namespace Check
 {
 
-/// Something that was mended, or that needs a decision and was left.
+/// Something that was mended, or was left because it needs a decision.
 struct Change
 {
     FieldPlace Place;
@@ -20,11 +20,11 @@ struct Change
 struct Mended
 {
     std::string Bytes;
-    std::vector<Change> Changes; ///< From the file's bytes to these.
+    std::vector<Change> Changes; ///< The differences from the file's bytes.
     std::vector<Change> Left;
 };
 
-/// Mends in a table's file what needs no decision: lone LFs, UTF-8 without a mark, a mark before windows-1250
+/// Mends what needs no decision in a table's file: lone LFs, UTF-8 without a mark, a mark before windows-1250
 /// text, a spreadsheet's quotes around a whole field, rows of separators. Mending again changes nothing.
 Mended Mend(std::string_view bytes, const modData::TableLayout& layout);
 

@@ -45,7 +45,7 @@ struct Options
     bool Wait = false;
 };
 
-/// What the arguments say; nothing when they make no sense.
+/// The parsed arguments; nothing if they are wrong.
 std::optional<Options> OptionsOf(std::span<const std::string> arguments)
 {
     Options options;
@@ -65,10 +65,11 @@ std::optional<Options> OptionsOf(std::span<const std::string> arguments)
     return options;
 }
 
-/// The contents to judge: of a save that was interrupted, the ones that the next start of the program brings.
+/// The contents to check. If a save was interrupted, they are those that the next start of the program will
+/// have.
 Contents ContentsToCheck(const std::string& folder, const Terminal& terminal)
 {
-    const CatalogueLock lock(folder, LockKind::Saving); // so that no save is read halfway
+    const CatalogueLock lock(folder, LockKind::Saving); // no save may run while the files are read
     const std::optional<std::string> set = CatalogueSave::CompleteSet(OnDisk(folder));
     if (set)
         terminal.Write("Posljednje spremanje nije dovršeno: provjeravaju se datoteke koje će program pri "
@@ -115,7 +116,7 @@ ExitCode RepairFolder(const std::string& folder, const Terminal& terminal)
     return CodeOf(CheckFolder(folder, terminal));
 }
 
-/// Offers the repair after a check that could do with one.
+/// Offers the repair after a check that found something to repair.
 ExitCode CheckAndOffer(const Options& options, const Terminal& terminal)
 {
     const Findings findings = CheckFolder(options.Folder, terminal);

@@ -8,22 +8,22 @@
 namespace Check
 {
 
-/// How the program ends.
+/// The program's exit codes.
 enum ExitCode : int
 {
     Valid = 0,
-    Invalid = 1, ///< The load of the catalogue or its validation fails.
-    NotDone = 2  ///< The folder cannot be read, a repair is refused, or the arguments make no sense.
+    Invalid = 1, ///< The catalogue cannot be loaded, or its validation fails.
+    NotDone = 2  ///< The folder cannot be read, a repair is refused, or the arguments are wrong.
 };
 
-/// What the program talks through.
+/// The program's input and output.
 struct Terminal
 {
     std::function<void(std::string_view text)> Write;
     std::function<std::string()> ReadLine; ///< Waits for Enter.
 };
 
-/// The program varlostudiji-provjera: takes its arguments, writes its report and answers with its exit code.
+/// The program varlostudiji-provjera: writes its report about a catalogue, and returns its exit code.
 ExitCode Provjera(std::span<const std::string> arguments, const Terminal& terminal);
 
 } // namespace Check

@@ -11,7 +11,7 @@ namespace
 constexpr std::string_view FieldEnds = ";\r\n";
 constexpr std::string_view LineBreaks = "\r\n";
 
-/// Where the quote is that closes a field whose opening one is at `begin`; npos if none does.
+/// The position of the quote that closes a field; the opening one is at `begin`. npos if there is none.
 std::size_t ClosingQuote(std::string_view bytes, std::size_t begin)
 {
     std::size_t quote = bytes.find('"', begin + 1);
@@ -35,7 +35,7 @@ std::string Unquoted(std::string_view field)
     {
         text += field[i];
         if (field[i] == '"')
-            ++i; // the second of the two
+            ++i; // skip the second of two
     }
     return text;
 }
@@ -49,7 +49,7 @@ bool IsQuotedThroughout(std::string_view line)
 
 std::size_t QuotedRecordSize(std::string_view bytes, std::size_t columns)
 {
-    constexpr std::size_t longest = 4096; // so that a quote which nothing closes costs little
+    constexpr std::size_t longest = 4096; // limits the search for a missing closing quote
     bytes = bytes.substr(0, longest);
     bool holdsEnd = false;
     std::size_t at = 0;
@@ -68,7 +68,7 @@ std::size_t QuotedRecordSize(std::string_view bytes, std::size_t columns)
         {
             at = bytes.find_first_of(FieldEnds, at);
         }
-        if (at >= bytes.size()) // the end of the file, or of what is looked at
+        if (at >= bytes.size()) // the end of the file, or the limit
             return column == columns && holdsEnd && bytes.size() < longest ? bytes.size() : 0;
         if (LineBreaks.find(bytes[at]) != std::string_view::npos)
             return column == columns && holdsEnd ? at : 0;

@@ -23,7 +23,7 @@ constexpr std::string_view IsPending =
     "Posljednje spremanje nije dovršeno. Pokrenite Varlostudije, koji će ga "
     "dovršiti, zatvorite ih i pokušajte ponovno.";
 
-/// The files of a catalogue that are there, mended.
+/// Those of a catalogue's files that exist, mended.
 struct MendedCatalogue
 {
     CatalogueOnDisk Files;
@@ -52,7 +52,7 @@ MendedCatalogue MendFiles(const std::string& folder)
 void Save(const MendedCatalogue& mended)
 {
     const CatalogueOnDisk& files = mended.Files;
-    DatedCopies::KeepAnother(files); // a save goes on without a copy; a repair does not
+    DatedCopies::KeepAnother(files); // unlike a save, a repair needs its copy
     CatalogueSave::Save(files,
                         [&](const std::string& set)
                         {
@@ -70,7 +70,7 @@ bool IsRepairable(const std::string& folder)
 
 Repair RepairCatalogue(const std::string& folder)
 {
-    const CatalogueLock lock(folder, LockKind::Saving); // a program that starts now waits for it
+    const CatalogueLock lock(folder, LockKind::Saving); // a program that starts now waits
     if (System::Files.IsLockedByRunning(ToPath(folder)))
         return {{}, {}, IsOpen};
     if (CatalogueSave::CompleteSet(OnDisk(folder)))

@@ -24,7 +24,7 @@ constexpr GroupWords Groups[] = {
     {Group::Note, "Napomene", "možda je tako i zamišljeno"},
 };
 
-/// A fault may be in every row of a column; so many rows are shown.
+/// The same fault may be in every row; only this many rows are shown.
 constexpr std::size_t RowsOfOneColumn = 20;
 
 struct Rest

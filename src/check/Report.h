@@ -8,10 +8,10 @@
 namespace Check
 {
 
-/// The findings as the console shows them: three groups, a line each.
+/// The report on the console: three groups of findings, a line for each.
 std::string ReportOf(const Findings& findings);
 
-/// Where something is and what: "db_smjer.csv, redak 3, StudijID: ...".
+/// A place and what is there: "db_smjer.csv, redak 3, StudijID: ...".
 std::string LineOf(const FieldPlace& place, std::string_view text);
 
 } // namespace Check

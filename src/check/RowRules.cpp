@@ -21,7 +21,7 @@ using namespace modData;
 
 constexpr std::size_t HourColumns[] = {Kolegij::P, Kolegij::S, Kolegij::V, Kolegij::ECTS};
 
-// The columns that are read as numbers and must be some.
+// The columns that must hold numbers.
 constexpr std::size_t ZavodNumbers[] = {Zavod::ID};
 constexpr std::size_t NastavnikNumbers[] = {Nastavnik::ID, Nastavnik::ZavodID};
 constexpr std::size_t StudijNumbers[] = {Studij::ID};
@@ -32,11 +32,11 @@ constexpr std::size_t KolegijSmjerNumbers[] = {KolegijSmjer::KolegijID, KolegijS
 constexpr std::size_t KolegijNastavnikNumbers[] = {KolegijNastavnik::KolegijID, KolegijNastavnik::NastavnikID,
                                                    KolegijNastavnik::Redoslijed};
 
-/// What the program needs of a row.
+/// The fields that the program needs in a row.
 struct RowNeeds
 {
     const modData::Table& Rows;
-    std::size_t Fields; ///< With fewer, the validation or a window ends in an error.
+    std::size_t Fields; ///< With fewer fields, the validation or a window ends in an error.
     std::span<const std::size_t> Numbers;
 };
 
@@ -99,7 +99,7 @@ void FindUnreadNumbers(const modData::Row& row, const RowNeeds& needs, Findings&
 
 void FindInRow(const modData::Row& row, const RowNeeds& needs, Findings& findings)
 {
-    if (IsBlank(row)) // a row of separators, which the rules for the file report
+    if (IsBlank(row)) // a row of separators; FileRules reports it
         return;
     FindFieldCount(row, needs, findings);
     if (row.Field(0).empty())
@@ -109,7 +109,7 @@ void FindInRow(const modData::Row& row, const RowNeeds& needs, Findings& finding
     FindUnreadNumbers(row, needs, findings);
 }
 
-/// Runs a rule over the rows of a table. A row that cannot be read has been reported already.
+/// Runs a rule over the rows of a table. A row that cannot be read is already reported.
 template<typename Rule>
 void ForEachReadable(const modData::Table& table, const Rule& rule)
 {
@@ -130,7 +130,7 @@ void ForEachRepeated(const modData::Table& table, const Key& key, const Tell& te
     std::vector<std::int64_t> keys;
     keys.reserve(table.RowCount());
     ForEachReadable(table, [&](const modData::Row& row) { keys.push_back(key(row)); });
-    std::ranges::sort(keys); // several times as fast as a set, and mostly nothing is repeated
+    std::ranges::sort(keys); // several times as fast as a set
     if (std::ranges::adjacent_find(keys) == keys.end())
         return;
     std::unordered_set<std::int64_t> seen;
@@ -234,7 +234,7 @@ void FindInRows(Findings& findings)
         for (const modData::Row& row : needs.Rows)
             FindInRow(row, needs, findings);
     for (const modData::Table* table :
-         {&Zavodi, &Studiji, &Smjerovi}) // the validation looks for repeated IDs in others
+         {&Zavodi, &Studiji, &Smjerovi}) // the validation checks the other tables for repeated IDs
         FindRepeatedIDs(*table, findings);
     ForEachReadable(Kolegiji, [&](const modData::Row& row) { FindInKolegij(row, findings); });
     ForEachReadable(KolegijSmjerovi, [&](const modData::Row& row) { FindForeignSmjer(row, findings); });

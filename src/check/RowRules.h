@@ -5,7 +5,7 @@
 namespace Check
 {
 
-/// What the rows of the loaded tables show that the validation does not look at.
+/// The findings from the rows of the loaded tables that the validation does not check.
 void FindInRows(Findings& findings);
 
 } // namespace Check

@@ -8,7 +8,7 @@
 namespace Check
 {
 
-/// A value, shown in quotes.
+/// A value as the report shows it, in quotes.
 inline std::string InQuotes(std::string_view value)
 {
     return "\"" + Shown(value) + "\"";

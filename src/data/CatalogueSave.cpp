@@ -30,7 +30,7 @@ bool IsSetComplete(const CatalogueOnDisk& files)
     return TypeOf(MarkOf(files)) == FileType::File;
 }
 
-/// Refuses a folder that is read-only, even for root.
+/// Throws for a folder that is read-only, even for root.
 void RequireWritable(const std::string& folder)
 {
     FileFacts facts;
@@ -39,7 +39,7 @@ void RequireWritable(const std::string& folder)
         throw FileError(std::make_error_code(std::errc::permission_denied), folder);
 }
 
-/// Removes a set. The mark comes first, so that the rest is an incomplete set.
+/// Removes a set. The mark goes first: without it the rest is an incomplete set.
 void RemoveSet(const CatalogueOnDisk& files)
 {
     const std::string set = SetOf(files);
@@ -67,14 +67,14 @@ std::string MarkedName(const CatalogueOnDisk& files)
     return DatedCopies::IsName(name) ? name : DatedCopies::NewName(files);
 }
 
-/// Whether a file is neither the one that was copied nor the one that replaces it.
+/// True if a file differs from both the copied one and the one that replaces it.
 bool IsEdited(const CatalogueOnDisk& files, const std::string& copy, std::string_view name)
 {
     return TypeOf(PathIn(files.Folder, name)) != FileType::Missing && !HaveSame(files.Folder, copy, name) &&
            !HaveSame(files.Folder, SetOf(files), name);
 }
 
-/// Keeps what the catalogue holds before it is replaced.
+/// Copies the catalogue before it is replaced.
 void KeepFormer(const CatalogueOnDisk& files, const std::string& name)
 {
     const std::string copy = DatedCopies::FolderOf(files, name);
@@ -89,7 +89,7 @@ void KeepFormer(const CatalogueOnDisk& files, const std::string& name)
             // The copy is best effort and must not block the save.
         }
     }
-    // An interrupted save is going on. What was edited since its beginning must not be lost.
+    // This finishes an interrupted save. Edits made since it began must not be lost.
     else if (std::ranges::any_of(files.Names,
                                  [&](std::string_view file) { return IsEdited(files, copy, file); }))
         DatedCopies::KeepAnother(files);
@@ -120,7 +120,7 @@ void Finish(const CatalogueOnDisk& files)
     {
         throw SaveNotFinished(failure);
     }
-    RemoveSet(files); // it is incomplete now, and harmless if it stays
+    RemoveSet(files); // if some of it stays, it is incomplete and harmless
     DatedCopies::Prune(files, name);
 }
 
@@ -133,8 +133,8 @@ void SetAside(const CatalogueOnDisk& files)
     RequireDone(Files.FlushFolder(ToPath(files.Folder)), files.Folder);
 }
 
-/// Whether a name is that of a temporary file of ReplaceFile for a file of the catalogue, or for the copy
-/// ".bak" that earlier versions kept.
+/// Whether a name is that of a temporary file of ReplaceFile, for a file of the catalogue or for the ".bak"
+/// copy that earlier versions kept.
 bool IsTemporaryOf(std::string_view file, std::string_view name)
 {
     constexpr std::string_view formerEnding = ".bak";

@@ -10,26 +10,25 @@
 ///   2. mark the set complete: this is the moment of saving;
 ///   3. keep a dated copy of the catalogue, then replace each file from the set;
 ///   4. remove the mark and the set.
-/// A complete set found at a start or a save is finished; an incomplete one is removed.
-/// The caller holds the lock of the catalogue for saving.
+/// A start or a save that finds a set of an earlier run finishes it if it is complete, and removes it if not.
 namespace CatalogueSave
 {
 
 /// Saves the files that `fill` writes.
-/// @throws FileError, and what `fill` throws, before step 2: the catalogue is untouched
-/// @throws SaveNotFinished after it: the set is kept, and the next start or save goes on
+/// @throws FileError, and what `fill` throws, before the end of step 2: the catalogue is untouched
+/// @throws SaveNotFinished later: the set is kept, and the next start or save goes on
 void Save(const CatalogueOnDisk& files, const FillFolder& fill);
 
-/// The folder of a complete set of an earlier save; nothing when there is none. @throws FileError
+/// The folder of a complete set of an earlier save; nothing if there is none. @throws FileError
 std::optional<std::string> CompleteSet(const CatalogueOnDisk& files);
 
-/// Finishes a complete set of an earlier save. @throws SaveNotFinished
+/// Finishes a complete set of an earlier save, if there is one. @throws SaveNotFinished
 void FinishAtStart(const CatalogueOnDisk& files);
 
-/// Removes what an ended program has left: an incomplete set, and temporary files. Best effort.
+/// Removes what a program that was ended has left: an incomplete set, and temporary files. Best effort.
 void RemoveLeftovers(const CatalogueOnDisk& files);
 
-/// Finishes a complete set of an earlier save; if that fails, moves it to "kopije". @throws FileError
+/// As FinishAtStart, but moves a set that cannot be finished to "kopije". @throws FileError
 void FinishAtSave(const CatalogueOnDisk& files);
 
 } // namespace CatalogueSave

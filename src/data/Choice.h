@@ -11,5 +11,5 @@ struct Choice
     std::int32_t Data = 0;
 };
 
-/// The entry of a filter that switches it off.
+/// The entry that switches a filter off ("All").
 inline constexpr std::string_view Svi = "Svi";

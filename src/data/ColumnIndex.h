@@ -6,11 +6,11 @@
 #include <unordered_map>
 #include <vector>
 
-/// Where each number of a column is, so that a search need not pass all rows.
+/// Finds the rows that have a number in a column without reading all rows.
 class ColumnIndex
 {
 public:
-    /// `numbers` are the column's, by position.
+    /// `numbers` are the column's numbers, by position of the row.
     explicit ColumnIndex(std::span<const std::int32_t> numbers);
 
     /// The positions of the rows with the number, in table order.
@@ -37,8 +37,8 @@ private:
     void NumberGroups(std::span<const std::int32_t> numbers);
     void FillGroups(std::span<const std::int32_t> numbers);
 
-    // Each number has a group of positions. Identifiers are mostly given one after the other: then the group
-    // follows from the number, which is several times as fast as a map; numbers far apart need the map.
+    // Each number has a group of positions. Identifiers mostly follow one another; the group is then the
+    // number less the smallest one, which is several times as fast as a map. Numbers far apart need the map.
     std::int64_t m_smallest = 0;
     std::unordered_map<std::int32_t, std::uint32_t> m_groups;
 

@@ -55,7 +55,7 @@ std::vector<std::string> NamesInCopies(const CatalogueOnDisk& files)
     return TypeOf(copies) == FileType::Folder ? NamesIn(copies) : std::vector<std::string>();
 }
 
-/// Orders names by time, those of one second by their number.
+/// Orders names by time; names of the same second by their number.
 bool IsOlder(std::string_view name, std::string_view other)
 {
     const auto key = [](std::string_view text)
@@ -157,7 +157,7 @@ void Keep(const CatalogueOnDisk& files, std::string_view name)
     }
     catch (const FileError&)
     {
-        Files.RemoveFolder(ToPath(CopiesOf(files))); // if it is empty: a full disk needs the room
+        Files.RemoveFolder(ToPath(CopiesOf(files))); // only if it is empty
         throw;
     }
 }
@@ -197,7 +197,7 @@ void Prune(const CatalogueOnDisk& files, std::string_view newest)
     }
     catch (const FileError&)
     {
-        // The copies take some more room until the next save.
+        // Best effort: the next save tries again.
     }
 }
 

@@ -10,7 +10,7 @@
 namespace DatedCopies
 {
 
-/// The time as a copy's name says it. A test puts a clock of its own here.
+/// The present time in the form of a copy's name. Test hook: a test can set its own clock.
 extern std::string (*CurrentTime)();
 
 /// The folder of a copy, or of anything else that is kept under a name there.
@@ -19,22 +19,23 @@ std::string FolderOf(const CatalogueOnDisk& files, std::string_view name);
 /// Whether a text is the name of a copy.
 bool IsName(std::string_view text);
 
-/// A name that nothing in "kopije" begins with. @throws FileError
+/// A new copy's name; nothing in "kopije" begins with it. @throws FileError
 std::string NewName(const CatalogueOnDisk& files);
 
-/// Copies the catalogue's files, those that are there, durably. Nothing happens when there is none.
+/// Copies those of the catalogue's files that exist, durably. Does nothing if there are none.
 /// @throws FileError
 void Keep(const CatalogueOnDisk& files, std::string_view name);
 
-/// As Keep, under a new name, unless the newest copy holds the same already. @throws FileError
+/// As Keep, under a new name. Does nothing if the newest copy holds the same. @throws FileError
 void KeepAnother(const CatalogueOnDisk& files);
 
-/// A new folder's path in "kopije", which is made when missing: a new name with `ending` at its end.
+/// The path for a new folder in "kopije": a new name with `ending` at its end. "kopije" is made if missing.
 /// @throws FileError
 std::string NewPlace(const CatalogueOnDisk& files, std::string_view ending);
 
-/// Removes copies except the newest 30, the last of each of the newest 30 days, and the one named `newest`.
-/// A folder that has another name, or holds anything but the files of a catalogue, stays. Best effort.
+/// Removes old copies. What stays: the newest 30, the last of each of the newest 30 days, the one named
+/// `newest`, and every folder that has another name or holds anything but the files of a catalogue. Best
+/// effort.
 void Prune(const CatalogueOnDisk& files, std::string_view newest);
 
 } // namespace DatedCopies

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <system_error>
 
-/// Where in a table file a faulty field stands, as the user needs it to find the place.
+/// Where a faulty field is in a table's file, for the user to find it.
 struct FieldPlace
 {
     std::string_view FileName;
@@ -16,20 +16,23 @@ struct FieldPlace
     bool operator==(const FieldPlace&) const = default;
 };
 
-/// An error that the user is shown: its number, and its text (Croatian, UTF-8) as what().
+/// An error shown to the user: its number, and its text (Croatian, UTF-8) as what().
+///
+/// A comment names after `@throws` what a function throws: `DataError` for all errors that the content of the
+/// tables can cause, `FileError` for all that files and folders can cause. `RuntimeError` means either.
 class RuntimeError : public std::runtime_error
 {
 public:
     RuntimeError(int number, const std::string& text);
 
-    /// An error of a field: the text is the fault and the place.
+    /// An error in a field: what() is the fault followed by the place.
     RuntimeError(int number, std::string_view fault, const FieldPlace& place);
 
     int Number() const { return m_number; }
 
     /// The text without the place.
     std::string_view Fault() const { return std::string_view(what()).substr(0, m_faultSize); }
-    /// The field that is at fault; no file name if the error is not one of a field.
+    /// The faulty field; its file name is empty if the error is not in a field.
     const FieldPlace& Place() const { return m_place; }
 
 private:
@@ -38,13 +41,14 @@ private:
     FieldPlace m_place;
 };
 
-/// A number that is needed cannot be read, or a sum does not fit.
+/// The tables hold something that cannot be used: a field that is missing or is not a number, or a number or
+/// sum that is out of range. The three errors below are of this kind.
 class DataError : public RuntimeError
 {
     using RuntimeError::RuntimeError;
 };
 
-/// A text that is not a number is where a number is needed.
+/// A number is needed, but the text is not one.
 class TypeMismatch : public DataError
 {
 public:
@@ -52,7 +56,7 @@ public:
     TypeMismatch(std::string_view value, const FieldPlace& place);
 };
 
-/// A number or a sum lies outside the 32-bit signed range.
+/// A number or a sum is outside the 32-bit signed range.
 class OverflowError : public DataError
 {
 public:
@@ -61,28 +65,29 @@ public:
     OverflowError(std::string_view value, const FieldPlace& place);
 };
 
-/// A row has fewer fields than the column that is read needs.
+/// A row is too short: it has no field in the column that is needed.
 class SubscriptOutOfRange : public DataError
 {
 public:
     explicit SubscriptOutOfRange(const FieldPlace& place);
 };
 
-/// A file ended before the line that must be there.
+/// A file is empty: its first line is missing.
 class InputPastEnd : public RuntimeError
 {
 public:
     explicit InputPastEnd(std::string_view path);
 };
 
-/// A file or folder could not be found, read or written.
+/// A file or folder could not be found, read or written. A function that writes a file leaves the old file
+/// whole when it throws this.
 class FileError : public RuntimeError
 {
 public:
     FileError(std::error_code cause, std::string_view path);
 };
 
-/// The catalogue is saved, but not all of its files hold it yet; the next start or save goes on.
+/// The catalogue is saved, but not all of its files hold it yet. The next start or save finishes the work.
 class SaveNotFinished : public RuntimeError
 {
 public:

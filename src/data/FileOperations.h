@@ -87,9 +87,9 @@ struct FileOperations
     /// cannot do so is no failure.
     Result (*FlushFolder)(const Path& path);
 
-    /// Locks a folder against other processes of this computer that lock it, without a file; the lock ends
-    /// with the process. `timed_out` if another process keeps it for the whole time; any other failure means
-    /// that there are no locks here.
+    /// Locks a folder against other processes of this computer that lock it too. No file is made; the lock
+    /// ends with the process. `timed_out` if another process holds the lock all the time; any other failure
+    /// means that the file system has no locks.
     Result (*Lock)(const Path& folder, LockKind kind, int milliseconds, Handle& lock);
 
     /// Ends a lock.
@@ -102,7 +102,7 @@ struct FileOperations
 namespace System
 {
 
-/// The operations as this operating system has them.
+/// The operating system's own operations.
 extern const FileOperations OwnFiles;
 
 /// The operations in use.

@@ -52,7 +52,7 @@ public:
 
     void Write(std::string_view content) { Require(Files.Write(m_handle, content), m_path); }
 
-    /// Takes the mode and owner of another file; not every file system has them.
+    /// Copies the mode and owner of another file, where the file system has them.
     void TakeAccess(const fs::path& model) { Files.TakeAccess(m_handle, model); }
 
     /// Flushes to disk and closes.
@@ -102,7 +102,7 @@ fs::path ResolveSymlinks(fs::path file)
     return file;
 }
 
-/// For a file that has no model: it gets the mode of any new file.
+/// A model that does not exist: the file gets the mode of any new file.
 const fs::path NoModel;
 
 void WriteNew(const fs::path& file, std::string_view content, const fs::path& model, std::string_view path)
@@ -118,7 +118,7 @@ void WriteNew(const fs::path& file, std::string_view content, const fs::path& mo
     }
     catch (const FileError&)
     {
-        if (isMade) // and not what another program has put there
+        if (isMade) // not a file of another program
             Files.RemoveFile(file);
         throw;
     }
@@ -130,7 +130,7 @@ enum class Unused
     Kept
 };
 
-/// Writes the new content beside the file and puts it in the file's place. `unused` is for a temporary file
+/// Writes the new content beside the file, then replaces the file by it. `unused` handles a temporary file
 /// that is whole but cannot replace the file.
 void WriteBesideAndReplace(const fs::path& file, const fs::path& temporary, std::string_view content,
                            std::string_view path, Unused unused)
@@ -201,11 +201,11 @@ void MakeFolders(std::string_view path)
 
 void ReplaceFile(std::string_view path, std::string_view content)
 {
-    // A link stays a link: its target gets the new content.
+    // A link stays a link; its target gets the new content.
     const fs::path file = ResolveSymlinks(ToPath(path));
     const FileFacts facts = FactsOf(file, path);
     RequireWritable(file, facts, path);
-    if (facts.Type == FileType::Other) // it has no old content to keep, and must not be replaced
+    if (facts.Type == FileType::Other) // a device: no old content to keep, nothing to rename over
     {
         OpenFile opened(file, OpenFor::Rewriting, path);
         opened.Write(content);

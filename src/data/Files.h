@@ -20,35 +20,34 @@ std::string ReadFile(std::string_view path, std::size_t limit = std::string::npo
 /// Creates an empty file where none exists. @throws FileError
 void CreateFileIfMissing(std::string_view path);
 
-/// Makes a folder and those above it, where they are missing. @throws FileError
+/// Makes a folder and its parent folders, if missing. @throws FileError
 void MakeFolders(std::string_view path);
 
-/// Gives a file a new content, created when missing. The content goes to a temporary file beside it, is
-/// flushed to disk and replaces the file in one step: a failure leaves the old content whole.
+/// Replaces the content of a file; creates the file if missing. The content goes to a temporary file beside
+/// it, which is flushed to disk and renamed to the file: a failure leaves the old file whole.
 /// @throws FileError, also for a file or folder that is read-only
 void ReplaceFile(std::string_view path, std::string_view content);
 
-/// Checks that ReplaceFile can write to a path, by making its temporary file and removing it. @throws
-/// FileError
+/// Checks that ReplaceFile can write to a path: makes its temporary file and removes it. @throws FileError
 void CheckWritable(std::string_view path);
 
-/// The temporary file of ReplaceFile. It holds the process number, so that two copies of the program do not
-/// share one. Never longer than the file's own name, which the system accepts.
+/// The temporary file of ReplaceFile. Its name contains the process ID, so that two copies of the program do
+/// not share one. Never longer than the file's own name, which the system accepts.
 std::filesystem::path TemporaryNameFor(std::filesystem::path file);
 
-/// As ReplaceFile, but the temporary file is named after the whole path with ".tmp" at its end, and stays
-/// when it is whole but cannot replace the file. @throws FileError
+/// As ReplaceFile, but the temporary file is `path` with ".tmp" at its end. If it is whole and cannot replace
+/// the file, it stays. @throws FileError
 void ConvertFile(std::string_view path, std::string_view content);
 
-/// Writes a file that must not exist yet, with the mode and owner of the one at `model` if there is one, and
-/// flushes it to disk. The folder is not flushed. A failure leaves no file. @throws FileError
+/// Writes a new file and flushes it to disk; its folder is not flushed. The file gets the mode and owner of
+/// the one at `model`, if there is one. A failure leaves no file. @throws FileError
 void WriteNewFile(std::string_view path, std::string_view content, std::string_view model);
 
 /// A text file that leaves the program: windows-1250, CR LF after every line.
 class TextFile
 {
 public:
-    /// Adds a line; the text is UTF-8 and may hold line breaks of its own, which stay as they are.
+    /// Adds a line (UTF-8). Line breaks inside the text stay as they are.
     void AddLine(std::string_view text);
 
     /// The bytes of the lines added so far.

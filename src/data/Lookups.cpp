@@ -19,7 +19,7 @@ std::string TextOf(const Table& table, std::int32_t id, std::size_t column)
     return row == nullptr ? std::string() : std::string(row->Field(column));
 }
 
-/// As many links as there are.
+/// For reading all links.
 constexpr std::size_t NoLimit = SIZE_MAX;
 
 struct PlacedID
@@ -28,7 +28,7 @@ struct PlacedID
     std::int32_t Redoslijed;
 };
 
-/// Smallest place first. The exchange sort is part of the rule: it settles how equal places come out.
+/// Smallest place first. The exchange sort is part of the rule: it decides the order of equal places.
 template<typename Placed>
 void OrderByRedoslijed(std::vector<Placed>& items)
 {

@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-/// Names instead of identifiers, and the joined lists of one course. Every search reads its table from the
-/// first row and the first match wins; each throws DataError for a row on the way that cannot be read.
+/// Lookups of names by identifier, and the joined lists of one course. The first row with an identifier
+/// counts. Everything here throws DataError for a row before it that cannot be read.
 namespace modData
 {
 
-// Empty when no row has the ID.
+// Empty if no row has the ID.
 
 std::string GetStudijKratica(std::int32_t id);
 std::string GetStudijRazina(std::int32_t id);
@@ -25,17 +25,19 @@ struct PlacedNastavnik
     std::int32_t Redoslijed;
 };
 
-/// The short names of a course's directions in link order, joined with ", "; unknown and blank ones left out.
+/// The short names of a course's directions in link order, joined with ", ". Unknown directions and blank
+/// names are left out.
 std::string GetSmjeroviKraticeString(std::int32_t kolegijId);
 
-/// The names of a course's lecturers by place, joined with "; ". An unknown one behind a known one leaves its
-/// separator.
+/// The names of a course's lecturers by place, joined with "; ". An unknown lecturer after a known one leaves
+/// a separator.
 std::string GetNositeljiString(std::int32_t kolegijId);
 
-/// The names of a course's holders 1 to 3: its first three links in table order, by place; empty where none.
+/// The names of a course's first three linked lecturers in table order, sorted by place; empty if there are
+/// fewer.
 void GetNositelji123(std::int32_t kolegijId, std::string& first, std::string& second, std::string& third);
 
-/// A course's lecturers by place, whatever their role; links to unknown lecturers are left out.
+/// A course's lecturers of any role, by place. Links to unknown lecturers are left out.
 std::vector<PlacedNastavnik> GetNastavniciForKolegij(std::int32_t kolegijId);
 
 } // namespace modData

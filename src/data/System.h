@@ -4,8 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// What the operating systems do differently about the environment. Texts are UTF-8. Files have a table of
-/// operations of their own, in data/FileOperations.h.
+/// The environment of the program. Texts are UTF-8. Operations on files are in data/FileOperations.h.
 namespace System
 {
 
@@ -15,16 +14,16 @@ inline constexpr std::string_view PathSeparator = "\\";
 inline constexpr std::string_view PathSeparator = "/";
 #endif
 
-/// The value of an environment variable; empty when it is not set.
+/// The value of an environment variable; empty if it is not set.
 std::string EnvironmentVariable(const char* name);
 
 /// The folder that holds the program's own executable, without a separator at its end.
 std::string ProgramFolder();
 
-/// The folder for temporary files; empty when there is none.
+/// The folder for temporary files; empty if there is none.
 std::string TemporaryFolder();
 
-/// The number of this process, which no other that runs has.
+/// The number of this process; no other running process has it.
 unsigned long ProcessId();
 
 } // namespace System

@@ -49,7 +49,7 @@ Result Inspect(const Path& path, FileFacts& facts)
     facts.Type = S_ISREG(status.st_mode)   ? FileType::File
                  : S_ISDIR(status.st_mode) ? FileType::Folder
                                            : FileType::Other;
-    // Root may write anything; treat a file without write bits as read-only all the same.
+    // Treat a file without write bits as read-only, even for root, who may write anything.
     facts.Writable = (status.st_mode & AnyWrite) != 0 && ::access(path.c_str(), W_OK) == 0;
     return {};
 }
@@ -105,7 +105,7 @@ Result Write(Handle file, std::string_view bytes)
 /// The mode of a new file.
 mode_t ModeByUmask()
 {
-    const mode_t mask = ::umask(OthersPermissions); // strict, for files that another thread makes meanwhile
+    const mode_t mask = ::umask(OthersPermissions); // strict, in case another thread makes a file meanwhile
     ::umask(mask);
     return 0666 & ~mask;
 }
@@ -116,8 +116,8 @@ Result TakeAccess(Handle file, const Path& model)
     struct stat status;
     if (::stat(model.c_str(), &status) != 0)
         return OutcomeOf(::fchmod(descriptor, ModeByUmask()));
-    // Only root may give a file away; others keep what they may. The mode comes last: a new owner clears
-    // bits.
+    // Only root may change the owner; for others this is best effort. The mode comes last, since a new owner
+    // clears some of its bits.
     [[maybe_unused]] const bool isOwned = ::fchown(descriptor, status.st_uid, status.st_gid) == 0 ||
                                           ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0;
     return OutcomeOf(::fchmod(descriptor, status.st_mode & AnyPermission));
@@ -125,7 +125,7 @@ Result TakeAccess(Handle file, const Path& model)
 
 Result Flush(Handle file)
 {
-    // A pipe or another device has nothing to flush to.
+    // A pipe or another device cannot be flushed.
     return ::fsync(Descriptor(file)) == 0 || errno == EINVAL ? Result() : LastFailure();
 }
 
@@ -165,8 +165,8 @@ Result FlushFolder(const Path& path)
     return result;
 }
 
-// The two kinds of lock do not see each other, so one folder carries both: flock() for saving, a read lock of
-// the open file for running.
+// The two kinds of lock are independent, so one folder carries both: flock() for saving, a read lock of the
+// open file for running.
 
 Result TryLock(int folder, LockKind kind)
 {

@@ -14,7 +14,8 @@ using Handle = FileOperations::Handle;
 
 Result FailureOf(DWORD error)
 {
-    // A file that another program holds is "shared" to an open and "denied" to a rename; it is one cause.
+    // For a file that another program holds, an open reports a sharing violation and a rename "access
+    // denied"; both mean the same.
     if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION)
         error = ERROR_ACCESS_DENIED;
     return {static_cast<int>(error), std::system_category()};
@@ -36,10 +37,10 @@ Handle FromWin(HANDLE handle)
     return reinterpret_cast<Handle>(handle);
 }
 
-/// The path in the form that lifts the limit of 260 characters, where it needs that.
+/// The path in the form that has no limit of 260 characters, if it is that long.
 std::wstring Long(const Path& path)
 {
-    constexpr std::size_t needsNoForm = 240; // leaves room for a name of the old short form
+    constexpr std::size_t needsNoForm = 240; // leaves room for a file name of the old form, 8.3
     const std::wstring& text = path.native();
     std::wstring whole(GetFullPathNameW(text.c_str(), 0, nullptr, nullptr), L'\0');
     whole.resize(GetFullPathNameW(text.c_str(), static_cast<DWORD>(whole.size()), whole.data(), nullptr));
@@ -48,7 +49,7 @@ std::wstring Long(const Path& path)
     return whole.starts_with(L"\\\\") ? L"\\\\?\\UNC" + whole.substr(1) : L"\\\\?\\" + whole;
 }
 
-/// A virus scanner, an indexer or another copy of the program holds a file for a moment only.
+/// Usually a virus scanner, an indexer or another copy of the program holds a file, and only for a moment.
 bool IsTransient(DWORD error)
 {
     return error == ERROR_ACCESS_DENIED;
@@ -59,7 +60,7 @@ bool IsMissing(DWORD error)
     return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
-/// Calls `change`, which gives 0 on failure, until it succeeds or another program holds the file for good.
+/// Calls `change`, which gives 0 on failure, until it succeeds or the time is up.
 template<typename Change>
 Result Persist(const Change& change)
 {
@@ -93,7 +94,7 @@ Result Inspect(const Path& path, FileFacts& facts)
         return IsMissing(GetLastError()) ? Result() : FailureOf(GetLastError());
     const bool isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     facts.Type = isFolder ? FileType::Folder : FileType::File;
-    // The attribute of a folder does not concern the files in it.
+    // The read-only attribute of a folder does not concern the files in it.
     facts.Writable = isFolder || (attributes & FILE_ATTRIBUTE_READONLY) == 0;
     return {};
 }
@@ -164,14 +165,14 @@ Result Write(Handle file, std::string_view bytes)
 
 Result TakeAccess(Handle, const Path&)
 {
-    return {}; // a file has the rights of its folder
+    return {}; // a file inherits the rights of its folder
 }
 
 Result Flush(Handle file)
 {
     if (FlushFileBuffers(ToWin(file)) != 0)
         return {};
-    // A device has nothing to flush to.
+    // A device cannot be flushed.
     const DWORD failure = GetLastError();
     return failure == ERROR_INVALID_FUNCTION || failure == ERROR_INVALID_HANDLE ? Result()
                                                                                 : FailureOf(failure);
@@ -190,7 +191,7 @@ Result Rename(const Path& from, const Path& to)
         });
 }
 
-/// A removal with which a missing file or folder is no failure.
+/// The outcome of a removal; a missing file or folder is no failure.
 template<typename Removal>
 Result RemoveIfThere(const Removal& removal)
 {
@@ -215,7 +216,8 @@ Result MakeFolder(const Path& path)
 
 Result FlushFolder(const Path& path)
 {
-    // A rename is durable by itself (MOVEFILE_WRITE_THROUGH), and not every file system flushes a folder.
+    // Nothing to do: a rename is durable by itself (MOVEFILE_WRITE_THROUGH), and not every file system
+    // flushes a folder.
     const HANDLE folder = OpenFolder(path, GENERIC_WRITE);
     if (folder != INVALID_HANDLE_VALUE)
     {
@@ -225,8 +227,8 @@ Result FlushFolder(const Path& path)
     return {};
 }
 
-// The locks are named objects of the system, which end with the last process that holds them. Their names are
-// made of the folder's number on its disk, so that every spelling of its path gives the same one.
+// The locks are named objects of the system, which end with the last process that holds them. The name
+// contains the folder's number on its disk, so that every spelling of its path gives the same lock.
 
 std::wstring LockName(const Path& folder, LockKind kind)
 {
@@ -260,7 +262,7 @@ Result Lock(const Path& folder, LockKind kind, int milliseconds, Handle& lock)
     lock = FromWin(made);
     if (kind == LockKind::Running)
         return {};
-    // A mutex whose owner has ended is as good as a free one.
+    // A mutex whose owner has ended counts as free.
     const DWORD answer = WaitForSingleObject(made, static_cast<DWORD>(milliseconds));
     if (answer == WAIT_OBJECT_0 || answer == WAIT_ABANDONED)
         return {};

@@ -14,7 +14,7 @@ namespace modData
 namespace
 {
 
-/// The line of a row that was entered in the program.
+/// The line number of a row that no file holds.
 constexpr std::uint32_t EnteredLine = 0;
 
 } // namespace
@@ -134,7 +134,7 @@ Row Table::NewRow(std::string_view line, std::span<const std::uint32_t> ends, st
     return row;
 }
 
-/// A field that was entered may hold a ";" of its own.
+/// The fields are taken as they are: an entered one may contain ";".
 Row Table::EnteredRow(const std::vector<std::string>& fields)
 {
     std::string line;

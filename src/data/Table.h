@@ -18,7 +18,7 @@
 namespace modData
 {
 
-/// What the program knows of a table's file: its name in the data folder and its columns.
+/// The layout of a table's file: its name in the data folder and its columns.
 struct TableLayout
 {
     std::string_view FileName;
@@ -28,14 +28,14 @@ struct TableLayout
     std::string Header() const;
 };
 
-/// One row: the fields of one file line as text (UTF-8), in column order; there may be fewer or more than
-/// columns. A light view: the text belongs to the table and stays until the table is loaded again.
+/// One row: the fields of a line of the file as text (UTF-8), in column order. There may be fewer or more
+/// fields than columns. A light view: the table owns the text and keeps it until it is loaded again.
 class Row
 {
 public:
     std::size_t FieldCount() const { return m_count; }
 
-    /// A field exactly as stored. @throws DataError when the row is too short
+    /// A field exactly as stored. @throws DataError if the row is too short
     std::string_view Field(std::size_t column) const
     {
         if (column >= m_count)
@@ -45,11 +45,11 @@ public:
         return {line + begin, m_ends[column] - begin};
     }
 
-    /// A field as a whole number. @throws DataError, which names the place, when the row is too short or,
-    /// where the conversion is strict, the field is no whole number
+    /// A field as a whole number. @throws DataError, which names the place, if the row is too short or, in a
+    /// strict conversion, the field is not a whole number
     std::int32_t Number(std::size_t column, Conversion conversion = Conversion::Strict) const;
 
-    /// Where a field of one of the layout's columns is.
+    /// The place of a field in one of the layout's columns.
     FieldPlace Place(std::size_t column) const
     {
         return {m_layout->FileName, m_lineNumber, m_layout->Columns[column]};
@@ -61,14 +61,14 @@ private:
     [[noreturn]] void ThrowTooShort(std::size_t column) const;
 
     const TableLayout* m_layout = nullptr;
-    const std::uint32_t* m_ends = nullptr; // where each field ends in the line, which follows them
+    const std::uint32_t* m_ends = nullptr; // where each field ends; the line's text follows these numbers
     std::uint32_t m_count = 0;
-    std::uint32_t m_lineNumber = 0; // in the file; 0 when no file holds the row yet
+    std::uint32_t m_lineNumber = 0; // in the file; 0 if no file holds the row yet
 };
 
-/// The rows of a table that hold a number in a column, in table order, for a loop. They are what a scan
-/// finds: where a scan would meet a row that cannot be compared, the step beyond the last match throws its
-/// DataError.
+/// The rows of a table that hold a number in a column, in table order, for a loop. The loop gives what a scan
+/// of all rows would give, errors included: if a row cannot be compared, the step after the last match before
+/// it throws its DataError.
 class Matches
 {
 public:
@@ -79,7 +79,7 @@ public:
         {
         }
 
-        std::size_t Position() const { return *m_next; } ///< Of the row in its table.
+        std::size_t Position() const { return *m_next; } ///< The row's position in its table.
         const Row& operator*() const { return m_matches->m_rows[*m_next]; }
         Iterator& operator++()
         {
@@ -121,7 +121,7 @@ private:
     std::size_t m_column;
 };
 
-/// An ordered collection of rows. Searches give what a scan from the first row gives, errors included.
+/// An ordered collection of rows. A search gives what a scan from the first row would give, errors included.
 class Table
 {
 public:
@@ -134,43 +134,42 @@ public:
     auto begin() const { return m_rows.begin(); }
     auto end() const { return m_rows.end(); }
 
-    /// Adds a row at the end: the fields of a line of the file, which ";" separates.
+    /// Adds a row at the end from a line of the file, in which ";" separates the fields.
     void AppendLine(std::string_view line, std::uint32_t lineNumber);
 
-    /// Adds a row at the end that no file holds yet.
+    /// Adds a row that no file holds yet at the end.
     void Append(const std::vector<std::string>& fields);
 
-    /// Puts a new row, which no file holds yet, in the place of the one at a position.
+    /// Replaces the row at a position by a new one that no file holds yet.
     void Replace(std::size_t position, const std::vector<std::string>& fields);
 
     /// Removes every row that holds the number in the column, from the last row to the first.
-    /// @throws DataError for the first row on that way that cannot be compared; then none is removed
+    /// @throws DataError for the last row that cannot be compared; then no row is removed
     void RemoveMatches(std::size_t column, std::int32_t number);
 
-    /// The rows that hold the number in the column; they are valid until the table changes.
-    /// @throws DataError for a row that is too short or, where the conversion is strict, holds no number: not
-    /// here but in the loop, see Matches
+    /// The rows that hold the number in the column; valid until the table changes.
+    /// @throws DataError in the loop, not here, for a row that cannot be compared: it is too short or, in a
+    /// strict conversion, holds no number
     Matches Matching(std::size_t column, std::int32_t number,
                      Conversion conversion = Conversion::Strict) const;
 
-    /// The first row that holds the number in the column; null when there is none.
+    /// The first row that holds the number in the column; null if there is none.
     /// @throws DataError for a row before it that cannot be compared
     const Row* FindFirst(std::size_t column, std::int32_t number,
                          Conversion conversion = Conversion::Strict) const;
 
-    /// The position of the row that FindFirst gives. @throws as FindFirst
+    /// The position of that row. @throws as FindFirst
     std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number) const;
 
-    /// Row::Number for the row at a position, from the column's index: faster where many rows are read out of
-    /// order. @throws as Row::Number
+    /// Row::Number for the row at a position, from the column's index: faster for many rows out of order.
+    /// @throws as Row::Number
     std::int32_t NumberAt(std::size_t position, std::size_t column, Conversion conversion) const;
 
 private:
-    /// The index of a column, made when first needed. A text that is no number counts as 0 in it; how far it
-    /// is searched depends on how strictly numbers are read.
+    /// The index of a column, made when first needed. A text that is not a number counts as 0.
     struct IndexedColumn
     {
-        /// Where a search ends: at the first row that cannot be compared.
+        /// Where a search ends: the first row that cannot be compared.
         std::size_t End(Conversion conversion) const
         {
             return conversion == Conversion::Strict ? NumbersEnd : Numbers.size();
@@ -190,7 +189,7 @@ private:
     std::unique_ptr<std::pmr::monotonic_buffer_resource> m_memory; // the lines of all rows
     std::vector<std::uint32_t> m_fieldEnds;                        // of the line that is being added
     std::vector<Row> m_rows;
-    mutable std::vector<std::optional<IndexedColumn>> m_indexes; // by column; none after a change
+    mutable std::vector<std::optional<IndexedColumn>> m_indexes; // by column; dropped by every change
 };
 
 } // namespace modData

@@ -6,15 +6,16 @@
 #include <string_view>
 #include <vector>
 
-// Entries that boxes and lists offer; those from the tables in table order. Each throws DataError.
+// The entries that boxes and lists offer. Those from the tables are in table order. Everything here throws
+// DataError.
 
 /// The two levels of study.
 std::vector<Choice> RazinaChoices();
 
-/// The semesters that a level has, with their numbers: 1 to 4 for "Diplomski", 1 to 6 for any other.
+/// The semesters of a level, with their numbers: 1 to 4 for "Diplomski", 1 to 6 for any other.
 std::vector<Choice> SemestarChoices(std::string_view razina);
 
-/// How the level's text is compared with a study's.
+/// How a level's text is compared with a study's.
 enum class RazinaMatch
 {
     Exact,
@@ -33,7 +34,7 @@ std::vector<Choice> NastavnikChoices();
 /// The lecturers whose name is not blank, with their IDs.
 std::vector<Choice> NamedNastavnikChoices();
 
-/// The departments, with their IDs; an ID that is no number counts as 0.
+/// The departments, with their IDs; an ID that is not a number counts as 0.
 std::vector<Choice> ZavodChoices();
 
 /// The entries with "Svi" before them.

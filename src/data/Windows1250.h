@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// The text of windows-1250 bytes as UTF-8. The five bytes without a character (81 83 88 90 98) read as the
-/// control characters of the same number, so that every byte survives the way back.
+/// Windows-1250 bytes as UTF-8. The five bytes without a character (81 83 88 90 98) become the control
+/// characters of the same number, so that every byte survives the way back.
 std::string FromWindows1250(std::string_view bytes);
 
 /// The windows-1250 bytes of a UTF-8 text; "?" for each character that windows-1250 lacks.

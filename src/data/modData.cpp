@@ -31,7 +31,7 @@ constexpr std::string_view KolegijColumns[] = {"ID",   "Naziv", "P",        "S",
 constexpr std::string_view KolegijSmjerColumns[] = {"KolegijID", "SmjerID"};
 constexpr std::string_view KolegijNastavnikColumns[] = {"KolegijID", "NastavnikID", "Uloga", "Redoslijed"};
 
-// A column added to one of the two has to be added to the other.
+// The names here and the columns of modData.h must match.
 static_assert(std::size(ZavodColumns) == Zavod::Kratica + 1);
 static_assert(std::size(NastavnikColumns) == Nastavnik::ZavodID + 1);
 static_assert(std::size(StudijColumns) == Studij::Razina + 1);
@@ -48,10 +48,10 @@ constexpr TableLayout KolegijLayout = {"db_kolegij.csv", KolegijColumns};
 constexpr TableLayout KolegijSmjerLayout = {"db_kolegij_smjer.csv", KolegijSmjerColumns};
 constexpr TableLayout KolegijNastavnikLayout = {"db_kolegij_nastavnik.csv", KolegijNastavnikColumns};
 
-/// The folder that the save operations write into; empty: each replaces its own file.
+/// The folder that the Save functions write into; if empty, each replaces its own file.
 std::string SetFolder;
 
-/// Set once the tables hold a whole catalogue; other copies of the program see it.
+/// Held once a whole catalogue is loaded; other copies of the program see it.
 std::unique_ptr<CatalogueLock> Running;
 
 std::string FilePath(const Table& table)
@@ -74,7 +74,7 @@ void Load(Table& table)
     table = LoadTable(path, table.Layout());
 }
 
-/// Takes the first line off; CR LF or CR ends it, and a lone LF is part of it.
+/// Takes the first line off. CR LF or CR ends it; a lone LF is part of it.
 std::string_view TakeLine(std::string_view& content)
 {
     const std::string_view line = content.substr(0, content.find('\r'));
@@ -135,7 +135,7 @@ void SaveEachInto(const std::string& folder)
     SaveEach();
 }
 
-/// Whether a file holds what a table would be saved as.
+/// Whether a file already has the bytes that saving the table would write.
 bool IsSaved(const Table* table)
 {
     try
@@ -148,7 +148,7 @@ bool IsSaved(const Table* table)
     }
 }
 
-/// Whether a file reads as the rows of a table; other line ends, blank lines and headers make no difference.
+/// Whether a file has the same rows as a table; line ends, blank lines and headers may differ.
 bool ReadsAs(const Table* table)
 {
     try
@@ -162,7 +162,7 @@ bool ReadsAs(const Table* table)
     }
 }
 
-/// The text of a file that is to be brought to windows-1250; nothing for any other file.
+/// The UTF-8 text of a file that NormalizeFileEncoding would convert; nothing for any other file.
 std::optional<std::string> MarkedText(std::string_view path)
 {
     if (ReadFile(path, Utf8Mark.size()) != Utf8Mark)
@@ -170,7 +170,7 @@ std::optional<std::string> MarkedText(std::string_view path)
     return ReadFile(path).substr(Utf8Mark.size());
 }
 
-/// Whether letters become "?" when a file is brought to windows-1250.
+/// Whether the conversion of a file to windows-1250 turns letters into "?".
 bool LosesLetters(const std::string& path)
 {
     if (TypeOf(path) == FileType::Missing)
@@ -179,7 +179,7 @@ bool LosesLetters(const std::string& path)
     return text && std::ranges::count(ToWindows1250(*text), '?') > std::ranges::count(*text, '?');
 }
 
-/// The folder for what cannot be kept beside the catalogue.
+/// A folder for tables that cannot be kept beside the catalogue.
 std::string PlaceAmongTemporaries(std::string_view ending)
 {
     return PathIn(System::TemporaryFolder(), ProductName)
@@ -223,7 +223,7 @@ std::string GetDataFolder()
     }
     catch (const FileError&)
     {
-        // The file access that follows says why.
+        // The next file access reports the cause.
     }
     return folder;
 }
@@ -255,7 +255,7 @@ Table ParseTable(std::string_view bytes, const TableLayout& layout)
     Table table(layout);
     const std::string content = FromWindows1250(bytes);
     std::string_view rest = content;
-    TakeLine(rest); // the header, whatever it says
+    TakeLine(rest); // the header line; its text does not matter
     for (std::uint32_t lineNumber = 2; !rest.empty(); ++lineNumber)
     {
         const std::string_view line = TakeLine(rest);
@@ -333,7 +333,7 @@ void LoadAllTables()
     const CatalogueOnDisk files = FilesOnDisk();
     const CatalogueLock lock(files.Folder, LockKind::Saving);
     CatalogueSave::FinishAtStart(files);
-    if (lock.IsHeld()) // otherwise another copy of the program may need them
+    if (lock.IsHeld()) // without a lock, another copy of the program may need them
         CatalogueSave::RemoveLeftovers(files);
     if (std::ranges::any_of(files.Names,
                             [&](std::string_view name) { return LosesLetters(PathIn(files.Folder, name)); }))
@@ -373,7 +373,7 @@ UnsavedChanges KeepUnsavedChanges()
         }
         catch (const FileError&)
         {
-            // The next place may have room.
+            // Try the next place.
         }
     return {true, ""};
 }

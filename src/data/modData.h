@@ -113,34 +113,34 @@ std::array<Table*, 7> AllTables();
 /// The mark that a UTF-8 file may begin with.
 inline constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
-/// The path of the data folder, which need not exist.
+/// The path of the data folder; the folder may be missing.
 std::string DataFolderPath();
 
-/// The folder of the seven files, without a separator behind it: "Varlostudiji" in %LOCALAPPDATA%, or in the
-/// user profile where that is not set. It is created when missing; a failure to do so is ignored.
+/// The path of the data folder, without a separator at its end: "Varlostudiji" in %LOCALAPPDATA%, or in the
+/// user profile if that is not set. The folder is made if missing; a failure to make it is ignored.
 std::string GetDataFolder();
 
-/// Turns a file that begins with the UTF-8 byte-order mark into windows-1250 in place, line ends as they are;
-/// any other file stays untouched, a missing one is created empty. The temporary file is `path` with ".tmp"
-/// at its end; it replaces one of an earlier run. @throws FileError
+/// Converts a file that begins with the UTF-8 mark to windows-1250 in place; its line ends stay. Any other
+/// file stays untouched; a missing one is created empty. The temporary file is `path` with ".tmp" at its end
+/// and replaces one of an earlier run. @throws FileError
 void NormalizeFileEncoding(std::string_view path);
 
-/// What NormalizeFileEncoding makes of a file's content.
+/// The content that NormalizeFileEncoding would write.
 std::string NormalizedContent(std::string content);
 
-/// Reads the rows of a windows-1250 file: ";" between fields, CR LF or CR behind lines, the first line and
-/// blank lines passed over, no field changed. @throws FileError, InputPastEnd when there is no first line
+/// Reads the rows of a windows-1250 file. ";" separates fields; CR LF or CR ends a line. The first line and
+/// blank lines are skipped; no field is changed. @throws FileError, InputPastEnd for an empty file
 Table LoadTable(std::string_view path, const TableLayout& layout);
 
-/// The table that a file with these bytes holds.
+/// As LoadTable, from the bytes of a file.
 Table ParseTable(std::string_view bytes, const TableLayout& layout);
 
-/// Writes a header and the rows. A separator comes only after what is already on the line, so that leading
-/// empty fields leave none. @throws FileError, and the old content stays
+/// Writes a header and the rows. A separator is written only where the line has text already: leading empty
+/// fields get none. @throws FileError
 void SaveTable(std::string_view path, std::string_view header, const Table& table);
 
-// Each loads one table from its file, brought to windows-1250 first, or saves it: called alone, to its own
-// file; called by SaveAllTables, to the set of files that replaces the catalogue. @throws as the above
+// Each loads one table from its file, after NormalizeFileEncoding, or saves it to its file. During
+// SaveAllTables they save to the set of files that replaces the catalogue. @throws as LoadTable, SaveTable
 
 void LoadZavodi();
 void LoadNastavnici();
@@ -158,30 +158,30 @@ void SaveKolegiji();
 void SaveKolegijSmjerovi();
 void SaveKolegijNastavnici();
 
-/// Finishes an interrupted save, then loads the seven tables. Where a conversion to windows-1250 would lose
-/// letters, the catalogue is kept as a dated copy before. Other copies of the program wait meanwhile, and see
-/// from then on that this one runs.
-/// @throws FileError, InputPastEnd; SaveNotFinished when nothing is loaded yet
+/// Finishes an interrupted save, then loads the seven tables. If a conversion to windows-1250 would lose
+/// letters, the catalogue is copied first. Another copy of the program waits meanwhile; from then on it sees
+/// that this one runs.
+/// @throws FileError, InputPastEnd; SaveNotFinished before anything is loaded
 void LoadAllTables();
 
-/// Saves the seven tables, all or none (data/CatalogueSave.h). If the files hold the same already, each is
-/// written alone.
-/// @throws FileError; SaveNotFinished when the changes are safe, but not in all files yet
+/// Saves the seven tables, all or none (data/CatalogueSave.h). If the files already hold the same, each file
+/// is written by itself.
+/// @throws FileError; SaveNotFinished if the changes are safe, but not yet in all files
 void SaveAllTables();
 
-/// What has become of changes that were not saved.
+/// What happened to changes that were not saved.
 struct UnsavedChanges
 {
     bool Exist;
-    std::string Place; ///< The folder that holds the tables now; empty if nothing could be written.
+    std::string Place; ///< The folder that has the tables now; empty if none could be written.
 };
 
-/// Writes tables that differ from their files to a folder ending in "-prekid", in "kopije" or else among the
-/// system's temporary files. The tables' own files stay untouched.
+/// Writes the tables, if they differ from their files, to a folder whose name ends in "-prekid": in "kopije"
+/// or, if that fails, in the system's folder for temporary files. The catalogue's files stay untouched.
 UnsavedChanges KeepUnsavedChanges();
 
-/// The ID for a new course: the largest one plus 1, and 1 for an empty table.
-/// @throws DataError for an ID that is no whole number
+/// The ID for a new course: the largest one plus 1; 1 for an empty table.
+/// @throws DataError for an ID that is not a whole number
 std::int32_t NextKolegijID();
 
 } // namespace modData

@@ -20,7 +20,7 @@ std::string_view Method(bool byEstimate)
     return byEstimate ? EctsLabel::VlastitaProcjena : EctsLabel::Normativ;
 }
 
-/// The lines of a report as they come; a section after the first begins with a blank line.
+/// Collects the lines of a report. A blank line separates sections.
 class Report
 {
 public:

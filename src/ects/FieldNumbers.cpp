@@ -18,9 +18,9 @@ void ReplaceAll(std::string& text, std::string_view what, std::string_view with)
         text.replace(at, what.size(), with);
 }
 
-// The digits of a value that are free of binary rounding noise: 1.15 is 1.149999999999999911 in binary, and
-// 100.1 - 100.05 leaves 0.0499999999999972. Rounded to these digits first, a half is a half again. Each
-// addition may cost half a unit of the sixteenth digit, so that the sum of all methods has one digit less.
+// The number of digits that are free of binary rounding noise: 1.15 is 1.149999999999999911 in binary, and
+// 100.1 - 100.05 leaves 0.0499999999999972. A value is first rounded to these digits, so that a half is a
+// half again. Each addition may cost half a unit of the sixteenth digit, so a sum has one digit less.
 constexpr int TrueDigits = 15;
 constexpr int TrueDigitsOfSum = 14;
 constexpr int MaxDecimals = 12;
@@ -30,7 +30,7 @@ int WholeDigits(double magnitude)
     return magnitude < 1 ? 1 : static_cast<int>(std::floor(std::log10(magnitude))) + 1;
 }
 
-/// The value as decimal text with a point.
+/// The value as a decimal text with a point.
 std::string ToDecimals(double magnitude, int decimals)
 {
     std::array<char, std::numeric_limits<double>::max_exponent10 + 20> buffer;
@@ -68,7 +68,7 @@ double ReadNumber(std::string_view text, std::string_view separator)
     std::string_view digits = number;
     if (digits.starts_with('+'))
         digits.remove_prefix(1);
-    // The conversion also takes words such as "inf", and a "-" that would be the second sign.
+    // The conversion would also accept words such as "inf", and a second sign.
     if (digits.find_first_not_of("0123456789.eE+-") != std::string_view::npos ||
         (digits.size() < number.size() && digits.starts_with('-')))
         return 0;

@@ -3,22 +3,22 @@
 #include <string>
 #include <string_view>
 
-// Numbers as the calculator's fields hold them: text in the user's own form.
+// Numbers in the calculator's fields: texts in the user's own format.
 
-/// How a figure is shown: with one decimal or with two.
+/// The patterns of a figure with one decimal and with two.
 inline constexpr std::string_view OneDecimal = "0.0";
 inline constexpr std::string_view TwoDecimals = "0.00";
 
-/// The value of a field's text, blanks around it ignored. ".", "," and the user's own separator all stand
-/// before the decimals; nothing separates thousands. 0 for a text that is no number, or one too large.
+/// The value of a field's text; blanks around it are ignored. ".", "," and the user's own separator all
+/// separate the decimals; nothing separates thousands. 0 for a text that is not a number, or too large.
 double ReadNumber(std::string_view text, std::string_view separator);
 
-/// The text of a value with as many decimals as the pattern has, halves rounded away from zero, and the
-/// separator before them. A value that is not finite shows as zero, as it would read.
+/// The text of a value, with the decimals of the pattern and the given separator; halves are rounded away
+/// from zero. A value that is not finite shows as zero, which is what its text would be read as.
 std::string FormatFixed(double value, std::string_view pattern, std::string_view separator);
 
-/// Adds up to ten or so figures. The sum is rounded to the digits that its largest figure leaves certain:
-/// 1000.3 - 1000.25 is 0.05, and not a little less.
+/// Adds about ten figures at most. The sum is rounded to the digits that are certain for its largest figure:
+/// 1000.3 - 1000.25 is 0.05, not a little less.
 class HoursSum
 {
 public:
@@ -27,5 +27,5 @@ public:
 
 private:
     double m_total = 0;
-    double m_largest = 0; ///< The largest magnitude of a figure, or of the sum on the way.
+    double m_largest = 0; ///< The largest magnitude of a figure or of an intermediate sum.
 };

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-// The words of the ECTS calculator that its window and its report both show.
+// The texts that the calculator's window and its report share.
 
 inline constexpr std::string_view EctsCaption = "ECTS račun";
 
@@ -16,7 +16,7 @@ inline constexpr std::string_view Ostale = "Druge metode samostalnog učenja";
 inline constexpr std::string_view UkupnoOpter = "Ukupno opterećenje studenta";
 } // namespace EctsGroup
 
-/// Heads of columns, and rows that are not in a table of their own.
+/// Column headings, and captions of rows outside the tables.
 namespace EctsLabel
 {
 inline constexpr std::string_view NazivKolegija = "Naziv kolegija";

@@ -123,7 +123,7 @@ void WorkloadModel::Recalculate()
 
 void WorkloadModel::WriteTotals()
 {
-    // The sums are those of the figures as shown, rounded.
+    // Adds the figures as shown, that is, rounded.
     const double contact = ReadNumber(m_fields.KontaktniUkupno);
     HoursSum hours;
     for (const double part : {ReadNumber(m_fields.LitUkupno), ReadNumber(m_fields.SamostalniUkupno),

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-/// A kind of contact teaching, and the hours of self-study that an hour of it asks for.
+/// A kind of contact teaching, and the hours of self-study for each hour of it.
 struct ContactTeaching
 {
     std::string_view Label;
@@ -20,7 +20,7 @@ inline constexpr std::array<ContactTeaching, 3> ContactRows = {{
     {"Vježbe", 0.5},
 }};
 
-/// A kind of literature, and the hours that 100 pages of it take.
+/// A kind of literature, and the hours for 100 pages of it.
 struct Literature
 {
     std::string_view Label;
@@ -29,7 +29,7 @@ struct Literature
 };
 
 inline constexpr std::array<Literature, 4> LiteratureRows = {{
-    {"Jednostvani tekst", "100 str / 7h", 7}, // spelt so in the window; the report has its own spelling
+    {"Jednostvani tekst", "100 str / 7h", 7}, // the window's spelling; the report spells it in its own way
     {"Teži tekst", "100 str / 10h", 10},
     {"Tekst + bilješke/rec", "100 str / 20h", 20},
     {"Zahtjevni tekst", "100 str / 30h", 30},
@@ -54,7 +54,7 @@ inline constexpr std::array<OtherMethod, 9> OtherMethods = {{
     {9, "Ostalo"},
 }};
 
-/// The figures of the whole workload, in the order of their fields.
+/// The totals of the workload, in the order of their fields.
 enum Total : std::size_t
 {
     ContactTotal,
@@ -69,13 +69,13 @@ inline constexpr std::array<std::string_view, 5> TotalLabels = {"Kontaktna nasta
 
 inline constexpr double HoursPerWrittenPage = 2.5;
 inline constexpr double WordsPerWrittenHour = 400;
-inline constexpr double WeeklyShare = 0.75; ///< Weekly points in a point, whatever the number of weeks.
+inline constexpr double WeeklyShare = 0.75; ///< Weekly points per point, for any number of weeks.
 
-/// The hours in a point that can be chosen, and the place of the one chosen at first.
+/// The hours per point to choose from, and the position of the initial choice.
 inline constexpr std::array<std::string_view, 6> HoursPerEctsChoices = {"25", "26", "27", "28", "29", "30"};
 inline constexpr int InitialHoursPerEcts = 5;
 
-/// The texts of the calculator's fields as they are shown, and what is chosen.
+/// The texts of the calculator's fields as shown, and the choices.
 struct WorkloadFields
 {
     std::string NazivKolegija, Nositelj, Komentar;
@@ -100,36 +100,36 @@ struct WorkloadFields
     ListColour BojaUpozorenja = ListColours::Red;
 };
 
-/// Estimates a student's workload for a course, in hours a semester, and turns it into ECTS points. Every
-/// figure is read from a field's text and written back as text, so that the totals are those of the figures
-/// that the user sees.
+/// Estimates a student's workload for a course in hours per semester, and converts it to ECTS points. Every
+/// figure is read from a field's text and written back as text, so that the totals fit the figures that the
+/// user sees.
 class WorkloadModel
 {
 public:
-    /// Fields to work on, and the user's decimal separator, which the figures are written with.
+    /// `fields` are read and written; figures are written with the user's decimal separator.
     WorkloadModel(WorkloadFields& fields, std::string decimalSeparator);
 
-    /// Proposes the self-study hours of a row of contact teaching where the user has entered none.
+    /// Fills in the self-study hours of a row of contact teaching, if the user has entered none.
     void ProposeSelfStudy(std::size_t row);
 
-    /// Computes all figures and the warning. Fields written before an error keep what was written.
-    /// @throws TypeMismatch when the chosen hours per point are not a number
+    /// Computes all figures and the warning. After an error, the fields written before it stay.
+    /// @throws TypeMismatch if the chosen hours per point are not a number
     void Recalculate();
 
-    /// Finds the first thing that the entries lack or contradict; the last step of Recalculate.
+    /// Sets the warning to the first thing that is missing or contradictory. The last step of Recalculate.
     void UpdateWarnings();
 
-    // The hours that the entries come to.
+    // The hours that result from the entries.
 
     double LiteratureNormHours() const;
     double LiteratureEstimateHours() const;
     double LiteratureHours() const; ///< By norm or by estimate, as is chosen.
     double WrittenHours() const;    ///< By norm or by estimate, as is chosen.
 
-    /// The chosen hours per point; 30 when none is chosen. @throws TypeMismatch
+    /// The chosen hours per point; 30 if none are chosen. @throws TypeMismatch
     double HoursPerEcts() const;
 
-    /// Hours of self-study for an hour of contact teaching of this row; 0 for a row that there is not.
+    /// Hours of self-study for each hour of contact teaching of a row; 0 if there is no such row.
     static double SelfStudyFactor(std::size_t row);
 
 private:

@@ -28,7 +28,7 @@ constexpr ExportTexts ReportTexts = {.DialogTitle = "Spremi CSV izvještaj",
                                      .SuccessNamesFile = false,
                                      .ShowError = ShowWarning};
 
-/// The text of a box; line breaks of the user's are CR LF, as they are to be in a file.
+/// The text of a box; the user's line breaks become CR LF, as in files.
 std::string ShownText(const wxTextCtrl& box)
 {
     return ToUtf8(wxTextBuffer::Translate(box.GetValue(), wxTextFileType_Dos));
@@ -64,7 +64,7 @@ void frmECTSCalc::OnLostFocus(wxTextCtrl* box, const std::function<void()>& hand
               [this, handler](wxFocusEvent& event)
               {
                   event.Skip();
-                  // A window that closes takes the focus from its fields.
+                  // Closing the window also takes the focus from its fields.
                   if (!IsBeingDeleted() && LeavesField(event))
                       handler();
               });
@@ -140,7 +140,7 @@ void frmECTSCalc::Recalculate()
     {
         failure = error.what();
     }
-    ShowFields(); // after an error too: what was computed before it is right
+    ShowFields(); // after an error too: what is computed so far is right
     m_busy = false;
     if (!failure.empty())
         ShowWarning(this, "Greška kod preračuna: " + failure, EctsCaption);

@@ -22,8 +22,8 @@ class wxStaticBoxSizer;
 class wxStaticText;
 class wxTextCtrl;
 
-/// The ECTS calculator: what a course asks of a student, the hours and points that it comes to, and what the
-/// entries lack. Modeless, one for the program; it has nothing to do with the catalogue.
+/// The ECTS calculator: a course's workload for a student, the resulting hours and points, and a warning
+/// about the entries. Modeless, one for the program; independent of the catalogue.
 class frmECTSCalc : public wxFrame
 {
 public:
@@ -39,7 +39,7 @@ private:
     wxSizer* TotalsFrame();
     wxSizer* CommandRow();
     wxTextCtrl* NewField(const std::string& name, std::string& text);
-    /// A read-only box; Tab passes over it, so that entries follow one another.
+    /// A read-only box. Tab skips it, so that it goes from entry to entry.
     wxTextCtrl* NewOutput(const std::string& name, std::string& text);
     wxTextCtrl* AddField(wxTextCtrl* box, std::string& text);
     void AddOptions(wxStaticBoxSizer& frame, wxRadioButton*& norm, std::string_view normName,
@@ -86,7 +86,7 @@ private:
 
     WorkloadFields m_fields;
     std::vector<Field> m_boxes; ///< Every text box of the window.
-    bool m_busy = false;        ///< True while the figures are computed: not again meanwhile.
+    bool m_busy = false;        ///< True while the figures are computed, to prevent recursion.
 
     wxStaticText* m_widestLabel; ///< The caption that gets a second line where the screen is narrow.
 
@@ -97,8 +97,8 @@ private:
     wxTextCtrl* txtKomentar;
     std::array<wxTextCtrl*, 3> txtKontaktniSati;
     std::array<wxTextCtrl*, 3> txtSamostalniSati;
-    wxTextCtrl* txtKontaktniUkupno;  ///< index 3 alone
-    wxTextCtrl* txtSamostalniUkupno; ///< index 3 alone
+    wxTextCtrl* txtKontaktniUkupno;  ///< Index 3 only.
+    wxTextCtrl* txtSamostalniUkupno; ///< Index 3 only.
     wxRadioButton* optLitIzracun;
     wxRadioButton* optLitProcjena;
     std::array<wxTextCtrl*, 4> txtLitStranice;
@@ -111,7 +111,7 @@ private:
     wxTextCtrl* txtOpsegRijeci;
     wxTextCtrl* txtPismeniIzracun;
     wxTextCtrl* txtPismeniProcjena;
-    std::array<wxTextCtrl*, 9> txtOstaleMetode; ///< indices 0 to 6, 8 and 9
+    std::array<wxTextCtrl*, 9> txtOstaleMetode; ///< Indices 0 to 6, 8 and 9.
     wxTextCtrl* txtOstaleMetodeUkupno;
     std::array<wxTextCtrl*, 5> txtUkupnoOpter;
     wxChoice* cbo1ECTS;

@@ -1,4 +1,4 @@
-// How the calculator's window is laid out; what it does is in frmECTSCalc.cpp.
+// The layout of the calculator's window; its behaviour is in frmECTSCalc.cpp.
 
 #include "ects/frmECTSCalc.h"
 
@@ -27,7 +27,7 @@ constexpr std::string_view WrittenNormNote = "Normativ: 250 riječi po stranici,
 constexpr int NumberCharacters = 6;
 constexpr int CommentLines = 2;
 
-/// The name of an element of a control array.
+/// The name of a control in a control array.
 std::string Element(std::string_view array, std::size_t index)
 {
     return std::string(array) + "(" + std::to_string(index) + ")";
@@ -38,14 +38,14 @@ wxFlexGridSizer* NewGrid(const wxWindow* window, int columns)
     return new wxFlexGridSizer(columns, window->FromDIP(2), Gap(window));
 }
 
-/// Adds the captions of a grid's columns, each over its column.
+/// Adds the captions of a grid's columns.
 void AddHeads(wxFlexGridSizer& grid, wxWindow* parent, std::span<const std::string_view> captions)
 {
     for (const std::string_view caption : captions)
         grid.Add(NewCaption(parent, "lblHead", caption), wxSizerFlags().CenterVertical());
 }
 
-/// Adds the label of the box that follows.
+/// Adds the label of the next box.
 wxStaticText* AddLabel(wxFlexGridSizer& grid, wxWindow* parent, std::string_view caption)
 {
     wxStaticText* label = NewLabel(parent, "lblRow", caption);
@@ -53,26 +53,26 @@ wxStaticText* AddLabel(wxFlexGridSizer& grid, wxWindow* parent, std::string_view
     return label;
 }
 
-/// Adds the caption of a row whose boxes are named each for itself.
+/// Adds the caption of a row in which every box has its own name.
 void AddRowCaption(wxFlexGridSizer& grid, wxWindow* parent, std::string_view caption)
 {
     grid.Add(NewCaption(parent, "lblRow", caption), wxSizerFlags().CenterVertical());
 }
 
-/// Adds a box that the label before it names.
+/// Adds a box whose name is the label before it.
 void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box)
 {
     grid.Add(box, wxSizerFlags().Expand());
 }
 
-/// Adds a box that screen readers name by two captions, those of its group or row and of the box itself.
+/// Adds a box with an accessible name of two captions: that of its group or row and its own.
 void AddBox(wxFlexGridSizer& grid, wxTextCtrl* box, std::string_view outer, std::string_view own)
 {
     AddBox(grid, box);
     SetAccessibleName(*box, std::string(outer) + ", " + std::string(own));
 }
 
-/// A box that shows a figure. Tab does not stop at it: there is nothing to type.
+/// A box for a computed figure. Tab skips it: there is nothing to type.
 class OutputBox : public wxTextCtrl
 {
 public:
@@ -86,7 +86,7 @@ public:
     bool AcceptsFocusFromKeyboard() const override { return false; }
 };
 
-/// Adds something to a frame, as wide as the frame.
+/// Adds something to a frame, in the frame's full width.
 void AddWide(wxStaticBoxSizer& frame, wxSizer* content, int proportion = 0)
 {
     const int gap = Gap(frame.GetStaticBox());
@@ -104,9 +104,9 @@ frmECTSCalc::frmECTSCalc(wxWindow* parent)
     ApplyAppStyle(*this);
     Panel = new wxScrolledWindow(this, wxID_ANY);
 
-    // The controls are made in tab order: column by column, then the results and the commands. They are the
-    // panel's children, not their frames': the access key of a button must be found from every field, and
-    // some systems look for it among the siblings only.
+    // The controls are made in tab order: column by column, then the results and the commands. Their parent
+    // is the panel, not a frame: a button's access key must work in every field, and some systems look for it
+    // only among siblings.
     const wxSizerFlags below = wxSizerFlags().Expand().Border(wxTOP, Gap(this));
     auto* left = new wxBoxSizer(wxVERTICAL);
     left->Add(CourseFrame(), wxSizerFlags(1).Expand());
@@ -115,7 +115,7 @@ frmECTSCalc::frmECTSCalc(wxWindow* parent)
     auto* right = new wxBoxSizer(wxVERTICAL);
     right->Add(WrittenFrame(), wxSizerFlags().Expand());
     right->Add(OtherMethodsFrame(), below);
-    auto* columns = new wxFlexGridSizer(2, wxSize(2 * Gap(this), 0)); // each as wide as it needs, and more
+    auto* columns = new wxFlexGridSizer(2, wxSize(2 * Gap(this), 0)); // each at least as wide as it needs
     columns->AddGrowableCol(0, 1);
     columns->AddGrowableCol(1, 1);
     columns->AddGrowableRow(0);
@@ -335,7 +335,7 @@ void frmECTSCalc::FitToScreen(wxSizer& content)
         m_widestLabel->Wrap(m_widestLabel->GetBestSize().x - (size.x - screen.x));
         size = content.CalcMin();
     }
-    // On a screen that is still too small the content scrolls.
+    // On a screen that is too small even so, the content scrolls.
     if (size.y > screen.y)
         size.x += wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
     if (size.x > screen.x)

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-// The table of teaching load that every statistic shows: weekly hours, credits and number of courses per
-// semester and type, with totals per type and over all.
+// The table of teaching load, which every statistic shows: weekly hours, credits and number of courses per
+// semester and type, with totals per type and a grand total.
 
 /// A course's type, as the table counts it.
 enum class Tip : std::uint8_t
@@ -19,17 +19,17 @@ enum class Tip : std::uint8_t
     Izborni,
 };
 
-/// What becomes of a course whose type is neither word.
+/// How a course counts whose type is neither "obvezni" nor "izborni".
 enum class OtherTypes
 {
     CountAsElective,
     DoNotCount,
 };
 
-/// The type that a course's text counts as; nothing when it does not count.
+/// The type that a text counts as; nothing if it does not count.
 std::optional<Tip> TipOf(std::string_view text, OtherTypes others);
 
-/// What one cell of the sums holds. All sums are 32-bit signed and checked.
+/// One cell of the sums. All numbers are 32-bit signed and checked.
 struct TeachingLoad
 {
     std::int32_t P = 0;
@@ -41,7 +41,7 @@ struct TeachingLoad
     /// Adds another load field by field. @throws OverflowError
     TeachingLoad& operator+=(const TeachingLoad& other);
 
-    /// The load that many times over. @throws OverflowError
+    /// The load multiplied by `weight`. @throws OverflowError
     TeachingLoad Times(std::int32_t weight) const;
 
     /// The five numbers in the order of the table's columns.
@@ -54,7 +54,7 @@ inline constexpr int MaxSemesters = 6;
 class TeachingLoadSums
 {
 public:
-    /// Adds a course's load; a semester outside 1 to 6 is left out. @throws OverflowError
+    /// Adds a course's load. A semester outside 1 to 6 is ignored. @throws OverflowError
     void Add(std::int32_t semestar, Tip tip, const TeachingLoad& load);
 
     /// The sums of a semester from 1 to 6.
@@ -67,7 +67,7 @@ private:
     std::array<std::array<TeachingLoad, 2>, MaxSemesters> m_sums;
 };
 
-/// How a window words its totals, and whether it flags a semester's type with more than 30 ECTS.
+/// How a window names its totals, and whether it marks a semester and type with more than 30 ECTS.
 struct TeachingLoadStyle
 {
     std::string_view TypeTotal;  ///< First cell of the rows of both types.
@@ -79,17 +79,17 @@ struct TeachingLoadStyle
 inline constexpr TeachingLoadStyle FlaggingStyle = {"UKUPNO", "TOTAL", "Sve", true};
 inline constexpr TeachingLoadStyle PlainStyle = {"Ukupno", "Ukupno", "Total", false};
 
-/// Which semesters have rows: 1 to `Last`, or `Only` one of them. The totals cover 1 to `Last` all the same.
+/// The semesters that have rows: 1 to `Last`, or `Only` one of them. The totals always cover 1 to `Last`.
 struct SemesterRange
 {
     int Last = MaxSemesters;
     int Only = 0; ///< 0 for all.
 };
 
-/// One row of the table before it is text.
+/// One row of the table, as values.
 struct TeachingLoadLine
 {
-    std::string_view First;  ///< The semester, or what the total is of.
+    std::string_view First;  ///< The semester, or the name of the total.
     std::string_view Second; ///< The type.
     TeachingLoad Sums;
     bool IsTotal;
@@ -101,7 +101,7 @@ std::vector<TeachingLoadLine> TeachingLoadLines(const TeachingLoadSums& sums, co
                                                 SemesterRange range = {});
 
 /// The table's rows: per semester the compulsory and the elective sums, then three bold rows of totals.
-/// Cells: semester, type, P, S, V, ECTS, number of courses; the ECTS of an overfull row are red. @throws
-/// OverflowError
+/// Cells: semester, type, P, S, V, ECTS, number of courses; the ECTS of an overfull row are red.
+/// @throws OverflowError
 std::vector<ListRow> TeachingLoadRows(const TeachingLoadSums& sums, const TeachingLoadStyle& style,
                                       SemesterRange range = {});

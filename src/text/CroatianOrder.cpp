@@ -9,18 +9,18 @@
 namespace
 {
 
-// In upper case, one entry a letter.
+// The letters in upper case.
 constexpr std::u32string_view Alphabet[] = {
     U"A", U"B", U"C",  U"Č", U"Ć", U"D", U"DŽ", U"Đ", U"E", U"F", U"G", U"H", U"I", U"J", U"K", U"L", U"LJ",
     U"M", U"N", U"NJ", U"O", U"P", U"Q", U"R",  U"S", U"Š", U"T", U"U", U"V", U"W", U"X", U"Y", U"Z", U"Ž",
 };
 
-// The other letters of windows-1250, and below each the one that it is sorted as.
+// The other letters of windows-1250; below each the letter that it is sorted as.
 constexpr std::u32string_view Foreign = U"ŚŤŹŁĄŞĽŻŔÁÂĂÄĹÇÉĘËĚÍÎĎŃŇÓÔŐÖŘŮÚŰÜÝŢß";
 constexpr std::u32string_view SortedAs = U"STZLASLZRAAAALCEEEEIIDNNOOOORUUUUYTS";
 static_assert(Foreign.size() == SortedAs.size());
 
-// Keys of letters begin above ASCII and end below the lead bytes of other characters' UTF-8.
+// The keys of letters are above ASCII and below the lead bytes of other characters in UTF-8.
 constexpr std::uint8_t FirstLetterKey = 0x80;
 static_assert(FirstLetterKey + std::size(Alphabet) <= 0xC2);
 
@@ -37,8 +37,7 @@ constexpr std::array<std::uint8_t, KeyTableSize> LetterKeys = []
     return keys;
 }();
 
-/// True when two characters are one letter; the alphabet has each such letter right behind its first
-/// character.
+/// True if two characters make one letter. In the alphabet that letter directly follows its first character.
 bool MakesDigraph(char32_t first, char32_t second)
 {
     return (first == U'D' && second == U'Ž') || ((first == U'L' || first == U'N') && second == U'J');

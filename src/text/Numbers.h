@@ -3,20 +3,20 @@
 #include <cstdint>
 #include <string_view>
 
-/// How a text reads as a whole number.
+/// The result of reading a text as a whole number.
 enum class NumberKind
 {
-    Whole,      ///< A number that fits 32 bits signed.
-    NotNumeric, ///< No number at all.
-    TooLarge,   ///< A number outside 32 bits signed.
+    Whole,      ///< It fits 32 bits signed.
+    NotNumeric, ///< It is not a number.
+    TooLarge,   ///< It is a number that does not fit.
 };
 
-/// Reads a text as a whole number, halves rounded to even; `value` is set only for `Whole`.
+/// Reads a text as a whole number; halves are rounded to even. `value` is set only for `Whole`.
 /// A number is: blanks around it, an optional sign, digits with at most one "." or "," as the decimal
-/// separator, at least one digit. No locale changes this.
+/// separator, at least one digit. The locale does not matter.
 NumberKind ParseLong(std::string_view text, std::int32_t& value);
 
-/// True when the text is a number, whatever its size.
+/// True if the text is a number of any size.
 bool IsNumeric(std::string_view text);
 
 /// Safe conversion: 0 for a text that is not numeric or does not fit.

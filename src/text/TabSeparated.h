@@ -4,6 +4,6 @@
 #include <string>
 #include <vector>
 
-/// Rows as a spreadsheet takes them from the clipboard: a tab between cells and `lineEnd` after each row. A
-/// tab or a line break inside a cell becomes a blank.
+/// Rows in the form that a spreadsheet pastes: a tab between cells and `lineEnd` after each row. A tab or a
+/// line break inside a cell becomes a blank.
 std::string TabSeparated(std::span<const std::vector<std::string>> rows, const std::string& lineEnd);

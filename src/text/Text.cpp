@@ -11,7 +11,7 @@ namespace
 
 constexpr char32_t Replacement = 0xFFFD;
 
-// The letters of windows-1250 beyond ASCII, each under its upper-case form; all lie below U+0180.
+// The letters of windows-1250 beyond ASCII, each under its upper-case form. All are below U+0180.
 constexpr std::u32string_view Lower = U"šśťžźłąşľżŕáâăäĺćçčéęëěíîďđńňóôőöřůúűüýţ";
 constexpr std::u32string_view Upper = U"ŠŚŤŽŹŁĄŞĽŻŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖŘŮÚŰÜÝŢ";
 static_assert(Lower.size() == Upper.size());
@@ -28,7 +28,7 @@ constexpr std::array<char32_t, UpperTableSize> UpperTable = []
     return table;
 }();
 
-// The first bytes of the table's characters beyond ASCII, each of which is two bytes in either case.
+// The range of the first bytes of the table's characters beyond ASCII. Each is two bytes in either case.
 constexpr std::uint8_t FirstLead = 0xC2;
 constexpr std::uint8_t EndOfLeads = 0xC0 | UpperTableSize >> 6U;
 
@@ -36,10 +36,10 @@ struct Lead
 {
     int Followers;
     char32_t Bits;
-    char32_t Smallest; // a longer form than needed is no character
+    char32_t Smallest; // a smaller code in this many bytes is not valid UTF-8
 };
 
-/// What the first byte of a character beyond ASCII says of it.
+/// What the first byte of a character beyond ASCII says about it.
 Lead DecodeLead(std::uint8_t byte)
 {
     if (byte >= 0xC2 && byte < 0xE0)
@@ -80,7 +80,7 @@ std::string UpperCase(std::string_view text)
 
 void MakeUpperCase(std::string& text)
 {
-    for (char& c : text) // with no branch in it, the loop takes many characters at once
+    for (char& c : text) // no branch, so that the compiler can vectorise the loop
         c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
 
     std::string_view rest = text;

@@ -17,16 +17,16 @@ constexpr std::int32_t LastSemestar = 6;
 constexpr std::int32_t FirstRedoslijed = 1;
 constexpr std::int32_t LastRedoslijed = 3;
 
-/// True when a row before this one of the table has its ID.
+/// True if an earlier row of the table has this row's ID.
 bool IsDuplicate(const modData::Table& table, const modData::Row& row, std::int32_t id)
 {
     return table.FindFirst(modData::IDColumn, id) != &row;
 }
 
-/// Whether a row's reference leads to a row of a table.
+/// True if a row's reference leads to a row of a table.
 using Exists = bool (*)(std::int32_t id);
 
-/// "Table: column ne postoji › value" where a reference leads to no row; the value is the text in the file.
+/// "Table: column ne postoji › value" if a reference leads to no row; the value is the text in the file.
 void CheckReference(const modData::Row& row, std::size_t column, Exists exists, std::string_view what,
                     Messages& messages)
 {
@@ -58,8 +58,7 @@ void CheckKolegij(const modData::Row& row, Messages& messages)
     if (IsDuplicate(modData::Kolegiji, row, id))
         messages.push_back({"Kolegiji: dupli ID_kolegij = " + std::to_string(id), row.Place(Kolegij::ID)});
 
-    // The conversion comes first on purpose: a semester that is no number ends the check as an error,
-    // not as a message.
+    // The conversion comes first on purpose: a semester that is not a number is an error, not a message.
     const std::int32_t semestar = row.Number(Kolegij::Semestar);
     const std::string_view text = row.Field(Kolegij::Semestar);
     if (!IsNumeric(text) || semestar > LastSemestar || semestar < FirstSemestar)

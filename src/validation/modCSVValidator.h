@@ -8,12 +8,12 @@
 #include <vector>
 
 /// The checks that decide whether the tables may be saved or exported: broken references, duplicate
-/// identifiers, values out of range. Hours, credits, types and departments are deliberately not checked.
+/// identifiers, values out of range. Hours, credits, types and departments are not checked on purpose.
 /// Everything here throws DataError for a number that cannot be read.
 namespace modCSVValidator
 {
 
-/// A test that a row fails, and the field that it is about.
+/// A test that a row fails, and the field that it checks.
 struct Message
 {
     std::string Text;
@@ -28,7 +28,7 @@ bool StudijExists(std::int32_t id);
 bool SmjerExists(std::int32_t id);
 bool KolegijExists(std::int32_t id);
 
-// Each walks one table and appends a message for every test that a row fails.
+// Each checks one table, and appends a message for every test that a row fails.
 
 void CheckNastavnici(Messages& messages);
 void CheckKolegiji(Messages& messages);
@@ -45,10 +45,10 @@ struct RowCheck
 };
 extern const std::array<RowCheck, 6> RowChecks;
 
-/// The messages of all checks over the loaded tables, in a fixed order.
+/// The messages of all checks of the loaded tables, in a fixed order.
 Messages AllMessages();
 
-/// True when no check has anything to say.
+/// True if there are no messages.
 bool ValidateAll();
 
 } // namespace modCSVValidator

@@ -164,7 +164,7 @@ TEST(RandomCheck, TheExitCodeIsOneExactlyWhenTheProgramFailsAndNothingIsChanged)
         EXPECT_GT(starts[start], 0U) << start;
 }
 
-TEST(RandomCheck, MendingDoesWhatItTellsAndOnlyOnce)
+TEST(RandomCheck, MendingDoesWhatItReportsAndOnlyOnce)
 {
     std::map<std::string, std::size_t> told;
     ForEachCatalogue(
@@ -193,7 +193,7 @@ TEST(RandomCheck, MendingDoesWhatItTellsAndOnlyOnce)
     EXPECT_GE(told.size(), 8U);
 }
 
-TEST(RandomCheck, ARepairIsWhatMendingTellsAndIsDoneOnce)
+TEST(RandomCheck, ARepairDoesWhatMendingReportsAndOnlyOnce)
 {
     const HastyFiles hasty;
     const TestFolder folder;

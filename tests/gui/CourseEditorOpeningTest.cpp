@@ -56,7 +56,7 @@ TEST_F(CourseEditor, HasItsLabelsAndCommands)
         });
 }
 
-TEST_F(CourseEditor, StandsInTheMiddleOfTheScreen)
+TEST_F(CourseEditor, IsCentredOnTheScreen)
 {
     Open();
     Add(

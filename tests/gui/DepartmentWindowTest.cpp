@@ -93,7 +93,7 @@ TEST_F(DepartmentWindow, OpensWithTheFirstDepartmentAndNothingFiltered)
                "Ukupno;Obvezni;7;2;1;20;3", "Ukupno;Izborni;1;0;0;2;1", "Ukupno;Total;8;2;1;22;4"}));
 }
 
-TEST_F(DepartmentWindow, StandsInTheMiddleOfTheScreenAndLeavesTheMainWindowUsable)
+TEST_F(DepartmentWindow, IsCentredOnTheScreenAndLeavesTheMainWindowUsable)
 {
     Open();
     const wxRect window = Stat->GetRect();
@@ -138,7 +138,7 @@ TEST_F(DepartmentWindow, ShowsTheChosenDepartment)
     EXPECT_EQ(Total(), "Ukupno;Total;0;0;0;0;0");
 }
 
-TEST_F(DepartmentWindow, TellsDepartmentsOfOneNameApart)
+TEST_F(DepartmentWindow, DistinguishesDepartmentsOfOneName)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Zavodi[1] = "2;Zavod za povijest;KEM";
@@ -228,7 +228,7 @@ TEST_F(DepartmentWindow, SharesItsSortMemoryWithTheLecturersWindow)
 
 // One shared window
 
-TEST_F(DepartmentWindow, OpenedAgainItIsTheSameWindowAsItStood)
+TEST_F(DepartmentWindow, OpenedAgainItIsTheSameWindowUnchanged)
 {
     Open();
     Choose(Box("cboZavodi"), "Zavod za kemiju");
@@ -244,7 +244,7 @@ TEST_F(DepartmentWindow, OpenedAgainItIsTheSameWindowAsItStood)
     EXPECT_EQ(Kolegiji()->SelectedRow(), 0);
 }
 
-TEST_F(DepartmentWindow, ClosedItOpensAfresh)
+TEST_F(DepartmentWindow, ClosedItOpensAsANewOne)
 {
     Open();
     Choose(Box("cboZavodi"), "Zavod za kemiju");
@@ -417,7 +417,7 @@ TEST_F(DepartmentWindow, AnEmptyNameWritesNothingAndSaysNothing)
     EXPECT_EQ(FilesWritten(), Texts{});
 }
 
-TEST_F(DepartmentWindow, SeesToTheEndingAndSaysWhereTheFileIs)
+TEST_F(DepartmentWindow, AddsTheEndingAndSaysWhereTheFileIs)
 {
     Open();
     ExpectWritten(Folder.PathOf("šć.CSV"), Folder.PathOf("šć.CSV"));
@@ -427,7 +427,7 @@ TEST_F(DepartmentWindow, SeesToTheEndingAndSaysWhereTheFileIs)
     EXPECT_EQ(FileLines(ReadBytes(Folder.Path() / "a.txt.csv")).size(), 1U + 2 * 16);
 }
 
-TEST_F(DepartmentWindow, ExportsAllDepartmentsByTheFiltersWhateverIsSelectedOrSorted)
+TEST_F(DepartmentWindow, TheExportFollowsTheFiltersNotTheSelectionOrTheOrder)
 {
     Open();
     Choose(Box("cboZavodi"), "Zavod za kemiju");
@@ -468,14 +468,14 @@ TEST_F(DepartmentWindow, AnErrorInWritingGoesUncaughtAndTheOlderFileStays)
 
 // The demo catalogue
 
-TEST_F(DepartmentWindow, OfTheDemoCatalogueTheExportIsTheExpectedFile)
+TEST_F(DepartmentWindow, TheExportOfTheDemoCatalogueIsTheExpectedFile)
 {
     OpenDemo();
     ExpectWritten(Folder.PathOf("z.csv"), Folder.PathOf("z.csv"));
     EXPECT_EQ(ReadBytes(Folder.Path() / "z.csv"), ExpectedFile("statistika_svi_zavodi.csv"));
 }
 
-TEST_F(DepartmentWindow, OfTheDemoCatalogueEveryTableIsTheDepartmentsBlockInTheExport)
+TEST_F(DepartmentWindow, EveryTableOfTheDemoCatalogueIsTheDepartmentsBlockInTheExport)
 {
     OpenDemo();
     const int departments = static_cast<int>(Box("cboZavodi")->GetCount());

@@ -264,7 +264,7 @@ TEST_F(EctsCalc, ShowsItsFiguresReadOnlyOnTheFaceOfAButton)
     EXPECT_EQ(Shown("txtLitUkupno"), Figure("0,0"));
 }
 
-TEST_F(EctsCalc, StandsWholeInTheMiddleOfTheScreen)
+TEST_F(EctsCalc, IsWholeAndCentredOnTheScreen)
 {
     const wxRect window = Window->GetRect();
     const wxSize screen = wxGetDisplaySize();
@@ -650,7 +650,7 @@ TEST_F(EctsCalc, CancellingTheExportWritesAndSaysNothing)
     EXPECT_EQ(EntriesOf(Folder.Path()), Texts{"Varlostudiji"});
 }
 
-TEST_F(EctsCalc, AFailedExportIsToldAndLeavesAnOlderReport)
+TEST_F(EctsCalc, AFailedExportIsReportedAndLeavesAnOlderReport)
 {
     const std::filesystem::path file = Folder.Path() / "report.csv";
     WriteBytes(file, "an older report");
@@ -808,7 +808,7 @@ TEST_F(EctsCalc, OpensOnceAndKeepsItsEntries)
     EXPECT_EQ(Shown("txtOstaleMetode(0)"), "5");
 }
 
-TEST_F(EctsCalc, StartsAfreshAfterClosing)
+TEST_F(EctsCalc, StartsEmptyAfterClosing)
 {
     Choose(Find<wxChoice>(Window, "cbo1ECTS"), "25");
     Select("optLitProcjena");

@@ -109,7 +109,7 @@ TEST_F(ExportCommand, EndsBeforeTheDialogWithoutANameToPropose)
     EXPECT_TRUE(Answers.Shown().empty());
 }
 
-TEST(SaveDialogName, GetsCsvAtItsEndWhereItDoesNotEndSo)
+TEST(SaveDialogName, GetsCsvAtItsEndIfItIsMissing)
 {
     EXPECT_EQ(WithCsvEnding("a.csv"), "a.csv");
     EXPECT_EQ(WithCsvEnding("a.CSV"), "a.CSV");

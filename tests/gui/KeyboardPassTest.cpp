@@ -364,7 +364,7 @@ TEST_F(Keyboard, CtrlNAddsACourseFromEveryKindOfControl)
     EXPECT_EQ(Find<wxTextCtrl>(Main, "txtSearch")->GetValue(), "");
 }
 
-TEST_F(Keyboard, TheMainWindowsKeysMeanNothingInTheOtherWindows)
+TEST_F(Keyboard, TheMainWindowsKeysDoNothingInTheOtherWindows)
 {
     for (const ProgramWindow& which : {LecturerForm, DepartmentForm, CalculatorForm})
         InWindow(which,

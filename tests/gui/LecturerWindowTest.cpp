@@ -85,7 +85,7 @@ TEST_F(LecturerWindow, OpensWithTheLecturersInTableOrderAndNothingShown)
     ExpectEmpty();
 }
 
-TEST_F(LecturerWindow, StandsInTheMiddleOfTheScreenAndLeavesTheMainWindowUsable)
+TEST_F(LecturerWindow, IsCentredOnTheScreenAndLeavesTheMainWindowUsable)
 {
     Open();
     const wxRect window = Stat->GetRect();
@@ -130,7 +130,7 @@ TEST_F(LecturerWindow, ShowsTheCoursesAndTheTableOfTheChosenLecturer)
     EXPECT_EQ(Total(), "TOTAL;Sve;5;1;1;15;2");
 }
 
-TEST_F(LecturerWindow, TellsLecturersOfOneNameApart)
+TEST_F(LecturerWindow, DistinguishesLecturersOfOneName)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Nastavnici[1] = "2;Anić Ana;;2";
@@ -153,7 +153,7 @@ TEST_F(LecturerWindow, ALecturerWithoutCoursesHasATableOfZeros)
     EXPECT_EQ(Total(), "TOTAL;Sve;0;0;0;0;0");
 }
 
-TEST_F(LecturerWindow, AListThatShrinksForgetsTheSelectionBehindItsEnd)
+TEST_F(LecturerWindow, AShorterListHasNoSelectionBeyondItsEnd)
 {
     Open();
     Click(Nastavnici(), "Anić Ana");
@@ -266,7 +266,7 @@ TEST_F(LecturerWindow, SharesItsSortMemoryWithTheMainWindowAndWithinItself)
 
 // One shared window
 
-TEST_F(LecturerWindow, OpenedAgainItIsTheSameWindowAsItStood)
+TEST_F(LecturerWindow, OpenedAgainItIsTheSameWindowUnchanged)
 {
     Open();
     Click(Nastavnici(), "Đurić Ćiro");
@@ -284,7 +284,7 @@ TEST_F(LecturerWindow, OpenedAgainItIsTheSameWindowAsItStood)
     EXPECT_EQ(Total(), "TOTAL;Sve;3;0;1;10;1");
 }
 
-TEST_F(LecturerWindow, ClosedByItsButtonItOpensAfresh)
+TEST_F(LecturerWindow, ClosedByItsButtonItOpensAsANewOne)
 {
     Open();
     Click(Nastavnici(), "Đurić Ćiro");
@@ -299,7 +299,7 @@ TEST_F(LecturerWindow, ClosedByItsButtonItOpensAfresh)
     EXPECT_EQ(EntriesOfBox(Nastavnici()), (Texts{"Anić Ana", "Šarić Žarko", "Đurić Ćiro", "Novi"}));
 }
 
-TEST_F(LecturerWindow, ClosedByItsCloseBoxItOpensAfreshAndSavesNothing)
+TEST_F(LecturerWindow, ClosedByItsCloseBoxItOpensAsANewOneAndSavesNothing)
 {
     Open();
     const std::vector<FileState> before = FolderState(Folder.Data());
@@ -494,7 +494,7 @@ TEST_F(LecturerWindow, AnEmptyNameWritesNothingAndSaysNothing)
     EXPECT_EQ(FilesWritten(), Texts{});
 }
 
-TEST_F(LecturerWindow, SeesToTheEndingAndSaysWhereTheFileIs)
+TEST_F(LecturerWindow, AddsTheEndingAndSaysWhereTheFileIs)
 {
     Open();
     ExpectWritten(Folder.PathOf("šć.CSV"), Folder.PathOf("šć.CSV"));
@@ -507,7 +507,7 @@ TEST_F(LecturerWindow, SeesToTheEndingAndSaysWhereTheFileIs)
     EXPECT_EQ(ReadBytes(Folder.Path() / "a.txt.csv"), bytes);
 }
 
-TEST_F(LecturerWindow, ExportsAllLecturersByTheFiltersWhateverIsSelectedOrSorted)
+TEST_F(LecturerWindow, TheExportFollowsTheFiltersNotTheSelectionOrTheOrder)
 {
     Open();
     Click(Nastavnici(), "Anić Ana");
@@ -559,14 +559,14 @@ TEST_F(LecturerWindow, AnErrorInWritingGoesUncaughtAndTheOlderFileStays)
 
 // The demo catalogue
 
-TEST_F(LecturerWindow, OfTheDemoCatalogueTheExportIsTheExpectedFile)
+TEST_F(LecturerWindow, TheExportOfTheDemoCatalogueIsTheExpectedFile)
 {
     OpenDemo();
     ExpectWritten(Folder.PathOf("n.csv"), Folder.PathOf("n.csv"));
     EXPECT_EQ(ReadBytes(Folder.Path() / "n.csv"), ExpectedFile("statistika_svi_nastavnici.csv"));
 }
 
-TEST_F(LecturerWindow, OfTheDemoCatalogueEveryTableIsTheLecturersBlockInTheExport)
+TEST_F(LecturerWindow, EveryTableOfTheDemoCatalogueIsTheLecturersBlockInTheExport)
 {
     OpenDemo();
     const int lecturers = static_cast<int>(Nastavnici()->GetCount());

@@ -66,7 +66,7 @@ TEST_F(MainWindow, OpensWithTheFirstLevelAndStudyAndNothingElseFiltered)
     EXPECT_EQ(Kolegiji()->SelectedRow(), -1);
 }
 
-TEST_F(MainWindow, StandsInTheMiddleOfTheScreen)
+TEST_F(MainWindow, IsCentredOnTheScreen)
 {
     Open();
     const wxRect window = Window->GetRect();
@@ -338,7 +338,7 @@ TEST_F(MainWindow, BothGridsShareOneSortMemory)
     EXPECT_EQ(ColumnTexts(Kolegiji(), 5), (Texts{"5", "4", "2"})) << "the second click on a column number";
 }
 
-TEST_F(MainWindow, TheSortOutlivesARefreshAndTheSelectionBoth)
+TEST_F(MainWindow, TheSortSurvivesARefreshAndTheSelectionSurvivesBoth)
 {
     Open();
     Kolegiji()->SelectRow(0);

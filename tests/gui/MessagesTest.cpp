@@ -58,7 +58,7 @@ TEST_F(MessageBoxes, AQuestionHasItsIconAndIsAnsweredByKeys)
     EXPECT_FALSE(ask('N', wxMOD_ALT));
 }
 
-TEST_F(MessageBoxes, OneWithoutAWindowOfItsOwnIsShownToo)
+TEST_F(MessageBoxes, OneWithoutAParentWindowIsShownToo)
 {
     const KeyAnswer answer(WXK_RETURN);
     ShowCritical(nullptr, "Greška 13");

@@ -110,7 +110,7 @@ TEST_F(Startup, AClickEndsTheSplash)
     EXPECT_EQ(OpenWindows(), Open(false, 1));
 }
 
-TEST_F(Startup, TheMainWindowOpensOnceWhateverComesTogether)
+TEST_F(Startup, TheMainWindowOpensOnceForSeveralEventsAtOnce)
 {
     frmSplash* splash = ShowSplash(new frmSplash);
     splash->CloseSplash();

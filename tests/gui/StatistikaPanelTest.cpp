@@ -138,7 +138,7 @@ TEST_F(StatistikaPanel, MoreThan30EctsAreRedInASemesterAndNowhereElse)
     EXPECT_EQ(Shown(5), "3;Izborni;2;2;2;40;2");
 }
 
-TEST_F(StatistikaPanel, ACourseBehindTheLevelsLastSemesterIsLeftOut)
+TEST_F(StatistikaPanel, ACourseAfterTheLevelsLastSemesterIsLeftOut)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Kolegiji.push_back("6;Kasni;1;1;1;7;obvezni;5;3");
@@ -193,7 +193,7 @@ TEST_F(StatistikaPanel, FollowsADeletion)
     EXPECT_EQ(Total(), "TOTAL;Sve;1;1;1;4;1");
 }
 
-TEST_F(StatistikaPanel, ADirectionCalledLikeTheEntryForAllFiltersTheListAlone)
+TEST_F(StatistikaPanel, ADirectionNamedLikeTheEntryForAllFiltersOnlyTheList)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Smjerovi[0] = "1;Opći;Svi;1;Preddiplomski";
@@ -268,7 +268,7 @@ TEST_F(StatistikaPanel, AsksWhereToSaveTheStatistics)
     EXPECT_TRUE(options.PathMustExist);
 }
 
-TEST_F(StatistikaPanel, ProposesANameThatIsOne)
+TEST_F(StatistikaPanel, ProposesAValidName)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Studiji = {"1;Lovstvo;L/Š:R;Preddiplomski", "2;Bevanda;BEV;Preddiplomski",
@@ -379,7 +379,7 @@ TEST_F(StatistikaPanel, AsksWhereToSaveTheCatalogue)
     EXPECT_TRUE(options.PathMustExist);
 }
 
-TEST_F(StatistikaPanel, WritesTheWholeCatalogueWhateverTheFiltersAndSaysWhere)
+TEST_F(StatistikaPanel, WritesTheWholeCatalogueWithAnyFiltersAndSaysWhere)
 {
     Open();
     const std::string whole = Export("cmdExportVarlo", "all.csv");

@@ -32,7 +32,7 @@ protected:
     TestFolder Folder;
 };
 
-TEST_P(TeachingLoadExportInProgram, WrittenItTellsAndGoesOn)
+TEST_P(TeachingLoadExportInProgram, AfterWritingItSaysSoAndGoesOn)
 {
     const Outcome outcome = Run();
     EXPECT_EQ(outcome.ExitCode, 0);

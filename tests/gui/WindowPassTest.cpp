@@ -65,7 +65,7 @@ TEST_F(EveryWindow, EveryFieldAndListHasANameForScreenReadersThatNoOtherHas)
         });
 }
 
-TEST_F(EveryWindow, ScreenReadersSayTheLabelThatStandsBesideTheControl)
+TEST_F(EveryWindow, ScreenReadersSayTheLabelBesideTheControl)
 {
     struct Expected
     {
@@ -102,7 +102,7 @@ TEST_F(EveryWindow, ScreenReadersSayTheLabelThatStandsBesideTheControl)
                  });
 }
 
-TEST_F(EveryWindow, ButtonsAndOptionsAreSpokenByTheirCaptions)
+TEST_F(EveryWindow, ScreenReadersSayTheCaptionsOfButtonsAndOptions)
 {
     InEveryWindow(
         [](wxTopLevelWindow& window)

@@ -189,7 +189,7 @@ TEST_F(WriteFailureWindow, InvalidDataAtTheExitTouchNothing)
     }
 }
 
-TEST_F(WriteFailureWindow, ADataFolderThatIsGoneIsMadeAnewAndEverythingSaved)
+TEST_F(WriteFailureWindow, AMissingDataFolderIsMadeAndEverythingSaved)
 {
     Open();
     std::filesystem::remove_all(Folder.Data());

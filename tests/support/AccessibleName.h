@@ -15,9 +15,9 @@
 #include "ui/controls/NativeFunction_gtk.h"
 #endif
 
-// What a screen reader says for a control, asked of the system the way that a screen reader asks.
+// The name that screen readers read for a control, asked in the same way as they ask.
 
-/// The window of a control that the system's screen readers know: of a list, the list inside.
+/// The window that screen readers see for a control; for a list, the list inside.
 inline wxWindow* SpokenWindow(wxWindow* control)
 {
     return dynamic_cast<ListView*>(control) != nullptr ? control->GetChildren().front() : control;
@@ -25,7 +25,7 @@ inline wxWindow* SpokenWindow(wxWindow* control)
 
 #ifdef _WIN32
 
-/// The name that the accessible object of a window tells.
+/// The name from a window's accessible object.
 inline std::string AccessibleName(HWND window)
 {
     void* found = nullptr;
@@ -45,8 +45,8 @@ inline std::string AccessibleName(HWND window)
     return name;
 }
 
-/// Fields and lists without an accessible object of their own get their name from the label right before
-/// them: the system's rule, which not every system that runs its programs keeps.
+/// Fields and lists without an accessible object get their name from the label right before them. This is
+/// Windows's rule; some systems that run Windows programs do not implement it.
 inline std::string AccessibleName(wxWindow* control)
 {
     wxWindow* window = SpokenWindow(control);
@@ -67,7 +67,7 @@ inline std::string AccessibleName(wxWindow* control)
 
 #else
 
-/// Whether a label is a frame's caption, which announces the group and names no control.
+/// True for a frame's caption, which names the group and no control.
 inline bool IsFrameCaption(void* label)
 {
     void* parent = NativeFunction<void* (*)(void*)>("gtk_widget_get_parent")(label);
@@ -94,7 +94,7 @@ inline std::string LabelsOfWidget(void* widget)
     return texts;
 }
 
-/// The name of a widget itself, as the accessibility toolkit has it.
+/// The name of a widget itself, from the accessibility toolkit.
 inline std::string NameOfWidget(void* widget)
 {
     void* accessible = NativeFunction<void* (*)(void*)>("gtk_widget_get_accessible")(widget);
@@ -102,7 +102,7 @@ inline std::string NameOfWidget(void* widget)
     return name == nullptr ? "" : name;
 }
 
-/// A reader says the labels that belong to a control, and the control's own name where there is none.
+/// Screen readers read the labels of a control; the control's own name if it has no label.
 inline std::string AccessibleName(wxWindow* control)
 {
     wxWindow* window = SpokenWindow(control);

@@ -19,7 +19,7 @@ struct Catalogue
     Lines KolegijSmjerovi;
     Lines KolegijNastavnici;
 
-    /// Makes these rows the program's tables; the header's line is taken to be line 1.
+    /// Makes these rows the program's tables; the header counts as line 1.
     void Use() const;
 
     /// Writes these rows as the seven files of a data folder.
@@ -30,8 +30,8 @@ struct Catalogue
 /// the lower one, directions and five courses.
 Catalogue SmallCatalogue();
 
-/// The small catalogue with other numbers for all courses: every mixture of the courses, direction links and
-/// lecturer links of the two fails validation.
+/// The small catalogue with other IDs for all courses. Courses, direction links and lecturer links of the two
+/// catalogues never fit together: a mixture fails validation.
 Catalogue RenumberedCatalogue();
 
 /// The rows of a table as lines, the fields joined by ";".

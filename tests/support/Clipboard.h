@@ -7,8 +7,8 @@
 #include <stdexcept>
 #include <string>
 
-/// Puts a text (UTF-8) on the system's clipboard with its line breaks as they are; the toolkit's own way
-/// makes them those of the system.
+/// Puts a text (UTF-8) on the system's clipboard with its line breaks unchanged; the toolkit would change
+/// them to the system's.
 inline void PutOnClipboard(const std::string& text, bool primary = false)
 {
 #ifdef _WIN32
@@ -26,7 +26,7 @@ inline void PutOnClipboard(const std::string& text, bool primary = false)
         throw std::runtime_error("no clipboard");
 }
 
-/// The text (UTF-8) on the system's clipboard with its line breaks as they are; "none" if there is none.
+/// The text (UTF-8) on the system's clipboard with its line breaks unchanged; "none" if there is none.
 inline std::string TextOnClipboard()
 {
     const wxClipboardLocker lock;

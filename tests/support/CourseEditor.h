@@ -15,7 +15,7 @@
 #include <string>
 #include <vector>
 
-// What the tests of the course editor share.
+// Shared by the tests of the course editor.
 
 using Texts = std::vector<std::string>;
 using Script = EditorSession::Script;
@@ -66,7 +66,7 @@ inline void Select(frmKolegij* editor, const char* name, const char* entry)
 
 inline constexpr const char* NastavnikLists[] = {"lstNastavnik(1)", "lstNastavnik(2)", "lstNastavnik(3)"};
 
-/// Fills everything that the checks ask for.
+/// Fills in everything that the checks need.
 inline void FillValid(frmKolegij* editor)
 {
     SetText(editor, "txtNaziv", "Novi kolegij");
@@ -100,7 +100,7 @@ inline void Save(frmKolegij* editor)
     Press(editor, "cmdSave");
 }
 
-/// The real dialog, shown modally by the main window.
+/// The real dialog, which the main window shows modally.
 class CourseEditor : public testing::Test
 {
 protected:

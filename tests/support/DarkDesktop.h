@@ -10,8 +10,8 @@
 #include "ui/controls/NativeFunction_gtk.h"
 #endif
 
-/// While it lives, windows and lists have light text on a dark background, as a user chooses it for the whole
-/// desktop.
+/// While it lives, windows and lists have light text on a dark background, like a user's setting for the
+/// whole desktop.
 class DarkDesktop
 {
 public:

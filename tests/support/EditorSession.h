@@ -8,14 +8,14 @@
 #include <stdexcept>
 #include <utility>
 
-/// What a script has made of the course editor.
+/// How a script has left the course editor.
 enum class EditorEnd
 {
     Closed,   ///< Saved or cancelled.
-    LeftOpen, ///< Still open when the script was through; it is cancelled then.
+    LeftOpen, ///< Still open at the end of the script; then cancelled.
 };
 
-/// Runs a script in the first course editor that is shown modally while it lives, from inside its event loop.
+/// Runs a script inside the event loop of the first modal course editor that opens while it lives.
 class EditorSession : public wxModalDialogHook
 {
 public:
@@ -43,13 +43,13 @@ protected:
             m_hasOpened = true;
             editor->CallAfter([this, editor] { Run(editor); });
         }
-        return wxID_NONE; // the editor itself is to be shown
+        return wxID_NONE; // show the editor itself
     }
 
 private:
     void Run(frmKolegij* editor)
     {
-        editor->Raise(); // where there is no window manager, nobody else makes a new window the active one
+        editor->Raise(); // without a window manager, a new window does not become active
         Settle();
         try
         {
@@ -71,7 +71,7 @@ private:
     std::exception_ptr m_failure;
 };
 
-/// Opens the course editor by `open` and runs a script in it; the test fails by an exception when none opens.
+/// Opens the course editor by `open` and runs a script in it; throws if none opens.
 inline EditorEnd RunEditor(const std::function<void()>& open, EditorSession::Script script)
 {
     const EditorSession session(std::move(script));

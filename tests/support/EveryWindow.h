@@ -16,19 +16,19 @@
 #include <utility>
 #include <vector>
 
-// What tests do that go through every window of the program.
+// For tests of every window of the program.
 
 using WindowScript = std::function<void(wxTopLevelWindow& window)>;
 
-/// Runs a script in the first dialog that is shown modally while it lives, message boxes apart, from inside
-/// the dialog's event loop; a dialog that the script leaves open is cancelled.
+/// Runs a script inside the event loop of the first modal dialog, except message boxes, that opens while it
+/// lives. If the script leaves the dialog open, it is cancelled.
 class ModalSession : public wxModalDialogHook
 {
 public:
     explicit ModalSession(WindowScript script) : m_script(std::move(script)) { Register(); }
     ~ModalSession() override { Unregister(); }
 
-    /// Throws what the script threw, and when no dialog opened.
+    /// Throws what the script threw; throws if no dialog opened.
     void Check() const
     {
         if (m_failure)
@@ -45,13 +45,13 @@ protected:
             m_opened = true;
             dialog->CallAfter([this, dialog] { Run(*dialog); });
         }
-        return wxID_NONE; // the dialog itself is to be shown
+        return wxID_NONE; // show the dialog itself
     }
 
 private:
     void Run(wxDialog& dialog)
     {
-        dialog.Raise(); // where there is no window manager, nobody else makes a new window the active one
+        dialog.Raise(); // without a window manager, a new window does not become active
         Settle();
         try
         {
@@ -70,7 +70,7 @@ private:
     std::exception_ptr m_failure;
 };
 
-/// A window of the program, and the button of the main window that opens it; none for the main window.
+/// A window of the program, and the button of the main window that opens it; null for the main window.
 struct ProgramWindow
 {
     const char* Name;
@@ -93,7 +93,7 @@ inline constexpr ProgramWindow AboutForm = {"frmAbout", "cmdAbout", true};
 inline constexpr ProgramWindow ProgramWindows[] = {MainForm,       EditorForm,     LecturerForm,
                                                    DepartmentForm, CalculatorForm, AboutForm};
 
-/// The main window on the demo catalogue, and every other window opened from it as the user opens it.
+/// The main window with the demo catalogue; opens every other window from it, as a user does.
 class EveryWindowTest : public testing::Test
 {
 protected:
@@ -107,13 +107,13 @@ protected:
         Main = new frmMain;
         Main->Form_Load();
         Settle();
-        // A window manager would give the keyboard back after a dialog; without one it goes by the mouse.
+        // A window manager returns the keyboard after a dialog; without one it follows the mouse.
         const wxRect place = Main->GetScreenRect();
         wxUIActionSimulator().MouseMove(place.GetPosition() + place.GetSize() / 2);
         Settle();
     }
 
-    /// Opens a window, runs a script in it and closes it; the editor opens with a course.
+    /// Opens a window, runs a script in it and closes it. The editor opens with a course.
     void InWindow(const ProgramWindow& which, const WindowScript& script)
     {
         OpenMain();
@@ -153,7 +153,7 @@ protected:
     frmMain* Main = nullptr;
 };
 
-/// The window in which the controls of a top-level window stand.
+/// The parent of a top-level window's controls.
 inline wxWindow* ControlParent(wxTopLevelWindow& window)
 {
     for (wxWindow* child : window.GetChildren())
@@ -162,7 +162,7 @@ inline wxWindow* ControlParent(wxTopLevelWindow& window)
     return &window;
 }
 
-/// The controls of a window in their own order, frames left out; a list is one control.
+/// The controls of a window in their order, without frames; a list is one control.
 inline std::vector<wxWindow*> ControlsOf(wxTopLevelWindow& window)
 {
     std::vector<wxWindow*> controls;
@@ -172,7 +172,7 @@ inline std::vector<wxWindow*> ControlsOf(wxTopLevelWindow& window)
     return controls;
 }
 
-/// The names of controls as the code has them.
+/// The names of controls.
 inline std::vector<std::string> NamesOf(const std::vector<wxWindow*>& controls)
 {
     std::vector<std::string> names;

@@ -22,7 +22,7 @@ inline void PrintTo(const FileState& file, std::ostream* stream)
     *stream << file.Name << ", " << file.Size << " bytes, " << file.Written.time_since_epoch().count();
 }
 
-/// Every file of a folder. A folder into which nothing has been written since is equal to what it was.
+/// Every file of a folder. Two states are equal if nothing was written to the folder between them.
 inline std::vector<FileState> FolderState(const std::filesystem::path& folder)
 {
     std::vector<FileState> files;

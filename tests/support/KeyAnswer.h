@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// Looks at the message box that opens while it lives, then answers it with a key.
+/// Reads the message box that opens while it lives, then answers it with a key.
 class KeyAnswer : private wxTimer
 {
 public:
@@ -27,7 +27,7 @@ private:
             return;
         if (!m_box)
         {
-            // Without a window manager the keys go where the pointer is.
+            // Without a window manager the keys go to the window under the pointer.
             wxUIActionSimulator().MouseMove(open->Place.GetPosition() + open->Place.GetSize() / 2);
             m_box = open;
             return;

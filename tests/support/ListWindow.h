@@ -19,8 +19,7 @@
 #include <wx/dataview.h>
 #endif
 
-// A ListView as it is on the screen: its columns' widths and arrows, and where the mouse finds its rows and
-// headers.
+// A ListView on the screen: its columns' widths and arrows, and the places of its rows and headers.
 
 #ifdef _WIN32
 
@@ -129,8 +128,8 @@ struct ExpectedColumn
     int Twips;
 };
 
-/// The columns of a list: their captions, and their widths, which only a caption that does not fit makes
-/// larger.
+/// The columns of a list: their captions and widths. A column is wider than given only if its caption would
+/// not fit.
 inline void ExpectColumns(const ListView* list, const std::vector<ExpectedColumn>& expected)
 {
     ASSERT_EQ(list->ColumnCount(), static_cast<int>(expected.size()));
@@ -140,11 +139,11 @@ inline void ExpectColumns(const ListView* list, const std::vector<ExpectedColumn
         EXPECT_EQ(list->ColumnCaption(i), column.Caption);
         const int given = list->FromDIP(column.Twips / 15);
 #ifdef _WIN32
-        constexpr int padding = 18; // that the header leaves around a caption
+        constexpr int padding = 18; // of the header around a caption
         const int needed = InnerList(list)->GetTextExtent(column.Caption).x + list->FromDIP(padding);
         EXPECT_EQ(list->ColumnWidth(i), std::max(given, needed)) << column.Caption;
 #else
-        // Themes differ in what they leave around their bold captions.
+        // The padding around the bold captions depends on the theme.
         const wxFont bold = list->GetFont().Bold();
         wxSize caption;
         list->GetTextExtent(column.Caption, &caption.x, &caption.y, nullptr, nullptr, &bold);

@@ -8,7 +8,7 @@
 
 // The two lists of the main window as rows that can be compared.
 
-/// The cells that a model answers for.
+/// All cells of a model.
 std::vector<ListRow> RowsOf(const ListModel& model, std::size_t columns);
 
 /// The course list, refreshed. @throws DataError

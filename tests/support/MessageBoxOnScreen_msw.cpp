@@ -16,7 +16,7 @@ constexpr int IconSize = 32;
 
 using Pixels = std::array<DWORD, static_cast<std::size_t>(IconSize) * IconSize>;
 
-/// What an icon looks like; two handles of one picture look the same.
+/// The picture of an icon; two handles of one picture compare equal.
 Pixels PixelsOf(HICON icon)
 {
     BITMAPINFO info = {};

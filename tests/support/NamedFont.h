@@ -12,9 +12,9 @@
 #include <string>
 #include <string_view>
 
-// A font of a given name, for what the program does where that font is installed.
+// A font with a given name, for tests of the program on a system that has that font.
 
-/// The bytes of a whole number in a font file: the highest first.
+/// The bytes of a whole number in a font file, the highest first.
 inline std::string FontNumber(std::size_t number, int bytes)
 {
     std::string text;
@@ -23,7 +23,7 @@ inline std::string FontNumber(std::size_t number, int bytes)
     return text;
 }
 
-/// The table of names in a font file: the family's name is the name of all that it names.
+/// The table of names in a font file; all of them are the family's name.
 inline std::string FontNames(std::string_view family)
 {
     std::string wide;
@@ -51,7 +51,7 @@ inline std::string RenamedFont(std::string font, std::string_view family)
     return font + names;
 }
 
-/// A font file that stays as long as this process, which reads it whenever it draws.
+/// A font file that stays until this process ends, which reads it whenever it draws.
 class FontFile
 {
 public:
@@ -71,7 +71,7 @@ private:
                                    ("varlo-font-" + std::to_string(std::random_device()()) + ".ttf");
 };
 
-/// Gives this process the font "Segoe UI", unless the system has it: a copy of one that it has.
+/// Gives this process the font "Segoe UI" if the system does not have it: a copy of another font.
 inline bool ProvideSegoeUi()
 {
     const char* const family = "Segoe UI";

@@ -5,10 +5,10 @@
 #include <optional>
 #include <string>
 
-// The system's own Save dialog, as far as a test needs to look into it.
+// The parts of the system's own Save dialog that a test needs.
 
-/// The text of the name box, when it has the keyboard focus; nothing while the dialog is not ready for keys.
+/// The text of the name box, if it has the keyboard focus; nothing until the dialog is ready for keys.
 std::optional<std::string> FocusedNameBoxText(const wxFileDialog& dialog);
 
-/// True while a message box of the dialog's own is open.
+/// True while the dialog shows a message box.
 bool ShowsOwnMessage(const wxFileDialog& dialog);

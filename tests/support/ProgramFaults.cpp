@@ -26,7 +26,7 @@ fs::path BaseFolder()
 }
 
 int Count = 0;
-int LastOperation = 0; // 0: no end
+int LastOperation = 0; // 0: never
 
 void CountOperation()
 {
@@ -39,7 +39,7 @@ void CountOperation()
 #endif
 }
 
-/// An operation that ends the program when its turn has come.
+/// An operation that ends the program when it is the last one.
 template<auto Operation>
 struct Counted;
 template<typename... Arguments, std::error_code (*FileOperations::*Operation)(Arguments...)>

@@ -67,7 +67,7 @@ void SaveDialogKeys::Work()
         m_sinceStep.Start();
     }
     else if (m_now == Step::Filling && text && text->starts_with(m_texts[turn - 1]))
-    { // GTK completes a typed name by that of a file
+    { // GTK completes a typed name to that of a file
         m_simulator.Char(WXK_RETURN);
         m_now = Step::Closing;
         m_sinceStep.Start();
@@ -89,7 +89,7 @@ void SaveDialogKeys::Work()
     m_busy = false;
 }
 
-/// Types the text over what the name box holds; a long one comes from the clipboard.
+/// Replaces the text of the name box by typing; a long text is pasted.
 void SaveDialogKeys::Fill()
 {
     constexpr std::size_t longText = 100;

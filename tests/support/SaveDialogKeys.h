@@ -11,16 +11,16 @@
 #include <string>
 #include <vector>
 
-/// While it lives, the system's own Save dialog is driven by keys: each time it opens, the next text is put
-/// in its name box and Enter pressed. After the last text Escape cancels it. A message of the dialog's own is
-/// closed by Escape, and the next text follows.
+/// While it lives, keys drive the system's own Save dialog: each time it opens, the next text is put in its
+/// name box and Enter is pressed. After the last text Escape cancels it. A message of the dialog is closed by
+/// Escape, and the next text follows.
 class SaveDialogKeys : public wxModalDialogHook
 {
 public:
     explicit SaveDialogKeys(std::vector<std::string> texts);
     ~SaveDialogKeys() override;
 
-    /// What the name box held each time before a text was put there.
+    /// The text of the name box each time, before it was replaced.
     const std::vector<std::string>& Proposed() const { return m_proposedNames; }
 
 protected:
@@ -45,5 +45,5 @@ private:
     wxStopWatch m_sinceStep;
     wxTimer m_timer;
     wxUIActionSimulator m_simulator;
-    bool m_busy = false; ///< True while keys are pressed: the timer may fire again meanwhile.
+    bool m_busy = false; ///< True while keys are pressed; the timer may fire again meanwhile.
 };

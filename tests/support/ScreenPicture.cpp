@@ -13,7 +13,7 @@ namespace
 
 #ifdef __WXGTK__
 
-/// Cairo keeps what it has read from the screen until it hears of a change.
+/// Cairo caches what it has read from the screen until it is told of a change.
 void DropFormerPicture(const wxScreenDC& screen)
 {
     const auto target = NativeFunction<void* (*)(void*)>("cairo_get_target");

@@ -3,5 +3,5 @@
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
-/// A part of the screen as it is now.
+/// A picture of a part of the screen.
 wxImage ScreenPicture(const wxRect& place);

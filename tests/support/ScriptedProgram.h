@@ -9,5 +9,5 @@ struct Outcome
     std::string Output; ///< The message boxes, a line each: title, severity, text.
 };
 
-/// Runs the scripted program to its end. What it does is asked for by variables of the environment.
+/// Runs the scripted program to its end. Environment variables control it.
 Outcome RunScriptedProgram();

@@ -34,8 +34,7 @@ inline std::vector<std::string> FirstCells(std::vector<std::string> lines)
     return lines;
 }
 
-/// The lines of a file's content without their ends; what stands behind the last CR LF is a line too, if it
-/// is not empty.
+/// The lines of a file's content without their ends; text after the last CR LF is a line too.
 inline std::vector<std::string> FileLines(std::string_view content)
 {
     std::vector<std::string> lines;
@@ -48,7 +47,7 @@ inline std::vector<std::string> FileLines(std::string_view content)
     return lines;
 }
 
-/// While it lives, a file is marked as not to be written.
+/// While it lives, a file is read-only.
 class ReadOnly
 {
 public:

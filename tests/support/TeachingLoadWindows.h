@@ -16,13 +16,13 @@
 #include <utility>
 #include <vector>
 
-// What the tests of the two windows of teaching load share.
+// Shared by the tests of the two windows of teaching load.
 
 inline const std::vector<ExpectedColumn> TaughtCourseColumnsExpected = {
     {"Kolegij", 2200}, {"P", 500},   {"S", 500},      {"V", 500},         {"ECTS", 700},
     {"Tip", 1200},     {"Sem", 600}, {"Studij", 800}, {"Nositelji", 2500}};
 
-/// The rows of a list as it shows them, the cells joined by ";".
+/// The rows of a list as shown, the cells joined by ";".
 inline std::vector<std::string> ShownRows(const ListView* list)
 {
     std::vector<std::string> rows;
@@ -45,7 +45,7 @@ inline void GoDown(wxControlWithItems* box)
     WaitUntil([&] { return box->GetSelection() == next; });
 }
 
-/// A main window on a test's data, and the window of load that its button opens.
+/// A main window with a test's data, and the window of teaching load that a button opens.
 template<typename Window>
 class TeachingLoadWindowTest : public testing::Test
 {
@@ -57,7 +57,7 @@ protected:
     void OpenMain(const Catalogue& catalogue = SmallCatalogue())
     {
         catalogue.WriteTo(Folder.Data());
-        const MessageAnswers warning; // of data that are not valid
+        const MessageAnswers warning; // about invalid data
         Main = new frmMain;
         Main->Form_Load();
         Settle();
@@ -97,7 +97,7 @@ protected:
         Press(Main, "cmdDelete");
     }
 
-    /// Presses the export button, the Save dialog answered with a path.
+    /// Presses the export button; the Save dialog is answered with a path.
     void PressExport(const std::string& path)
     {
         const SaveAnswers save(path);
@@ -107,7 +107,7 @@ protected:
         button->GetEventHandler()->SafelyProcessEvent(event);
     }
 
-    /// Exports to a path; the message box's text says so and names `written`.
+    /// Exports to a path; checks that the message says so and names `written`.
     void ExpectExported(const std::string& path, const std::string& text, const std::string& written)
     {
         MessageAnswers answers;

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-/// A folder of its own for one test, gone with it. While it lives, LOCALAPPDATA names it, so that the
-/// program's data folder lies in it.
+/// A folder for one test, removed with this object. While it lives, LOCALAPPDATA names it, so that the
+/// program's data folder is in it.
 class TestFolder
 {
 public:
@@ -20,10 +20,10 @@ public:
     /// The program's data folder, "Varlostudiji" in this one; it exists.
     std::filesystem::path Data() const { return m_folder / "Varlostudiji"; }
 
-    /// The path of a file of the data folder as the program writes it in its messages.
+    /// The path of a file of the data folder, as in the program's messages.
     std::string DataPath(std::string_view name) const;
 
-    /// The path of a file of this folder as the program takes it: UTF-8 text.
+    /// The path of a file of this folder as UTF-8, for the program's functions.
     std::string PathOf(std::string_view name) const;
 
 private:
@@ -43,14 +43,14 @@ std::filesystem::path DemoFolder();
 /// Copies the demo catalogue into a test's data folder.
 void CopyDemo(const TestFolder& folder);
 
-/// The bytes of a file in tests/expected, which scripts of their own have made.
+/// The bytes of a file in tests/expected; the scripts there make the files.
 std::string ExpectedFile(std::string_view name);
 
-/// The bytes of a file in tests/data/spoiled, whose README says which program has made it.
+/// The bytes of a file in tests/data/spoiled; the README there tells which program made it.
 std::string SpoiledFile(std::string_view folder, std::string_view name);
 
 /// The names of the entries of a folder, sorted.
 std::vector<std::string> EntriesOf(const std::filesystem::path& folder);
 
-/// The names of the temporary files in a folder that a save has left behind.
+/// The names of the temporary files that a save has left in a folder.
 std::vector<std::string> TemporaryFilesIn(const std::filesystem::path& folder);

@@ -6,9 +6,9 @@
 #include "ui/controls/NativeFunction_gtk.h"
 #endif
 
-/// While it lives, this program's text is that many per cent of the usual size, as a user sets it for the
-/// whole desktop. On Windows that is a setting of the session, read once at its start: there it stays as it
-/// is.
+/// While it lives, this program's text has that many per cent of the usual size, like a user's setting for
+/// the whole desktop. On Windows the size is a setting of the session, read once at its start, and does not
+/// change here.
 class TextScale
 {
 public:

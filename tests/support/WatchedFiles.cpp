@@ -37,7 +37,7 @@ std::string WithoutProcessId(std::string text)
 
 } // namespace
 
-/// The operations that replace the system's: recorded, failed or passed on.
+/// The replacements of the system's operations: each is recorded, then fails or is passed on.
 struct WatchedOperations
 {
     static Result Inspect(const Path& path, FileFacts& facts)
@@ -108,7 +108,7 @@ struct WatchedOperations
     {
         if (Fails({FileOperation::Rename, from, to, false, true}))
             return FailureOf(InUse->m_error);
-        // Some file systems hold a file that another replaces back until its successor is on the disk.
+        // Some file systems delay a rename over a file until the new content is on the disk.
         std::error_code failure;
         if (fs::is_regular_file(to, failure))
             System::OwnFiles.RemoveFile(to);

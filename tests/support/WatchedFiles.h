@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// An operation on a file that the program has made.
+/// An operation of the program on a file.
 struct FileOperation
 {
     enum Kind
@@ -30,21 +30,21 @@ struct FileOperation
         Lock
     };
     Kind What;
-    std::filesystem::path File; ///< The one that is renamed.
+    std::filesystem::path File; ///< The file that is renamed.
     std::filesystem::path NewName = {};
-    bool Reading = false;   ///< On a file that is open for reading.
-    bool HasEffect = false; ///< The disk differs after it, or is surer to hold what it should.
+    bool Reading = false;   ///< True for a file that is open for reading.
+    bool HasEffect = false; ///< It changes the disk, or makes a change durable.
 };
 
 /// "write", "flush folder" and so on.
 const char* NameOf(FileOperation::Kind what);
 
-/// A test that lets each of `count` operations fail in turn goes on by this many: natively by one. Under an
-/// emulator each operation is slow, so that only about forty of the same operations fail there.
+/// A test that makes each of `count` operations fail in turn goes on by this many. Natively it is one. Under
+/// an emulator, where operations are slow, only about forty of the same operations fail.
 std::size_t FailingStep(std::size_t count);
 
-/// While it lives, the program's operations on files are recorded, and one of them fails in the way that
-/// hurts most: a write does half of its work first, a close closes. Nothing waits for the disk.
+/// While it lives, it records the program's operations on files, and makes one of them fail after half of the
+/// work: a write writes half, a close closes. Nothing waits for the disk.
 class WatchedFiles
 {
 public:
@@ -55,24 +55,24 @@ public:
         NothingWorks   ///< No later operation does anything, as after the end of the program.
     };
 
-    /// The operation of this number, from 1, fails; 0 lets all pass. `error` is what an open or a rename
-    /// fails with.
+    /// Makes the operation with this number, from 1, fail; 0 makes none fail. `error` is the error of an open
+    /// or a rename.
     explicit WatchedFiles(std::size_t failing = 0, After after = After::AllIsWell, int error = 0);
     ~WatchedFiles();
     WatchedFiles(const WatchedFiles&) = delete;
     WatchedFiles& operator=(const WatchedFiles&) = delete;
 
-    /// The operations so far, the failed ones included.
+    /// The operations so far, including the failed ones.
     const std::vector<FileOperation>& Made() const { return m_operations; }
 
-    /// Those that have an effect on the disk, a text each, with paths inside `folder` and "N" for the process
-    /// number in a temporary name: "flush spremanje/db_zavod.csv".
+    /// The operations that change the disk, a text each, with paths relative to `folder` and "N" for the
+    /// process number in a temporary name: "flush spremanje/db_zavod.csv".
     std::vector<std::string> Effects(const std::filesystem::path& folder) const;
 
 private:
     friend struct WatchedOperations;
 
-    /// Records an operation and says whether it is to fail.
+    /// Records an operation; true if it is to fail.
     bool Fails(FileOperation operation);
 
     std::size_t m_failing;

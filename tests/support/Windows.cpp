@@ -28,10 +28,10 @@ int PositionOf(const wxControlWithItems* box, const char* entry)
     return position;
 }
 
-/// A point of a list box that lies on an entry; none when the entry is scrolled out of sight.
+/// A point on an entry of a list box; nothing if the entry is scrolled out of view.
 std::optional<wxPoint> PointOn(const wxListBox* list, int position)
 {
-    const wxPoint step(0, list->FromDIP(4)); // into the entry, away from its upper edge
+    const wxPoint step(0, list->FromDIP(4)); // away from the entry's upper edge
     for (wxPoint point(list->FromDIP(20), 0); point.y < list->GetClientSize().y; ++point.y)
         if (list->HitTest(point) == position && list->HitTest(point + step) == position)
             return point + step;
@@ -42,7 +42,7 @@ std::optional<wxPoint> PointOn(const wxListBox* list, int position)
 
 void Settle()
 {
-    // Key strokes and window sizes travel through the display server; a short while of quiet means all
+    // Keys and window sizes go through the display server; a short time without events means that all have
     // arrived.
     constexpr long quietMilliseconds = 30;
     wxStopWatch quiet;
@@ -84,7 +84,7 @@ void Open(wxChoice* box)
     auto* window = dynamic_cast<wxTopLevelWindow*>(wxGetTopLevelParent(box));
     if (!window->IsActive())
         window->Raise();
-    // The list must not open under the mouse, which would choose for itself.
+    // The mouse must not be over the list when it opens: it would choose an entry.
     const wxRect place = window->GetScreenRect();
     wxUIActionSimulator().MouseMove(place.GetBottomRight() - wxPoint(4, 4));
     Settle();
@@ -116,7 +116,7 @@ void Click(wxListBox* list, int position, wxKeyCode held)
 {
     if (position >= static_cast<int>(list->GetCount()))
         throw std::runtime_error("no entry " + std::to_string(position));
-    // GTK scrolls to an entry even if it is in sight, and two clicks on one place are a double click.
+    // GTK scrolls even to a visible entry, and two clicks at one point are a double click.
     if (!PointOn(list, position))
         list->EnsureVisible(position);
     WaitUntil([&] { return PointOn(list, position).has_value(); });

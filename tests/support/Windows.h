@@ -18,10 +18,10 @@
 
 // Driving real windows from a test: finding controls, typing, choosing, and answering message boxes.
 
-/// Lets the event loop deal with what is waiting, until it is idle.
+/// Runs the event loop until it is idle.
 void Settle();
 
-/// A control of a window by its name in the code; the test fails by an exception when there is none.
+/// A control of a window by its name in the code; throws if there is none.
 template<typename Control>
 Control* Find(wxWindow* window, const wxString& name)
 {
@@ -31,7 +31,7 @@ Control* Find(wxWindow* window, const wxString& name)
     return control;
 }
 
-/// An open top-level window by its class; null when there is none.
+/// An open top-level window by its class; null if there is none.
 template<typename Window>
 Window* FindOpen()
 {
@@ -41,31 +41,31 @@ Window* FindOpen()
     return nullptr;
 }
 
-/// Lets the event loop run until a condition is met; the test fails by an exception when it never is.
+/// Runs the event loop until a condition is met; throws if it is not met in time.
 void WaitUntil(const std::function<bool()>& condition);
 
-// Choices are made by real keys and clicks: an event raised by hand would also come where the system raises
-// none.
+// Choices are made by real keys and clicks: a synthetic event would also arrive in cases in which the system
+// raises none.
 
-/// Opens a drop-down list by the keyboard. The keys after it are its own.
+/// Opens a drop-down list by the keyboard. The following keys go to the list.
 void Open(wxChoice* box);
 
-/// Whether a drop-down list is open.
+/// True if a drop-down list is open.
 bool IsOpen(const wxChoice* box);
 
-/// Chooses an entry of a drop-down list by the keyboard: GTK does not say where the entries are on the
+/// Chooses an entry of a drop-down list by the keyboard, since GTK does not tell where the entries are on the
 /// screen.
 void Choose(wxChoice* box, int position);
 void Choose(wxChoice* box, const char* entry); ///< UTF-8
 
-/// Clicks on an entry of a list box with the mouse, scrolled to if it has to be, Ctrl or Shift held if given.
+/// Clicks on an entry of a list box with the mouse, with Ctrl or Shift if given; scrolls to it if needed.
 void Click(wxListBox* list, int position, wxKeyCode held = WXK_NONE);
 void Click(wxListBox* list, const char* entry); ///< UTF-8
 
-/// Presses a button as the mouse does, the event included; a disabled one does nothing.
+/// Does what a click on a button does, with its event; a disabled button does nothing.
 void Press(wxWindow* window, const wxString& buttonName);
 
-/// Gives a control the focus, unless it or a control in it has it.
+/// Gives a control the focus, unless it or one of its children has it.
 void Focus(wxWindow* control);
 
 /// Gives a control the focus and types a key into it.
@@ -74,10 +74,10 @@ void PressKey(wxWindow* control, int keyCode, int modifiers = 0);
 /// Gives a control the focus and types a text of ASCII characters into it.
 void Type(wxWindow* control, const char* text);
 
-/// Clicks into the middle of a control with the mouse.
+/// Clicks the middle of a control with the mouse.
 void Click(wxWindow* control);
 
-/// Clicks on a point of the screen with the mouse.
+/// Clicks a point of the screen with the mouse.
 void ClickAt(wxPoint onScreen);
 
 /// The entries of a drop-down list or list box.
@@ -86,10 +86,10 @@ std::vector<std::string> EntriesOfBox(const wxItemContainer* box);
 /// The texts of a column of a list, top to bottom.
 std::vector<std::string> ColumnTexts(const ListView* list, int column);
 
-/// Closes every open window without asking and waits until they are gone.
+/// Closes every open window without questions and waits until all are gone.
 void CloseAllWindows();
 
-/// What a message box said.
+/// A message box that was shown.
 struct MessageShown
 {
     std::string Text;
@@ -99,17 +99,17 @@ struct MessageShown
     bool Has(long style) const { return (Style & style) == style; }
 };
 
-/// While it lives, message boxes are answered at once and remembered.
+/// While it lives, message boxes are answered at once and recorded.
 class MessageAnswers : public wxModalDialogHook
 {
 public:
-    /// `answer` is what every box is answered with: wxID_OK, wxID_YES, wxID_NO.
+    /// `answer` is the answer to every box: wxID_OK, wxID_YES, wxID_NO.
     explicit MessageAnswers(int answer = wxID_OK) : m_answer(answer) { Register(); }
     ~MessageAnswers() override { Unregister(); }
 
     const std::vector<MessageShown>& Shown() const { return m_messages; }
 
-    /// The one message shown since the last call; the test fails when there was none, or more than one.
+    /// The one message shown since the last call; the test fails if there was none or more than one.
     MessageShown TakeOnly();
 
 protected:
@@ -120,7 +120,7 @@ private:
     std::vector<MessageShown> m_messages;
 };
 
-/// While it lives, Save dialogs are answered with a path, or cancelled, and their options are remembered.
+/// While it lives, Save dialogs are answered with a path, or cancelled, and their options are recorded.
 class SaveAnswers
 {
 public:
@@ -135,7 +135,7 @@ private:
     std::vector<SaveDialogOptions> m_options;
 };
 
-/// What went wrong in an event handler since the last call, as the user would be told; empty when nothing
-/// did. An error that nothing catches ends the real program; a window test notes it here instead.
+/// The error in an event handler since the last call, as the user would see it; empty if there was none. In
+/// the real program such an error ends the program; in a window test it is recorded here.
 std::string TakeUncaughtError();
 void NoteUncaughtError(std::string text);

@@ -14,7 +14,7 @@
 namespace
 {
 
-/// Lets lists scroll at once: a click at a place found while they move would miss.
+/// Lists scroll without animation: a click at a place found during the scrolling would miss.
 void SwitchAnimationsOff()
 {
 #ifndef _WIN32
@@ -30,7 +30,7 @@ class TestApp : public wxApp
 public:
     bool OnInit() override
     {
-        // The toolkit's own checks must fail the test, not wait in a dialog.
+        // The toolkit's assertions must fail the test, not show a dialog.
         wxSetAssertHandler(
             [](const wxString& file, int line, const wxString&, const wxString& condition,
                const wxString& message)

@@ -1,5 +1,5 @@
-// Loads the catalogue and saves it on the way out, twice, as the program does, but without a window: for the
-// tests that do so thousands of times. support/ProgramFaults.h has the variables.
+// Loads the catalogue and saves it at exit, twice, as the program does, but without a window: for tests that
+// do so thousands of times. The variables are in support/ProgramFaults.h.
 
 #include "data/Errors.h"
 #include "data/modData.h"

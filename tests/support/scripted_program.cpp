@@ -1,10 +1,10 @@
-// The program itself, except that what its message boxes say goes to standard output and each is answered at
-// once, that the splash is dismissed at once, and that the main window is left as VARLO_LEAVE_BY says: by the
-// "exit" button, by its "close" box, or "not" at all. More variables:
+// The program itself, with these differences: it prints its message boxes to standard output and answers each
+// at once; it closes the splash at once; and it closes the main window as VARLO_LEAVE_BY says: by the "exit"
+// button, by its "close" box, or "not" at all. More variables:
 //
-// VARLO_ASK: shows a question that the system's own box asks, prints its buttons and how numbers and texts
-// come out, and ends. VARLO_EXPORT_LOAD=NAME: opens a window of teaching load by this button of the main
-// window, and exports to load.csv in VARLO_EXPORT_TO, or else in LOCALAPPDATA. Those of
+// VARLO_ASK: shows a question in the system's own box, prints its buttons, and how numbers are formatted and
+// texts sorted, and ends. VARLO_EXPORT_LOAD=NAME: opens a window of teaching load by this button of the main
+// window, and exports to load.csv in VARLO_EXPORT_TO, or else in LOCALAPPDATA. For the others see
 // support/ProgramFaults.h.
 
 #include "data/Files.h"

@@ -67,7 +67,7 @@ TEST(CatalogueExport, AnEmptyCatalogueGivesTheHeaderAlone)
     EXPECT_EQ(Exported(), Header);
 }
 
-TEST(CatalogueExport, TakesTheFirstThreeLecturersByPlaceWhateverTheirRole)
+TEST(CatalogueExport, TakesTheFirstThreeLecturersOfAnyRoleByPlace)
 {
     UseCourse("1;K;1;1;1;1;obvezni;1;1", {}, {"1;3;Nositelj;3", "1;1;Asistent;1"});
     EXPECT_EQ(OnlyLine(), "1;Ani\xE6 Ana;\xD0uri\xE6 \xC6iro;;K;1;1;1;1;;obvezni;LOR;1;Preddiplomski");

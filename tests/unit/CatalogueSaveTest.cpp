@@ -224,7 +224,7 @@ TEST_F(CatalogueSaving, LeavesTheNewTablesAndACopyOfTheOldOnes)
     EXPECT_EQ(EntriesOf(Folder.Data() / "kopije").size(), 1U);
 }
 
-TEST_F(CatalogueSaving, OfWhatTheFilesHoldAlreadyWritesEachAloneAndKeepsNothing)
+TEST_F(CatalogueSaving, WithoutChangesWritesEachFileByItselfAndKeepsNoCopy)
 {
     SmallCatalogue().Use();
     const WatchedFiles watched;
@@ -455,7 +455,7 @@ TEST_F(HeldFile, ThatWasEditedMeanwhileIsKeptAsItIs)
     EXPECT_EQ(EntriesOf(Folder.Data() / "kopije").size(), 2U);
 }
 
-TEST_F(HeldFile, ThatWasEditedIsKeptOnceHoweverOftenTheStartFails)
+TEST_F(HeldFile, ThatWasEditedIsKeptOnceAfterSeveralFailedStarts)
 {
     Hold(true);
     EXPECT_EQ(NotFinished(modData::SaveAllTables), Report);
@@ -526,7 +526,7 @@ TEST_F(CatalogueSaving, AnIncompleteSetIsRemovedAtAStartAndReplacedByASave)
     }
 }
 
-TEST_F(CatalogueSaving, WhatSomebodyPutIntoTheSetsFolderStays)
+TEST_F(CatalogueSaving, OtherFilesInTheSetsFolderStay)
 {
     fs::create_directory(Set());
     WriteBytes(Set() / "note.txt", "mine");
@@ -536,7 +536,7 @@ TEST_F(CatalogueSaving, WhatSomebodyPutIntoTheSetsFolderStays)
     EXPECT_EQ(EntriesOf(Set()), std::vector<std::string>{"note.txt"});
 }
 
-TEST_F(CatalogueSaving, AMarkThatNamesNoCopyIsOneAllTheSame)
+TEST_F(CatalogueSaving, AMarkThatNamesNoCopyStillCompletesTheSet)
 {
     for (const char* name : {"", "../../elsewhere", "2026-11-21"})
     {
@@ -697,7 +697,7 @@ TEST_F(UnsavedChanges, AreKeptBesideTheCatalogue)
     EXPECT_EQ(ToPath(modData::KeepUnsavedChanges().Place), Kept("2026-11-21_143005_2-prekid"));
 }
 
-TEST_F(UnsavedChanges, DoNotExistWhereTheFilesReadAsTheTables)
+TEST_F(UnsavedChanges, DoNotExistIfTheFilesReadAsTheTables)
 {
     EXPECT_FALSE(modData::KeepUnsavedChanges().Exist);
     WriteBytes(Folder.Data() / "db_studij.csv", "header\r\r\n" + Old["db_studij.csv"].substr(25));
@@ -726,7 +726,7 @@ TEST_F(UnsavedChanges, GoToTheSystemsTemporaryFolderWhereThereIsNoRoom)
     EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
 }
 
-TEST_F(UnsavedChanges, ForWhichThereIsRoomNowhereHaveNoPlace)
+TEST_F(UnsavedChanges, WithoutRoomAnywhereHaveNoPlace)
 {
     RenumberedCatalogue().Use();
     const WatchedFiles watched;

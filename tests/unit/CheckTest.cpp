@@ -78,7 +78,7 @@ TEST(Check, ACleanCatalogueHasNoFindings)
 
 // --- Errors ---
 
-TEST(Check, WhatTheValidationReportsIsToldWithItsPlace)
+TEST(Check, ValidationMessagesAreReportedWithTheirPlace)
 {
     EXPECT_EQ(With(
                   [](Catalogue& c)
@@ -108,7 +108,7 @@ TEST(Check, TheValidationGoesOnAfterAnErrorThatEndsIt)
                      "dopuštenog raspona od -2147483648 do 2147483647"}));
 }
 
-TEST(Check, AnErrorThatManyRowsMeetIsToldOnce)
+TEST(Check, AnErrorOfManyRowsIsReportedOnce)
 {
     EXPECT_EQ(With([](Catalogue& c) { c.Zavodi.insert(c.Zavodi.begin(), "x;Prvi;P"); }),
               Lines{"G db_zavod.csv, redak 2, ID: Greška 13: Vrijednost \"x\" nije broj"});
@@ -444,7 +444,7 @@ TEST(CheckReport, EachGroupHasAHeadingAndItsLines)
               "  db_smjer.csv, redak 3: treća\n");
 }
 
-TEST(CheckReport, OfAFaultInAWholeColumnTwentyRowsAreShown)
+TEST(CheckReport, AFaultInAWholeColumnShowsTwentyRows)
 {
     Check::Findings findings;
     for (std::size_t line = 2; line <= 30; ++line)

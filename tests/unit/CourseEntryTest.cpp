@@ -149,7 +149,7 @@ TEST(CourseEntryCheck, AHolderMustBeSelectedInAnyPlace)
     ExpectPasses(entry);
 }
 
-TEST(CourseEntryCheck, NobodyHoldsACourseTwice)
+TEST(CourseEntryCheck, ALecturerHoldsACourseOnlyOnce)
 {
     const std::string message = "Ne možete odabrati istog nastavnika više puta. Promijenite odabir.";
     const std::pair<std::array<std::optional<std::int32_t>, NositeljPlaces>, EntryField> refused[] = {
@@ -200,7 +200,7 @@ TEST(CourseEntryCheck, ChecksInAFixedOrder)
 
 // Saving a new course
 
-TEST(CourseEntrySave, ANewCourseGoesBehindAllOthersWithItsLinks)
+TEST(CourseEntrySave, ANewCourseAndItsLinksGoToTheEnd)
 {
     SmallCatalogue().Use();
     CourseEntry entry = Valid();
@@ -262,7 +262,7 @@ TEST(CourseEntrySave, NumbersAreStoredWholeRoundedWithHalvesToEven)
     EXPECT_EQ(LinesOf(modData::Kolegiji).back(), "7;Novi;0;7;2147483647;4;obvezni;3;1");
 }
 
-TEST(CourseEntrySave, TypeAndSemesterAreStoredAsTheyStand)
+TEST(CourseEntrySave, TypeAndSemesterAreStoredUnchanged)
 {
     SmallCatalogue().Use();
     CourseEntry entry = Valid();
@@ -287,7 +287,7 @@ TEST(CourseEntrySave, AnIDInTheTableThatIsNoNumberIsAnErrorAndAddsNothing)
 
 // Saving a changed course
 
-TEST(CourseEntrySave, AChangedCourseKeepsItsPlaceAndItsLinksAreMadeAnew)
+TEST(CourseEntrySave, AChangedCourseKeepsItsPlaceAndItsLinksAreReplaced)
 {
     SmallCatalogue().Use();
     CourseEntry entry = Valid();

@@ -141,7 +141,7 @@ TEST(CourseList, ABadNumberEndsTheListOnlyWhereItIsNeeded)
     EXPECT_THROW(CourseRows({.StudijID = 1, .Semestar = 1}), TypeMismatch);
 }
 
-TEST(CourseList, ANumberFiltersHoweverItIsWritten)
+TEST(CourseList, ANumberFiltersInEveryWayOfWritingIt)
 {
     Catalogue catalogue;
     catalogue.Kolegiji = {"1;A;;;;;;02; 3 ", "02;B;;;;;;2.0;+3", "3;C;;;;;;3;3"};
@@ -168,7 +168,7 @@ TEST(CourseList, TheSearchFindsATextInEachOfItsFourFieldsAndInNoOther)
     EXPECT_EQ(Found("q6"), Texts{}) << "a lecturer's title is not searched";
 }
 
-TEST(CourseList, TheSearchKnowsNoWordsAndNoWildcards)
+TEST(CourseList, TheSearchHasNoWordBoundariesAndNoWildcards)
 {
     SmallCatalogue().Use();
     EXPECT_EQ(Found("apredn"), Texts{"4"});
@@ -244,7 +244,7 @@ std::string ErrorOfAllRows(const Catalogue& catalogue)
     return {};
 }
 
-TEST(CourseList, OfACoursesFaultsTheStudysIsTold)
+TEST(CourseList, OfSeveralFaultsInACourseThatOfTheStudyIsReported)
 {
     Catalogue catalogue;
     catalogue.Studiji = {"1;Lovstvo;LOR;Preddiplomski"};

@@ -117,7 +117,7 @@ TEST_F(Copies, ThatCannotBeMadeLeaveNothing)
     EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U) << "no empty folder either";
 }
 
-TEST_F(Copies, AreNotMadeAgainOfWhatTheNewestHolds)
+TEST_F(Copies, AreNotMadeIfTheNewestHoldsTheSame)
 {
     DatedCopies::KeepAnother(Files);
     DatedCopies::KeepAnother(Files);
@@ -187,7 +187,7 @@ TEST_F(Copies, TheLastOfEachOfTheNewestThirtyDaysStay)
     EXPECT_EQ(Names(), expected);
 }
 
-TEST_F(Copies, TheOneJustMadeStaysThoughTheClockWentBack)
+TEST_F(Copies, TheOneJustMadeStaysEvenIfTheClockWasSetBack)
 {
     for (int second = 0; second < 40; ++second)
         Make("2026-11-21_1430" + TwoDigits(second));

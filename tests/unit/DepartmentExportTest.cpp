@@ -175,7 +175,7 @@ TEST(DepartmentExport, NumbersThatCannotBeReadCountAsZero)
     EXPECT_EQ(Counted(), (Texts{"Z;1;Obvezni;1;0;2;3;2", "Z;Ukupno;Total;1;0;2;3;2"}));
 }
 
-TEST(DepartmentExport, AnIDThatIsNoNumberIsZeroAndEndsNothing)
+TEST(DepartmentExport, AnIDThatIsNoNumberIsZeroAndNoError)
 {
     UseCourses({"1;A;1;0;0;1;obvezni;1;1"});
     modData::Zavodi.Append({"x", "Nulti", ""});
@@ -222,7 +222,7 @@ TEST_F(FailingDepartmentExport, ARowThatIsTooShort)
     ExpectError<SubscriptOutOfRange>("older.csv", {"Diplomski", "Svi"});
 }
 
-TEST_F(FailingDepartmentExport, OfTwoFaultsTheMissingNameIsToldOnEverySystem)
+TEST_F(FailingDepartmentExport, OfTwoFaultsTheMissingNameIsReportedOnEverySystem)
 {
     UseCourses({"1;A;1;0;0;1;obvezni;1;1"});
     modData::Zavodi.Replace(0, Texts{"1"});

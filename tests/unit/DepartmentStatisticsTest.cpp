@@ -132,7 +132,7 @@ TEST(DepartmentStatistics, EveryLinkLecturerAndCourseOfOneIDCounts)
     EXPECT_EQ(TeachingLoadTable(Povijest).back(), "Ukupno;Total;6;0;0;6;4");
 }
 
-TEST(DepartmentStatistics, ReadsTheTablesAnewEachTime)
+TEST(DepartmentStatistics, ReadsTheTablesEachTime)
 {
     SmallCatalogue().Use();
     EXPECT_EQ(Courses(Kemija).size(), 2U);
@@ -293,7 +293,7 @@ TEST(DepartmentStatistics, ASemesterThatIsNoNumberIsSemesterZero)
     EXPECT_EQ(Courses(Kemija, {"Svi", "1"}), Texts{});
 }
 
-TEST(DepartmentStatistics, TheTableTakesAnIDThatIsNoNumberForZero)
+TEST(DepartmentStatistics, TheTableReadsAnIDThatIsNoNumberAsZero)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Nastavnici = {"x;Bez ID;;zavod", "5;Peti;;2", "y;Bez ID;;2"};

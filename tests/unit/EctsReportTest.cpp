@@ -59,7 +59,7 @@ TEST(EctsReport, HasFiftyLines)
     EXPECT_EQ(lines[23], "Metoda;Vlastita procjena");
 }
 
-TEST(EctsReport, TellsTheMethodOfLiterature)
+TEST(EctsReport, NamesTheMethodOfLiterature)
 {
     WorkloadFields fields;
     fields.LitByEstimate = true;

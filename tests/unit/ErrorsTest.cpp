@@ -38,7 +38,7 @@ TEST(Errors, AFileErrorNamesThePathAndHasTheNumberOfItsCause)
     }
 }
 
-TEST(Errors, ACauseThatNobodyForesawIsAnErrorOfReadingOrWriting)
+TEST(Errors, AnUnknownCauseIsAnErrorOfReadingOrWriting)
 {
     EXPECT_EQ(FileError(std::make_error_code(std::errc::file_too_large), "x").Number(), 57);
     EXPECT_EQ(FileError(std::error_code(123456, std::generic_category()), "x").Number(), 57);
@@ -78,7 +78,7 @@ TEST(Errors, ALongValueIsCutAndItsControlCharactersAreVisible)
                     .starts_with("Broj \"" + std::string(60, '9') + "…\" je izvan"));
 }
 
-TEST(Errors, TheFaultAndThePlaceCanBeHadApart)
+TEST(Errors, TheFaultAndThePlaceCanBeReadSeparately)
 {
     const FieldPlace place = {"db_smjer.csv", 12, "StudijID"};
     EXPECT_EQ(TypeMismatch("x", place).Fault(), "Vrijednost \"x\" nije broj");

@@ -58,7 +58,7 @@ TEST(ReadNumber, ReadsEverythingElseAsZero)
     EXPECT_EQ(Read(std::string("7\0", 2)), 0);
 }
 
-TEST(ReadNumber, TakesTheUsersOwnSeparatorWhateverItIs)
+TEST(ReadNumber, TakesAnySeparatorOfTheUser)
 {
     EXPECT_EQ(ReadNumber("2٫5", "٫"), 2.5);
     EXPECT_EQ(ReadNumber("2,5", "٫"), 2.5);
@@ -100,7 +100,7 @@ TEST(FormatFixed, RoundsHalvesAwayFromZeroAsOnPaper)
     EXPECT_EQ(Shown2(-9.995), "-10,00");
 }
 
-TEST(FormatFixed, IsNotLedAstrayByTheShadowOfBinaryArithmetic)
+TEST(FormatFixed, IgnoresBinaryRoundingNoise)
 {
     EXPECT_EQ(Shown(45.0 / 100 * 7), "3,2");
     EXPECT_EQ(Shown(0.1 + 0.7 - 0.55), "0,3");
@@ -227,7 +227,7 @@ TEST(HoursSum, IsRoundedAsOnPaper)
     }
 }
 
-TEST(HoursSum, OfWhatIsTooLargeIsNotFinite)
+TEST(HoursSum, IsNotFiniteIfItIsTooLarge)
 {
     HoursSum sum;
     for (int i = 0; i < 2; ++i)

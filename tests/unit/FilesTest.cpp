@@ -52,7 +52,7 @@ protected:
     std::string Path = Folder.PathOf("file.csv");
 };
 
-TEST_F(Files, ANewContentTakesTheOldOnesPlace)
+TEST_F(Files, ANewContentReplacesTheOldOne)
 {
     ReplaceFile(Path, "first");
     EXPECT_EQ(ReadBytes(File), "first");
@@ -142,7 +142,7 @@ TEST_F(Files, ANameMayBeAsLongAsTheSystemTakes)
     EXPECT_EQ(EntriesOf(Folder.Path()).size(), 2U);
 }
 
-TEST_F(Files, ACheckForWritingSaysWhatWouldFailAndLeavesNoTrace)
+TEST_F(Files, ACheckForWritingReportsWhatWouldFailAndLeavesNoFile)
 {
     EXPECT_NO_THROW(CheckWritable(Path));
     EXPECT_FALSE(fs::exists(File));
@@ -269,7 +269,7 @@ TEST_F(Files, ALinkToALinkInAnotherFolderReachesTheFile)
     EXPECT_EQ(EntriesOf(Folder.Path() / "inner"), (std::vector<std::string>{"real.csv", "second.csv"}));
 }
 
-TEST_F(Files, AFileBehindALinkThatIsMarkedReadOnlyKeepsItsContent)
+TEST_F(Files, AReadOnlyFileThatALinkNamesKeepsItsContent)
 {
     WriteBytes(Folder.Path() / "real.csv", "old");
     fs::permissions(Folder.Path() / "real.csv", AnyWrite, fs::perm_options::remove);
@@ -331,7 +331,7 @@ TEST_F(Files, AFileKeepsItsPermissions)
     }
 }
 
-TEST_F(Files, ANewFileHasThePermissionsThatTheUmaskLeaves)
+TEST_F(Files, ANewFileHasThePermissionsOfTheUmask)
 {
     for (const mode_t mask : {0022U, 0077U, 0002U})
     {
@@ -371,7 +371,7 @@ TEST_F(Files, ALinkInTheTemporaryFilesPlaceIsNotFollowed)
     EXPECT_FALSE(fs::is_symlink(File));
 }
 
-TEST_F(Files, AFileKeepsItsOwnerWhereThatIsPermitted)
+TEST_F(Files, AFileKeepsItsOwnerIfThatIsPermitted)
 {
     if (::geteuid() != 0)
         GTEST_SKIP() << "only root may give a file to somebody else";
@@ -417,7 +417,7 @@ TEST_F(Files, ARenameThatTheSystemRefusesSaysSo)
     EXPECT_EQ(ReadBytes(File), "old");
 }
 
-TEST_F(Files, ARemovalOfWhatIsMissingIsNone)
+TEST_F(Files, ARemovalOfAMissingFileIsNoFailure)
 {
     EXPECT_FALSE(System::OwnFiles.RemoveFile(Folder.Path() / "missing"));
     EXPECT_FALSE(System::OwnFiles.RemoveFolder(Folder.Path() / "missing"));
@@ -449,7 +449,7 @@ protected:
     }
 };
 
-TEST_F(Encoding, AMarkedFileIsConvertedWithItsLineEndsAsTheyWere)
+TEST_F(Encoding, AMarkedFileIsConvertedAndKeepsItsLineEnds)
 {
     EXPECT_EQ(Normalized("\xEF\xBB\xBFID;Naziv\n1;Čćđ\r\n\r\n  2;\xE2\x82\xAC\r"),
               "ID;Naziv\n1;\xC8\xE6\xF0\r\n\r\n  2;\x80\r");
@@ -523,7 +523,7 @@ TEST_F(Encoding, AMissingFileIsCreatedEmpty)
     EXPECT_EQ(ReadBytes(File), "");
 }
 
-TEST_F(Encoding, AReadOnlyFileIsConvertedNotAtAll)
+TEST_F(Encoding, AReadOnlyFileIsNotConverted)
 {
     WriteBytes(File, "\xEF\xBB\xBFx");
     fs::permissions(File, AnyWrite, fs::perm_options::remove);

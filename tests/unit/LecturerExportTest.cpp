@@ -174,7 +174,7 @@ TEST_F(OneLecturersExport, HoursAndCreditsThatAreNoNumbersCountAsZero)
     EXPECT_THROW(LecturerTeachingLoadRows(1, All), TypeMismatch) << "unlike the table on the screen";
 }
 
-TEST_F(OneLecturersExport, AFaultyCourseThatNobodyTeachesIsNotMet)
+TEST_F(OneLecturersExport, AFaultyCourseWithoutALecturerIsNoError)
 {
     Use({"1;A;1;0;0;1;obvezni;1;1", "5;Ničiji;1;0;0;1;obvezni;prvi;1", "2;B;1;0;0;1;obvezni;1;1"});
     EXPECT_EQ(Counted(), (Texts{"N;1;Obvezni;2;0;0;2;2", "N;TOTAL;Sve;2;0;0;2;2"}));
@@ -232,7 +232,7 @@ TEST_F(FailingLecturerExport, ARowThatIsTooShort)
     ExpectError<SubscriptOutOfRange>();
 }
 
-TEST_F(FailingLecturerExport, OfTwoFaultyCoursesTheOneLinkedFirstIsTold)
+TEST_F(FailingLecturerExport, OfTwoFaultyCoursesTheOneLinkedFirstIsReported)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Nastavnici = {"1;N;;1", "2;M;;1"};
@@ -250,7 +250,7 @@ TEST_F(FailingLecturerExport, OfTwoFaultyCoursesTheOneLinkedFirstIsTold)
     }
 }
 
-TEST_F(FailingLecturerExport, OfTwoFaultsTheMissingNameIsToldOnEverySystem)
+TEST_F(FailingLecturerExport, OfTwoFaultsTheMissingNameIsReportedOnEverySystem)
 {
     Use({"1;A;1;0;0;1;obvezni;1;1"});
     modData::Nastavnici.Replace(0, Texts{"x"});

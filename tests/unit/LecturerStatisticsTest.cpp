@@ -109,7 +109,7 @@ TEST(LecturerStatistics, ALinkToAMissingCourseYieldsNothing)
     EXPECT_EQ(TeachingLoadTable(Ana).back(), "TOTAL;Sve;3;1;0;7;2");
 }
 
-TEST(LecturerStatistics, EveryLinkCountsWhateverItsRoleAndPlace)
+TEST(LecturerStatistics, EveryLinkCountsInAnyRoleAndPlace)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.KolegijNastavnici = {"1;1;Nositelj;1", "2;1;;9", "1;1;Asistent;-3"};
@@ -130,7 +130,7 @@ TEST(LecturerStatistics, EveryCourseOfOneIDCounts)
     EXPECT_EQ(TeachingLoadTable(Ana).back(), "TOTAL;Sve;3;0;0;3;2");
 }
 
-TEST(LecturerStatistics, ReadsTheTablesAnewEachTime)
+TEST(LecturerStatistics, ReadsTheTablesEachTime)
 {
     SmallCatalogue().Use();
     EXPECT_EQ(Courses(Ciro).size(), 2U);
@@ -320,7 +320,7 @@ TEST(LecturerStatistics, ARowThatIsTooShortIsAnError)
     }
 }
 
-TEST(LecturerStatistics, AStudyThatIsTooShortIsAnErrorWhateverTheFilters)
+TEST(LecturerStatistics, AStudyThatIsTooShortIsAnErrorWithAnyFilters)
 {
     Catalogue catalogue = SmallCatalogue();
     for (const char* studij : {"1;Lovstvo;LOR", "1;Lovstvo"})
@@ -339,7 +339,7 @@ TEST(LecturerStatistics, AStudyThatIsTooShortIsAnErrorWhateverTheFilters)
     }
 }
 
-TEST(LecturerStatistics, ALecturersOwnRowNeedsNoMoreThanItsName)
+TEST(LecturerStatistics, ALecturersRowNeedsOnlyItsName)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Nastavnici = {"1;Anić Ana", "2;Šarić Žarko", "3;Đurić Ćiro"};

@@ -5,7 +5,7 @@
 namespace
 {
 
-TEST(ListModel, AnElectiveIsBlueHoweverItsTypeIsWritten)
+TEST(ListModel, AnElectiveIsBlueInEverySpellingOfItsType)
 {
     for (const char* tip : {"izborni", "Izborni", "IZBORNI", "  izBorni "})
         EXPECT_EQ(ElectiveColour(tip), 0xFF0000U) << tip;
@@ -17,7 +17,7 @@ TEST(ListModel, EveryOtherTypeIsBlack)
         EXPECT_EQ(ElectiveColour(tip), 0U) << tip;
 }
 
-TEST(ListModel, TheCellsOfAUniformRowAreDrawnAlike)
+TEST(ListModel, TheCellsOfAUniformRowLookAlike)
 {
     const ListRow row = UniformRow({"a", "", "b"}, ListColours::Red, true);
     ASSERT_EQ(row.size(), 3U);

@@ -100,7 +100,7 @@ TEST_F(LockedFile, IsAnErrorOfTheLoad)
     ExpectDenied<FileError>(modData::LoadAllTables);
 }
 
-TEST_F(LockedFile, ThatIsLetGoOfSoonIsNotNoticed)
+TEST_F(LockedFile, ThatIsReleasedSoonIsNotNoticed)
 {
     const fs::path successor = Folder.Data() / "successor";
     WriteBytes(successor,

@@ -69,7 +69,7 @@ TEST(Lookups, DirectionsAreJoinedWithoutBlankOnes)
     EXPECT_EQ(GetSmjeroviKraticeString(5), "");
 }
 
-TEST(Lookups, HoldersComeOutByPlace)
+TEST(Lookups, HoldersAreSortedByPlace)
 {
     UseLinks({"1;3;Nositelj;3", "1;1;Nositelj;1", "1;2;Nositelj;2", "2;4;Nositelj;1"});
     EXPECT_EQ(GetNositeljiString(1), "A; B; C");
@@ -95,7 +95,7 @@ TEST(Lookups, FewerHoldersLeaveTheirPlacesEmpty)
     EXPECT_EQ(NastavniciForKolegij(), "");
 }
 
-TEST(Lookups, EqualPlacesComeOutAsTheExchangesLeaveThem)
+TEST(Lookups, TheExchangesDecideTheOrderOfEqualPlaces)
 {
     // 2A 2B 1C: C is exchanged with A, then B and A stand in that order.
     UseLinks({"1;1;Nositelj;2", "1;2;Nositelj;2", "1;3;Nositelj;1"});
@@ -104,7 +104,7 @@ TEST(Lookups, EqualPlacesComeOutAsTheExchangesLeaveThem)
     EXPECT_EQ(Nositelji123(), "C|B|A");
 }
 
-TEST(Lookups, AnUnknownLecturerLeavesASeparatorBehindAKnownOne)
+TEST(Lookups, AnUnknownLecturerLeavesASeparatorAfterAKnownOne)
 {
     UseLinks({"1;99;Nositelj;1", "1;1;Nositelj;2"});
     EXPECT_EQ(GetNositeljiString(1), "A");
@@ -114,7 +114,7 @@ TEST(Lookups, AnUnknownLecturerLeavesASeparatorBehindAKnownOne)
     EXPECT_EQ(Nositelji123(), "A||");
 }
 
-TEST(Lookups, AFieldIsReadOnlyWhereTheOnesBeforeItHold)
+TEST(Lookups, AFieldIsReadOnlyIfTheOnesBeforeItMatch)
 {
     UseLinks({"2", "2;x", "1;1;Nositelj;1"});
     EXPECT_EQ(GetNositeljiString(1), "A") << "the links of another course need no second field";
@@ -128,7 +128,7 @@ TEST(Lookups, AFieldIsReadOnlyWhereTheOnesBeforeItHold)
     EXPECT_NO_THROW(Nositelji123()) << "a fourth link is not looked at";
 }
 
-TEST(Lookups, TheExchangesSettleTheOrderOfMoreEqualPlaces)
+TEST(Lookups, TheExchangesDecideTheOrderOfMoreEqualPlaces)
 {
     UseLinks({"1;1;N;2", "1;2;N;2", "1;3;N;2", "1;4;N;1"});
     EXPECT_EQ(NastavniciForKolegij(), "D1B2C2A2");
@@ -140,7 +140,7 @@ TEST(Lookups, TheExchangesSettleTheOrderOfMoreEqualPlaces)
     EXPECT_EQ(Nositelji123(), "A|B|C") << "equal places alone are not exchanged";
 }
 
-TEST(Lookups, GatheringFailsOnABadCourseBehindTheLastLinkAsWell)
+TEST(Lookups, MatchingFailsOnABadCourseAfterTheLastLinkToo)
 {
     UseLinks({"1;1;N;1", "1;2;N;2", "1;3;N;3", "x;1;N;1"});
     EXPECT_THROW(GetNositeljiString(1), TypeMismatch);

@@ -90,7 +90,7 @@ TEST(Mend, AMarkedFileStaysUtf8)
          "db_zavod.csv, redak 1: krajevi redaka LF zamijenjeni su s CR LF (takvih: 2)"});
 }
 
-TEST(Mend, AMarkBeforeWindows1250Goes)
+TEST(Mend, AMarkBeforeWindows1250IsRemoved)
 {
     ExpectMended(Mark + Start + "1;\x8Eir;\x8E\r\n", Start + "1;\x8Eir;\x8E\r\n",
                  {"db_zavod.csv: uklonjena je oznaka UTF-8 ispred slova u zapisu windows-1250"});
@@ -109,7 +109,7 @@ TEST(Mend, Utf16IsLeft)
     ExpectUntouched("\xFF\xFEI\0D\0"s, {"db_zavod.csv: datoteka u zapisu UTF-16 nije mijenjana"});
 }
 
-TEST(Mend, ASpreadsheetsQuotesGo)
+TEST(Mend, ASpreadsheetsQuotesAreRemoved)
 {
     ExpectMended(
         Start + "1;\"Lov \"\"i\"\" ribolov\";L\r\n", Start + "1;Lov \"i\" ribolov;L\r\n",
@@ -117,7 +117,7 @@ TEST(Mend, ASpreadsheetsQuotesGo)
          "\"Lov \"i\" ribolov\""});
 }
 
-TEST(Mend, QuotesAroundAWholeFieldGoWhereTheHeaderHasThem)
+TEST(Mend, QuotesAroundAWholeFieldAreRemovedIfTheHeaderHasThem)
 {
     ExpectMended(
         "\"ID\";\"Naziv\";\"Kratica\"\r\n1;\"Lov\";\"\"\r\n", Start + "1;Lov;\r\n",
@@ -141,7 +141,7 @@ TEST(Mend, QuotesAroundASeparatorOrABreakAreLeft)
                     "uklonjeni: \"1;\"Lov\\x0aribolov\";L\""});
 }
 
-TEST(Mend, RowsOfSeparatorsGo)
+TEST(Mend, RowsOfSeparatorsAreRemoved)
 {
     ExpectMended(Start + ";;\r\n1;A;B\r\n; ;\r\n;", Start + "1;A;B\r\n",
                  {"db_zavod.csv, redak 2: uklonjen je redak samih razdjelnika",

@@ -81,7 +81,7 @@ TEST(Numbers, WhatOnlyLooksLikeANumberIsNone)
         EXPECT_FALSE(IsNumeric(text)) << text;
 }
 
-TEST(Numbers, ANumberIsOneWhateverItsSize)
+TEST(Numbers, ANumberMayHaveAnySize)
 {
     EXPECT_TRUE(IsNumeric("99999999999999999999"));
     EXPECT_TRUE(IsNumeric(std::string(100'000, '9')));

@@ -117,7 +117,7 @@ TEST_F(ProvjeraRuns, HelpIsShownOnRequestAndForWrongArguments)
     }
 }
 
-TEST_F(ProvjeraRuns, AtItsEndItWaitsForEnterWhereAskedTo)
+TEST_F(ProvjeraRuns, AtItsEndItWaitsForEnterIfAsked)
 {
     const TestFolder folder;
     SmallCatalogue().WriteTo(folder.Data());
@@ -155,7 +155,7 @@ void ExpectRefused(const TestFolder& folder, std::string_view text)
     EXPECT_EQ(FilesOf(folder.Data()), before);
 }
 
-TEST_F(ProvjeraRuns, ARepairMendsKeepsACopyAndTellsWhatItDid)
+TEST_F(ProvjeraRuns, ARepairMendsKeepsACopyAndReportsWhatItDid)
 {
     const TestFolder folder;
     WriteBroken(folder);
@@ -228,7 +228,7 @@ TEST_F(ProvjeraRuns, ARepairIsRefusedWhileASaveIsPending)
                 "ih i pokušajte ponovno.");
 }
 
-TEST_F(ProvjeraRuns, APendingSetIsJudgedInTheFilesStead)
+TEST_F(ProvjeraRuns, APendingSetIsCheckedInsteadOfTheFiles)
 {
     const TestFolder folder;
     WriteBroken(folder);
@@ -255,7 +255,7 @@ TEST_F(ProvjeraRuns, ARepairThatCannotKeepACopyChangesNothing)
     EXPECT_EQ(FilesOf(folder.Data()), before);
 }
 
-TEST_F(ProvjeraRuns, WhereItWaitsARepairIsOffered)
+TEST_F(ProvjeraRuns, ARepairIsOfferedIfItWaits)
 {
     const TestFolder folder;
     WriteBroken(folder);

@@ -121,7 +121,7 @@ TEST(SemesterStatistics, StudySemesterAndSearchFilterTheCourses)
     EXPECT_EQ(Total({.Search = "  "}), "111 0 0 3 3");
 }
 
-TEST(SemesterStatistics, CoursesBehindTheLevelsLastSemesterAreLeftOut)
+TEST(SemesterStatistics, CoursesAfterTheLevelsLastSemesterAreLeftOut)
 {
     With({"1;K;1;0;0;1;obvezni;4;1", "2;K;2;0;0;1;obvezni;5;1", "3;K;4;0;0;1;obvezni;6;1",
           "4;K;8;0;0;1;obvezni;7;1", "5;K;16;0;0;1;obvezni;0;1", "6;K;32;0;0;1;obvezni;-1;1"},

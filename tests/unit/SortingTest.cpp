@@ -24,7 +24,7 @@ TEST(CroatianOrder, FollowsTheAlphabet)
                  "m", "n", "nj", "o", "p", "q", "r",  "s", "š", "t", "u", "v", "w", "x", "y", "z", "ž"});
 }
 
-TEST(CroatianOrder, ADigraphIsALetterOfItsOwn)
+TEST(CroatianOrder, ADigraphIsOneLetter)
 {
     ExpectOrder({"ludost", "lužina", "ljeto"});
     ExpectOrder({"nz", "njegov", "o"});
@@ -33,13 +33,13 @@ TEST(CroatianOrder, ADigraphIsALetterOfItsOwn)
     EXPECT_EQ(CroatianSortKey("Džep"), CroatianSortKey("DŽEP"));
 }
 
-TEST(CroatianOrder, CaseDoesNotCountAndForeignLettersCountAsTheirOwn)
+TEST(CroatianOrder, CaseDoesNotMatterAndForeignLettersSortWithTheirOwn)
 {
     EXPECT_EQ(CroatianSortKey("ČĆĐ š"), CroatianSortKey("čćđ Š"));
     EXPECT_EQ(CroatianSortKey("Müller ß é ł"), CroatianSortKey("muller s E l"));
 }
 
-TEST(CroatianOrder, EveryForeignLetterOfWindows1250StandsWithItsOwn)
+TEST(CroatianOrder, EveryForeignLetterOfWindows1250SortsWithItsOwn)
 {
     EXPECT_EQ(CroatianSortKey("śťźłąşľżŕáâăäĺçéęëěíîďńňóôőöřůúűüýţß"),
               CroatianSortKey("stzlaslzraaaalceeeeiidnnooooruuuuyts"));
@@ -56,7 +56,7 @@ TEST(CroatianOrder, ADigraphIsOneInEveryCase)
     ExpectOrder({"l j", "lz", "lj"});
 }
 
-TEST(CroatianOrder, ATextStandsBeforeALongerOneThatBeginsWithIt)
+TEST(CroatianOrder, ATextComesBeforeALongerOneThatBeginsWithIt)
 {
     ExpectOrder({"n", "na", "nz", "nj", "nja"});
 }

@@ -47,7 +47,7 @@ TEST_F(Tables, AHeaderAloneIsAnEmptyTableAndIsSavedAsTheHeaderAlone)
     EXPECT_EQ(Saved(table), "KolegijID;SmjerID\r\n");
 }
 
-TEST_F(Tables, BlankLinesAreSkippedAndDoNotComeBack)
+TEST_F(Tables, BlankLinesAreSkippedAndNotWrittenBack)
 {
     EXPECT_EQ(RoundTrip("1;2\r\n\r\n   \r\n3;4\r\n"), "1;2\r\n3;4\r\n");
 }
@@ -230,7 +230,7 @@ TEST_F(Tables, TheFirstMatchWinsAndEndsTheSearch)
     EXPECT_THROW(table.FindFirst(0, 99), TypeMismatch);
 }
 
-TEST_F(Tables, GatheringPassesTheWholeTable)
+TEST_F(Tables, MatchingReadsTheWholeTable)
 {
     const modData::Table table = Load("h\r\n7;1\r\n7.0;2\r\n\r\n7;3\r\nbad;4\r\n");
     std::string gathered;
@@ -257,7 +257,7 @@ TEST_F(Tables, ASearchSeesEveryChange)
     EXPECT_EQ(table.FindFirst(0, 2), nullptr);
 }
 
-TEST_F(Tables, SafeSearchTakesWhatIsNoNumberAsZero)
+TEST_F(Tables, ASafeSearchReadsWhatIsNoNumberAsZero)
 {
     const modData::Table table = Load("h\r\nx;1\r\n0;2\r\n5;3\r\n");
     std::string gathered;
@@ -286,7 +286,7 @@ TEST_F(Tables, RemovingGoesFromTheLastRowToTheFirst)
     EXPECT_EQ(LinesOf(table), (Lines{"6;2", "7;4"}));
 }
 
-TEST_F(Tables, TheDemoCatalogueComesBackByteForByte)
+TEST_F(Tables, TheDemoCatalogueIsSavedByteForByte)
 {
     const std::filesystem::path demo = DemoFolder();
     CopyDemo(Folder);
@@ -335,7 +335,7 @@ TEST_F(Tables, TheNextIDIsTheLargestPlusOne)
 
 // The data folder
 
-TEST_F(Tables, TheDataFolderLiesInLocalAppData)
+TEST_F(Tables, TheDataFolderIsInLocalAppData)
 {
     std::filesystem::remove_all(Folder.Data());
     EXPECT_EQ(ToPath(modData::GetDataFolder()), Folder.Data());
@@ -344,7 +344,7 @@ TEST_F(Tables, TheDataFolderLiesInLocalAppData)
     EXPECT_EQ(modData::GetDataFolder().back(), 'i') << "no separator behind it";
 }
 
-TEST_F(Tables, WithoutLocalAppDataTheFolderLiesInTheUserProfileAndIsCreated)
+TEST_F(Tables, WithoutLocalAppDataTheFolderIsInTheUserProfileAndIsCreated)
 {
     SetEnvironment("LOCALAPPDATA", "");
     const std::string formerProfile = System::EnvironmentVariable("USERPROFILE");

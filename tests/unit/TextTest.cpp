@@ -64,7 +64,7 @@ TEST(Text, AWordIsFoundTrimmedAndInAnyCase)
     EXPECT_FALSE(EqualsIgnoreCase("", "IZBORNI"));
 }
 
-TEST(Text, CharactersComeAndGoAsUtf8)
+TEST(Text, CharactersAreReadAndWrittenAsUtf8)
 {
     const std::string text = "A\xC4\x8D\xE2\x82\xAC\xF0\x9F\x98\x80";
     std::string_view rest = text;

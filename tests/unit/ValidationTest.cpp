@@ -135,7 +135,7 @@ TEST(Validation, WhatIsNoNumberOrMissingIsAnErrorNotAMessage)
     EXPECT_THROW(validateWith([](Catalogue& c) { c.Studiji.push_back("9;X;X"); }), SubscriptOutOfRange);
 }
 
-TEST(Validation, TheChecksSpeakInAFixedOrder)
+TEST(Validation, TheMessagesComeInAFixedOrder)
 {
     const Texts messages = With(
         [](Catalogue& c)
@@ -167,7 +167,7 @@ TEST(Validation, OneRowCanFailEveryTestOfItsCheckInTheirOrder)
                      "KolegijNastavnik: neispravan redoslijed (9) za kolegij 99"}));
 }
 
-TEST(Validation, AMessageQuotesTheFieldAsItStandsAndTheIDAsANumber)
+TEST(Validation, AMessageQuotesTheFieldAsStoredAndTheIDAsANumber)
 {
     EXPECT_EQ(With([](Catalogue& c) { c.Kolegiji.push_back(" 08,0;A;;;;;; 07 ;1"); }),
               Texts{"Kolegiji: neispravan semestar ( 07 ) za ID 8"});
@@ -197,7 +197,7 @@ TEST(Validation, ANegativeSemesterOrPlaceIsOutOfRange)
               Texts{"KolegijNastavnik: neispravan redoslijed (-1) za kolegij 1"});
 }
 
-TEST(Validation, AMessageNamesTheFieldThatItIsAbout)
+TEST(Validation, AMessageNamesItsField)
 {
     Catalogue catalogue = SmallCatalogue();
     catalogue.Nastavnici.push_back("1;;;99");

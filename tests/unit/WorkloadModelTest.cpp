@@ -214,7 +214,7 @@ TEST(WorkloadModel, LeavesWhatItComputedBeforeAnError)
     EXPECT_EQ(fields.Upozorenje, "as it was");
 }
 
-TEST(WorkloadModel, ShowsZeroWhereAFigureOutgrowsAllNumbers)
+TEST(WorkloadModel, ShowsZeroForAFigureThatIsTooLarge)
 {
     WorkloadFields fields;
     fields.KontaktniSati = {"1e308", "1e308", "-1"};
@@ -279,7 +279,7 @@ TEST(WorkloadModel, WarnsOfPagesWithWordsInEitherMode)
     EXPECT_EQ(Recalculated(fields).Upozorenje, PagesAndWords);
 }
 
-TEST(WorkloadModel, WarnsOfNegativeEntriesAsOfNone)
+TEST(WorkloadModel, WarnsOfNegativeEntriesAsOfMissingOnes)
 {
     WorkloadFields fields;
     fields.LitByEstimate = fields.PismeniByEstimate = true;
@@ -294,7 +294,7 @@ TEST(WorkloadModel, WarnsOfNegativeEntriesAsOfNone)
     EXPECT_EQ(Recalculated(fields).Upozorenje, NoSelfStudy);
 }
 
-TEST(WorkloadModel, JudgesContactTeachingAndTheTotalAsShown)
+TEST(WorkloadModel, ChecksContactTeachingAndTheTotalAsShown)
 {
     WorkloadFields fields;
     fields.LitStranice[0] = "0,1";

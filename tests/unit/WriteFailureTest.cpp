@@ -395,7 +395,7 @@ TEST_F(LostLetters, ThatCannotBeKeptEndTheStartBeforeAnythingIsConverted)
     EXPECT_EQ(ReadBytes(Folder.Data() / "db_studij.csv"), Marked["db_studij.csv"]);
 }
 
-TEST_F(LostLetters, AreKeptOnceHoweverOftenTheConversionFails)
+TEST_F(LostLetters, AreKeptOnceAfterSeveralFailedConversions)
 {
     const auto fail = [&]
     {

@@ -54,7 +54,7 @@ TEST_F(DataStore, LoadsTheFilesInAFixedOrderAndCreatesAMissingOneEmpty)
     EXPECT_EQ(LoadFailure(), "");
 }
 
-TEST_F(DataStore, BringsEveryMarkedFileToWindows1250BeforeItIsRead)
+TEST_F(DataStore, ConvertsEveryMarkedFileToWindows1250BeforeItIsRead)
 {
     SmallCatalogue().WriteTo(Folder.Data());
     std::vector<std::string> contents;
@@ -151,7 +151,7 @@ TEST(NextKolegijID, FailsOnAnIDThatIsNoNumber)
         EXPECT_THROW(NextAfter(id), TypeMismatch) << id;
 }
 
-TEST(NextKolegijID, FailsWhereNoNumberIsLeft)
+TEST(NextKolegijID, FailsIfNoNumberIsLeft)
 {
     for (const char* id : {"2147483647", "2147483648", "-2147483649", "99999999999999999999"})
         EXPECT_THROW(NextAfter(id), OverflowError) << id;
@@ -159,7 +159,7 @@ TEST(NextKolegijID, FailsWhereNoNumberIsLeft)
 
 // The data folder
 
-TEST_F(DataStore, TheDataFolderIsAskedForAnewEveryTime)
+TEST_F(DataStore, TheEnvironmentIsReadForTheDataFolderEveryTime)
 {
     EXPECT_EQ(ToPath(modData::GetDataFolder()), Folder.Data());
     const TestFolder other;

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Lets the toolkit's own words (buttons, the Save dialog) follow the desktop's language. Numbers and sorting
+/// Shows the toolkit's own words (buttons, the Save dialog) in the desktop's language. Numbers and sorting
 /// stay in the "C" locale, since files and sums must not depend on the desktop.
 void UseDesktopLanguage();

@@ -4,7 +4,7 @@
 
 void UseDesktopLanguage()
 {
-    // A locale that the system does not have leaves the words in English.
+    // If the system does not have the locale, the words stay in English.
     std::setlocale(LC_MESSAGES, "");
     std::setlocale(LC_TIME, ""); // the names of days and months
 }

@@ -10,7 +10,7 @@
 namespace
 {
 
-/// Puts changes that were not saved into safety, and says where they are.
+/// Keeps unsaved changes, and says where they are.
 std::string UnsavedChangesText()
 {
     const modData::UnsavedChanges changes = modData::KeepUnsavedChanges();
@@ -26,7 +26,7 @@ std::string NumberAndText(const RuntimeError& error)
     return "Greška " + std::to_string(error.Number()) + ": " + error.what();
 }
 
-/// What the user sees of the error being handled, and of changes that it would lose.
+/// The text for the error being handled, and for unsaved changes.
 std::string CurrentErrorText()
 {
     try
@@ -35,7 +35,7 @@ std::string CurrentErrorText()
     }
     catch (const SaveNotFinished& error)
     {
-        return NumberAndText(error); // the changes are safe already
+        return NumberAndText(error); // the changes are already on disk
     }
     catch (const RuntimeError& error)
     {
@@ -56,6 +56,6 @@ std::string CurrentErrorText()
 void ReportErrorAndExit()
 {
     ShowCritical(nullptr, CurrentErrorText());
-    // At once: the windows still open must neither save nor ask anything.
+    // Without closing the windows: they must neither save nor ask anything now.
     std::_Exit(EXIT_FAILURE);
 }

@@ -1,5 +1,5 @@
 #pragma once
 
-/// From now on the program leaves by the main window's close box when the system or a terminal asks it to
-/// end. Open dialogs are cancelled first; a further request meanwhile is ignored.
+/// Makes the program close its main window when the system or a terminal asks it to end. Open dialogs are
+/// cancelled first; further requests meanwhile are ignored.
 void LeaveOnSignals();

@@ -10,9 +10,9 @@
 namespace
 {
 
-constexpr unsigned StepPause = 10; // milliseconds, in which the loop of an ended dialog returns
+constexpr unsigned StepPause = 10; // milliseconds, for an ended dialog's loop to return
 
-// Values of GLib's and GTK's.
+// Constants of GLib and GTK.
 constexpr int GoOn = 1;
 constexpr int Stop = 0;
 constexpr int DeleteEventResponse = -4;
@@ -21,7 +21,7 @@ using GlibCallback = int (*)(void* data);
 
 bool IsLeaving = false;
 
-/// Whether a native window is of the type that a function such as "gtk_dialog_get_type" names.
+/// True if a native window is of the type that a function such as "gtk_dialog_get_type" gives.
 bool IsA(GtkWidget* native, const char* typeFunction)
 {
     const auto type = NativeFunction<std::size_t (*)()>(typeFunction);
@@ -29,7 +29,7 @@ bool IsA(GtkWidget* native, const char* typeFunction)
     return isA(native, type()) != 0;
 }
 
-/// The toolkit's dialog of a native window; null for one that the toolkit does not know.
+/// The toolkit's dialog of a native window; null if it has none.
 wxDialog* DialogOf(GtkWidget* native)
 {
     for (wxWindow* window : wxTopLevelWindows)
@@ -38,7 +38,7 @@ wxDialog* DialogOf(GtkWidget* native)
     return nullptr;
 }
 
-/// Cancels the innermost modal dialog or open menu; whether there was one.
+/// Cancels the innermost modal dialog or open menu; false if there is none.
 bool CancelInnermost()
 {
     GtkWidget* grab = NativeFunction<GtkWidget* (*)()>("gtk_grab_get_current")();

@@ -2,5 +2,5 @@
 
 void LeaveOnSignals()
 {
-    // Windows ends a session by messages, which the toolkit takes to the close box.
+    // Windows ends a session by messages; the toolkit closes the main window for them.
 }

@@ -5,11 +5,11 @@
 class wxStaticText;
 class wxWindow;
 
-// What a screen reader says for a control. A button says its caption; a field, a box or a list says the label
-// that stands before it in the order of the controls. The rest is here.
+// The names that screen readers read. A button's name is its caption. The name of a field, a box or a list is
+// the label before it in the order of the controls. The functions below are for the rest.
 
-/// Names a control that has no label of its own, in UTF-8.
+/// Sets the accessible name (UTF-8) of a control without a label.
 void SetAccessibleName(wxWindow& control, std::string_view name);
 
-/// A text that is no label: what stands behind it does not get its name from it.
+/// A text that does not name the control after it.
 wxStaticText* NewCaption(wxWindow* parent, std::string_view name, std::string_view caption);

@@ -1,4 +1,4 @@
-// Names for screen readers on GTK.
+// Accessible names on GTK.
 
 #include "ui/controls/AccessibleName.h"
 

@@ -1,4 +1,4 @@
-// Names for screen readers on Windows: an accessible object that answers for the name alone.
+// Accessible names on Windows: an accessible object that answers only for the name.
 
 #include "ui/controls/AccessibleName.h"
 
@@ -21,7 +21,7 @@ public:
     wxAccStatus GetName(int child, wxString* name) override
     {
         if (child != wxACC_SELF)
-            return wxACC_NOT_IMPLEMENTED; // the system's own answer
+            return wxACC_NOT_IMPLEMENTED; // the system answers
         *name = m_name;
         return wxACC_OK;
     }
@@ -39,5 +39,5 @@ void SetAccessibleName(wxWindow& control, std::string_view name)
 
 wxStaticText* NewCaption(wxWindow* parent, std::string_view name, std::string_view caption)
 {
-    return NewLabel(parent, name, caption); // what comes behind it has a name of its own
+    return NewLabel(parent, name, caption); // the control after it has an accessible name
 }

@@ -2,12 +2,11 @@
 
 class wxTopLevelWindow;
 
-/// Where a window's edge lies when it is centred: half of what the screen leaves, the remainder dropped.
-/// Pixels.
+/// The position of a centred window's edge in pixels: half of the free space, rounded towards zero.
 constexpr int CenteredEdge(int screenExtent, int windowExtent)
 {
     return (screenExtent - windowExtent) / 2;
 }
 
-/// Places a window in the middle of the screen.
+/// Centres a window on the screen.
 void CenterForm(wxTopLevelWindow& window);

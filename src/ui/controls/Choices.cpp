@@ -14,8 +14,7 @@ void FillChoices(wxItemContainer& box, const std::vector<Choice>& choices)
     for (const Choice& choice : choices)
     {
         texts.push_back(ToWx(choice.Text));
-        // The toolkit keeps a pointer with each entry; it never follows it.
-        // NOLINTNEXTLINE(performance-no-int-to-ptr)
+        // The toolkit stores a pointer with each entry and never dereferences it.
         data.push_back(reinterpret_cast<void*>(static_cast<std::intptr_t>(choice.Data)));
     }
     if (texts.empty())
@@ -61,7 +60,7 @@ std::int32_t SelectedData(const wxItemContainer& box)
 
 void ReportEveryChoice(wxListBox& list)
 {
-    // The selected entry that the mouse button is pressed on; released there, too, it is chosen.
+    // The selected entry under the pressed mouse button; it is chosen if the button is released on it.
     const auto pressed = std::make_shared<int>(wxNOT_FOUND);
     const auto onPress = [&list, pressed](wxMouseEvent& event)
     {

@@ -11,7 +11,7 @@
 namespace
 {
 
-// Types of GTK, which a program without its headers does not look into.
+// GTK's types, incomplete here: this program does not use GTK's headers.
 using Object = void;
 using Callback = void (*)();
 
@@ -22,13 +22,13 @@ struct Menu
     int Selection;
 };
 
-// The menu has opened or closed. An entry that is chosen is not selected before the menu has closed.
+// The menu has opened or closed. A chosen entry is selected only after the menu has closed.
 void OnPopup(Object*, Object*, Menu* menu)
 {
     menu->Selection = menu->Box->GetSelection();
 }
 
-// An entry is chosen from the menu; if it is another one, the toolkit has raised the event already.
+// An entry is chosen from the menu. If it is another one, the toolkit has already raised the event.
 void OnChosen(Object*, const char*, Menu* menu)
 {
     if (menu->Box->GetSelection() == menu->Selection)
@@ -49,7 +49,7 @@ void ReportEveryChoice(wxChoice& box)
     Object* accessible = accessibleOf(combo);
     if (accessible == nullptr)
         return;
-    // The menu goes with its drop-down list, which frees what both use.
+    // Freed together with its drop-down list, by the first of the two connections.
     auto* menu = new Menu{&box, wxNOT_FOUND};
     connect(
         combo, "notify::popup-shown", reinterpret_cast<Callback>(OnPopup), menu,
@@ -64,7 +64,7 @@ void LetFocusSelectNothing(wxListBox& list)
     const auto setMode = NativeFunction<void (*)(Object*, int)>("gtk_tree_selection_set_mode");
     if (selectionOf == nullptr || modeOf == nullptr || setMode == nullptr)
         return;
-    // The focus selects the first entry unless there is a current one. Making it current must not select it.
+    // The focus selects the first entry unless an entry is current. Make one current without selecting it.
     constexpr int noSelection = 0;
     Object* selection = selectionOf(list.GetConnectWidget());
     const int mode = modeOf(selection);

@@ -1,4 +1,4 @@
-// Choices on Windows, where the toolkit reports every choice from a drop-down list and the focus selects
+// Choices on Windows. The toolkit already reports every choice from a drop-down list, and the focus selects
 // nothing.
 
 #include "ui/controls/Choices.h"

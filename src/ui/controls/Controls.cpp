@@ -51,7 +51,7 @@ wxChoice* NewChoice(wxWindow* parent, std::string_view name, int characters)
     auto* choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                                 wxDefaultValidator, ToWx(name));
     const int width = WidthForText(*choice, characters);
-    // Without a chosen entry some systems forget to make it high enough for large text.
+    // Without a chosen entry some systems do not make it high enough for large text.
     choice->Append("n");
     choice->SetSelection(0);
     choice->SetMinSize({width, choice->GetBestSize().y});
@@ -86,7 +86,7 @@ int WidthForText(const wxControl& control, int characters)
 
 void UseTextSize(wxControl& box, int characters)
 {
-    const wxSize padding = box.FromDIP(wxSize(0, 4)); // the least that the themes leave around a line
+    const wxSize padding = box.FromDIP(wxSize(0, 4)); // the themes' smallest padding around a line
     box.SetMinSize(
         {WidthForText(box, characters), std::max(box.GetBestSize().y, box.GetCharHeight() + padding.y)});
 }

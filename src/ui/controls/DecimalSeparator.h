@@ -2,6 +2,6 @@
 
 #include <string>
 
-/// What the user's system writes before the decimals of a number (UTF-8): the regional setting under Windows,
-/// the locale's elsewhere.
+/// The decimal separator of the user's system (UTF-8): the regional setting on Windows, the locale's
+/// elsewhere.
 std::string SystemDecimalSeparator();

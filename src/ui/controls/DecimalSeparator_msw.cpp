@@ -6,7 +6,7 @@
 
 std::string SystemDecimalSeparator()
 {
-    // The toolkit would speak of the program's own locale, which is nobody's.
+    // The program runs in the "C" locale; ask the system for the user's setting.
     constexpr int longest = 8;
     wchar_t text[longest] = {};
     if (GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, text, longest) <= 1)

@@ -18,7 +18,7 @@ std::string ErrorDescription()
     }
     catch (const std::exception& error)
     {
-        return ToUtf8(wxString(error.what(), wxConvWhateverWorks)); // a library's may be in any encoding
+        return ToUtf8(wxString(error.what(), wxConvWhateverWorks)); // a library's text may be in any encoding
     }
     catch (...)
     {

@@ -9,20 +9,20 @@
 #include <string>
 #include <string_view>
 
-/// What an export command asks and says, and whether it traps errors.
+/// The texts of an export command.
 struct ExportTexts
 {
     std::string_view DialogTitle;
     std::string_view Success;
-    std::string_view ErrorPrefix = {}; ///< Empty: an error in writing goes uncaught.
+    std::string_view ErrorPrefix = {}; ///< If empty, errors in writing are not caught.
     std::string_view MessageTitle = ProductName;
-    bool SuccessNamesFile = true; ///< The path follows on a line of its own.
+    bool SuccessNamesFile = true; ///< Adds a line with the path.
     decltype(&ShowCritical) ShowError = ShowCritical;
 };
 
-/// Runs an export command: `proposeName` gives the file name to propose, or nothing to end the command; the
-/// Save dialog asks for the path; `write` writes the file, and a message says so. Nothing is written or said
-/// when the user cancels.
+/// Runs an export command: `proposeName` returns the file name to propose, or nothing to end the command; the
+/// Save dialog asks for the path; `write` writes the file; a message reports success. If the user cancels,
+/// nothing is written or shown.
 ///
 /// Every exception, of any type, is reported after the error prefix. Without a prefix one in asking ends the
 /// command silently.

@@ -15,8 +15,8 @@
 namespace
 {
 
-/// Puts the captions and rows on the clipboard, `count` rows from `first`. The system beeps if another
-/// program keeps the clipboard for itself.
+/// Copies the captions and `count` rows from `first` to the clipboard. Beeps if another program keeps the
+/// clipboard open.
 void CopyRows(const ListView& list, int first, int count)
 {
     std::vector<std::vector<std::string>> rows(static_cast<std::size_t>(count) + 1);
@@ -31,7 +31,7 @@ void CopyRows(const ListView& list, int first, int count)
     if (!clipboard || !wxTheClipboard->SetData(new wxTextDataObject(ToWx(text))))
         wxBell();
     else
-        wxTheClipboard->Flush(); // the text outlives the program
+        wxTheClipboard->Flush(); // the text stays after the program has ended
 }
 
 } // namespace

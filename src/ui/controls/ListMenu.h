@@ -6,6 +6,6 @@
 
 #include <vector>
 
-/// Shows a list's context menu at a point of the screen, until the user has chosen or left it: the commands,
-/// then those that copy rows. The chosen one runs when the menu is closed.
+/// Shows a list's context menu at a point of the screen: first the commands, then those that copy rows.
+/// Returns when the menu is closed; then the chosen command runs.
 void ShowListMenu(ListView& list, const wxPoint& place, const std::vector<ListCommand>& commands);

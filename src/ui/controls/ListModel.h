@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-/// A colour as the platform's list has it: 0xBBGGRR.
+/// A colour in the platform's form: 0xBBGGRR.
 using ListColour = std::uint32_t;
 
 namespace ListColours
@@ -17,18 +17,18 @@ inline constexpr ListColour Red = 0x0000FF;
 inline constexpr ListColour Blue = 0xFF0000;
 } // namespace ListColours
 
-/// The colour of a course's row in every course list: blue for an elective, by its type's text.
+/// The colour of a course's row in every course list, by the text of its type: blue for an elective.
 ListColour ElectiveColour(std::string_view tip);
 
 /// A column of a list: its caption (UTF-8) and its width in twips (1440 to the inch) for text of the usual
-/// size. Larger text makes it wider, and so does a caption that would not fit.
+/// size. The column gets wider for larger text, and for a caption that would not fit.
 struct ListColumn
 {
     std::string_view Caption;
     int Twips;
 };
 
-/// How a cell is drawn.
+/// The look of a cell.
 struct CellStyle
 {
     ListColour Colour = ListColours::Black;
@@ -37,7 +37,8 @@ struct CellStyle
     bool operator==(const CellStyle&) const = default;
 };
 
-/// What a list shows. The list asks for the cells on the screen and no others; to answer is no error.
+/// The rows of a list. The list asks only for the cells on the screen, while it paints: none of these
+/// functions may throw.
 class ListModel
 {
 public:
@@ -51,7 +52,7 @@ public:
     virtual CellStyle Style(std::size_t row, std::size_t column) const = 0;
 };
 
-/// A cell of a row that is kept.
+/// A cell of a kept row.
 struct ListCell
 {
     std::string Text;
@@ -59,13 +60,13 @@ struct ListCell
     bool Bold = false;
 };
 
-/// A row that is kept, a cell for each column.
+/// A kept row: a cell for each column.
 using ListRow = std::vector<ListCell>;
 
-/// A row whose cells are all drawn alike.
+/// A row whose cells all have the same look.
 ListRow UniformRow(const std::vector<std::string>& texts, ListColour colour, bool bold = false);
 
-/// Rows that keep what they show, whatever becomes of the tables.
+/// Rows with texts of their own: they stay when the tables change.
 class KeptRows : public ListModel
 {
 public:
@@ -82,12 +83,12 @@ private:
     std::vector<ListRow> m_rows;
 };
 
-/// How a list is sorted: by a column's texts in the Croatian order; equal ones keep the model's order.
+/// The order of a sorted list: by a column's texts in the Croatian order. Equal rows keep the model's order.
 struct ListOrder
 {
     std::size_t Column;
     bool Descending;
 };
 
-/// The order that the model's rows are to be shown in: the position of each, first to last.
+/// The positions of the model's rows in this order.
 std::vector<std::size_t> SortedPositions(const ListModel& model, ListOrder order);

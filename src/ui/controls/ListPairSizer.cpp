@@ -11,7 +11,7 @@ namespace
 
 constexpr int FewestRows = 6;
 
-/// The room in which a list shows all its columns and so many rows, at least the fewest.
+/// The size in which a list shows all its columns and `rows` rows, or FewestRows if that is more.
 wxSize RoomFor(const ListView& list, int rows)
 {
     return {std::max(WidthForColumns(list), list.GetEffectiveMinSize().x),

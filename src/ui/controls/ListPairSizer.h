@@ -4,9 +4,9 @@
 
 class ListView;
 
-/// Lays out a list of courses and the list of their sums. They are side by side where the width is enough for
-/// the columns of both; otherwise the sums are below. The sums are as high as their rows, at least six, and
-/// never push the courses out of sight; the courses take the rest.
+/// Lays out a list of courses and the list of their sums: side by side if the width is enough for the columns
+/// of both, otherwise with the sums below. The sums are as high as their rows, at least six, and never push
+/// the courses off the screen. The courses get the rest.
 class ListPairSizer : public wxSizer
 {
 public:

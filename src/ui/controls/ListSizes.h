@@ -2,10 +2,10 @@
 
 class ListView;
 
-// The room that a list needs on the screen, in pixels, with its border and scroll bar.
+// The size that a list needs on the screen, in pixels, with its border and scroll bar.
 
-/// The width in which all columns are seen.
+/// The width for all columns.
 int WidthForColumns(const ListView& list);
 
-/// The height in which the header and so many rows are seen.
+/// The height for the header and so many rows.
 int HeightForRows(const ListView& list, int rows);

@@ -49,7 +49,7 @@ int CellHeight(const wxDataViewColumn& column)
 
 int WidthForColumns(const ListView& list)
 {
-    // A column has no width of its own before the list is on the screen, but the one that it is given.
+    // Before the list is on the screen, a column has only the width that it was given.
     wxDataViewCtrl& control = ControlOf(list);
     int width = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, &control);
     for (unsigned i = 0; i < control.GetColumnCount(); ++i)
@@ -60,11 +60,11 @@ int WidthForColumns(const ListView& list)
 
 int HeightForRows(const ListView& list, int rows)
 {
-    // GTK itself knows the height of its rows only a while after they are new.
+    // GTK measures new rows only later, so compute their height.
     wxDataViewCtrl& control = ControlOf(list);
     int header = 0;
     int row = control.GetCharHeight();
-    if (control.GetColumnCount() > 0) // they are all of one height
+    if (control.GetColumnCount() > 0) // all columns have the same height
     {
         header = HeaderHeight(*control.GetColumn(0));
         row = std::max(row, CellHeight(*control.GetColumn(0)));

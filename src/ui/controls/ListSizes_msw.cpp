@@ -23,7 +23,7 @@ int RowHeight(const wxListCtrl& control)
     wxRect row;
     if (control.GetItemCount() > 0 && control.GetItemRect(0, row))
         return row.height;
-    return control.GetCharHeight() + control.FromDIP(4); // an empty list cannot be asked
+    return control.GetCharHeight() + control.FromDIP(4); // an empty list does not know its row height
 }
 
 int HeaderHeight(const wxListCtrl& control)

@@ -22,14 +22,14 @@ std::size_t Index(int i)
     return static_cast<std::size_t>(i);
 }
 
-/// Whether a key types a character. With Ctrl or Alt it is a command.
+/// True if a key types a character; with Ctrl or Alt it is a command.
 bool IsCharacter(const wxKeyEvent& key)
 {
     const wxChar character = key.GetUnicodeKey();
     return character >= WXK_SPACE && character != WXK_DELETE && !key.HasModifiers();
 }
 
-/// The order in which the model's rows are shown: its own unless the list is sorted.
+/// The model's rows in display order: the model's own order unless the list is sorted.
 std::vector<std::size_t> PositionsOf(const ListModel& model, std::optional<ListOrder> order)
 {
     if (order)
@@ -59,7 +59,7 @@ ListView::ListView(wxWindow* parent, const wxString& name, std::string_view acce
              if (m_activated)
                  m_activated();
          },
-         // Characters have no meaning in a list: the system must not search for them, nor activate a row.
+         // Characters mean nothing in a list: the system must neither search for them nor activate a row.
          .KeyPressed = [this](const wxKeyEvent& key)
          { return (m_keyPressed && m_keyPressed(key)) || IsCharacter(key); },
          .MenuWanted = [this](const wxPoint& place) { ShowMenu(place); }});
@@ -137,7 +137,7 @@ int ListView::RowOf(std::size_t modelRow) const
 void ListView::ShowMenu(wxPoint place)
 {
     wxWindow* rows = m_native->Window();
-    rows->SetFocus(); // not every system does so at a click with the right button
+    rows->SetFocus(); // some systems do not do so for a right click
     if (place == wxDefaultPosition)
     {
         const wxRect selected = SelectedRow() >= 0 ? m_native->RowArea(SelectedRow()) : wxRect();
@@ -221,8 +221,8 @@ void ListView::ActivateRow(int row)
 
 wxSize ListView::DoGetBestClientSize() const
 {
-    // A list's own best size follows the sum of its columns, which is too wide for a window to grow to; a few
-    // rows are enough to be useful, and the window's layout gives it more.
+    // The native list's best size is the sum of its columns, too wide for a window's best size. A few rows
+    // and columns are enough; the layout gives it more.
     constexpr int rows = 6;
     return {FromDIP(200), (GetCharHeight() + FromDIP(8)) * (rows + 1)};
 }

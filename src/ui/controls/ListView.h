@@ -22,51 +22,52 @@ class wxKeyEvent;
 struct ListCommand
 {
     std::string_view Caption; ///< With its access key.
-    bool NeedsRow;            ///< Greyed while no row is selected.
+    bool NeedsRow;            ///< Greyed if no row is selected.
     std::function<void()> Run;
 };
 
-/// A report list with grid lines, full-row selection of one row, and colour and bold per cell: the system's
-/// own list view behind one face. Rows are counted in display order.
+/// A report list with grid lines, in which one whole row can be selected; each cell has a colour and may be
+/// bold. Wraps the system's own list. It asks a ListModel for the cells on the screen, has a context menu and
+/// tooltips for cut texts, and shows a text if it is empty. Rows are counted in display order.
 class ListView : public wxNavigationEnabled<wxWindow>
 {
 public:
-    /// `accessibleName` is what a screen reader says for the list (UTF-8).
+    /// `accessibleName` is the list's name for screen readers (UTF-8).
     ListView(wxWindow* parent, const wxString& name, std::string_view accessibleName);
     ~ListView() override;
 
-    /// Sets the columns; once, before any row.
+    /// Sets the columns. Call it once, before any row is shown.
     void SetColumns(std::span<const ListColumn> columns);
 
-    /// What the list says in grey while it has no rows (UTF-8).
+    /// The grey text of the list when it has no rows (UTF-8).
     void SetEmptyText(std::string_view text);
 
-    /// Shows the model's rows instead of what was shown, sorted if sorting is on; no row is selected then.
+    /// Replaces the rows by those of a model, sorted if sorting is on; no row is selected.
     void Show(std::unique_ptr<const ListModel> model);
 
-    /// The same with a row selected, by its number in the model: it takes the place on the screen that the
-    /// selected row had, or is scrolled to if none was selected.
+    /// As above, and selects a row by its number in the model. That row is shown where the selected row was
+    /// on the screen; if no row was selected, the list scrolls to it.
     void Show(std::unique_ptr<const ListModel> model, std::optional<std::size_t> selected);
 
-    /// The same with rows that stay as they are.
+    /// Shows rows that keep their texts.
     void ShowRows(std::vector<ListRow> rows) { Show(std::make_unique<KeptRows>(std::move(rows))); }
 
     /// Switches sorting on and sorts the rows. The selected row stays selected.
     void SortBy(ListOrder order);
 
-    /// What to call with the column when its header is clicked.
+    /// Sets the handler for a click on a header.
     void OnColumnClick(std::function<void(int column)> handler) { m_columnClicked = std::move(handler); }
 
-    /// What to call on a double click on a row.
+    /// Sets the handler for a double click on a row.
     void OnActivate(std::function<void()> handler) { m_activated = std::move(handler); }
 
-    /// What to call with a key pressed in the list; it answers whether the key is dealt with.
+    /// Sets the handler for keys; it returns true if it has handled the key.
     void OnKey(std::function<bool(const wxKeyEvent& key)> handler) { m_keyPressed = std::move(handler); }
 
-    /// The commands of the context menu. Those that copy rows, which every list has, follow them.
+    /// Sets the commands of the context menu. The two commands that copy rows follow them in every list.
     void SetCommands(std::vector<ListCommand> commands) { m_commands = std::move(commands); }
 
-    // Reading the list as it is shown.
+    // Reading the list as shown.
 
     int ColumnCount() const { return static_cast<int>(m_columns.size()); }
     wxString ColumnCaption(int column) const;
@@ -81,7 +82,7 @@ public:
     int SelectedRow() const; ///< -1 when none is selected.
     std::size_t ModelRow(int row) const { return m_positions.at(static_cast<std::size_t>(row)); }
 
-    // Driving it as the mouse does.
+    // Driving the list as the mouse does.
 
     void SelectRow(int row); ///< Also scrolls to the row; -1 selects none.
     void SelectModelRow(std::size_t row) { SelectRow(RowOf(row)); }
@@ -94,14 +95,14 @@ protected:
 private:
     int RowOf(std::size_t modelRow) const;
 
-    /// Shows the context menu at a point of the screen; without a point at the selected row.
+    /// Shows the context menu at a point of the screen, or at the selected row if there is no point.
     void ShowMenu(wxPoint place);
-    /// Shows the whole text of the cell at the pointer as a tooltip if it is cut.
+    /// Shows the whole text of the cell under the pointer as a tooltip, if it is cut.
     void ShowTip();
 
     std::span<const ListColumn> m_columns;
     std::unique_ptr<const ListModel> m_model;
-    std::vector<std::size_t> m_positions; ///< The model's rows in the order in which they are shown.
+    std::vector<std::size_t> m_positions; ///< The model's rows in display order.
     std::optional<ListOrder> m_order;
     std::vector<ListCommand> m_commands;
     wxString m_emptyText;

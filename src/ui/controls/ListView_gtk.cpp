@@ -18,7 +18,7 @@
 namespace
 {
 
-// The least that a header of the theme can be drawn in.
+// The smallest column width that themes can draw.
 constexpr int FillerWidth = 16;
 
 class Model : public wxDataViewVirtualListModel
@@ -40,7 +40,7 @@ public:
         if (column >= GetColumnCount())
             return false;
         const CellStyle style = m_view.Style(static_cast<int>(row), static_cast<int>(column));
-        // Black is left to the theme, whose text may be light on dark.
+        // Black is the theme's text colour, which may be light on dark.
         if (style.Colour != ListColours::Black)
             attr.SetColour(ReadableColour(wxColour(style.Colour), wxSYS_COLOUR_LISTBOX));
         attr.SetBold(style.Bold);
@@ -53,7 +53,7 @@ private:
     const ListView& m_view;
 };
 
-/// GTK calls this after it has painted the tree; 0 lets others paint, too.
+/// GTK calls this after it has painted the tree; the result 0 lets other handlers run.
 int PaintEmptyText(GtkWidget* tree, void* canvas, const ListView* view)
 {
     if (view->RowCount() > 0)
@@ -78,7 +78,7 @@ public:
                                        wxDV_SINGLE | wxDV_ROW_LINES | wxDV_HORIZ_RULES | wxDV_VERT_RULES))
     {
         m_control->AssociateModel(m_rows.get());
-        // GTK's own search box would open at a character that no key event announces.
+        // Without this, GTK opens its search box for some characters that no key event reports.
         if (const auto enableSearch =
                 NativeFunction<void (*)(GtkWidget*, int)>("gtk_tree_view_set_enable_search"))
             enableSearch(m_control->GtkGetTreeView(), 0);
@@ -100,7 +100,7 @@ public:
                         [this](wxDataViewEvent& event) { m_toView.Activated(RowOf(event.GetItem())); });
         m_control->Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU,
                         [this](wxDataViewEvent&) { m_toView.MenuWanted(wxGetMousePosition()); });
-        m_control->Bind(wxEVT_CONTEXT_MENU, // of the key
+        m_control->Bind(wxEVT_CONTEXT_MENU, // by the key
                         [this](wxContextMenuEvent& event) { m_toView.MenuWanted(event.GetPosition()); });
         m_control->Bind(wxEVT_KEY_DOWN,
                         [this](wxKeyEvent& event) { event.Skip(!m_toView.KeyPressed(event)); });
@@ -118,15 +118,15 @@ public:
 
     void ColumnsComplete() override
     {
-        // GTK gives the last column all the width that is left: this one takes it, so that the others keep
-        // theirs.
+        // GTK gives the last column all the remaining width. This extra column takes it, so that the others
+        // keep theirs.
         m_control->AppendTextColumn(wxString(), m_control->GetColumnCount(), wxDATAVIEW_CELL_INERT,
                                     FillerWidth);
     }
 
     int CaptionWidth(const wxString& caption) const override
     {
-        constexpr int padding = 18; // what the themes leave on both sides of the bold caption
+        constexpr int padding = 18; // the themes' padding on both sides of the bold caption
         wxSize extent;
         m_control->GetTextExtent(caption, &extent.x, &extent.y, nullptr, nullptr, &m_headerFont);
         return extent.x + padding;
@@ -142,13 +142,12 @@ public:
         m_rows->Reset(static_cast<unsigned>(count));
         if (count == 0)
             return;
-        // Without a current row the focus would select the first one.
+        // Without a current row, the focus would select the first one.
         SetTreeCursor(m_control->GtkGetTreeView(), 0);
         m_control->UnselectAll();
     }
 
-    // The model has no memory of cells: repainting shows what stands where now. A reset would scroll to the
-    // top.
+    // The control does not cache cells, so repainting shows the new order. A reset would scroll to the top.
     void ShowReorderedRows() override { m_control->Refresh(); }
 
     void ShowSortArrow(int column, bool descending) override
@@ -168,7 +167,7 @@ public:
     {
         if (row < 0)
             m_control->UnselectAll();
-        else // scrolls by itself; the toolkit would scroll later, to a row that may be gone by then
+        else // scrolls at once; the toolkit scrolls later, when the row may be gone
             SetTreeCursor(m_control->GtkGetTreeView(), row);
     }
 
@@ -185,17 +184,17 @@ public:
 
     void ScrollTo(int row, const Place& place) override
     {
-        // GTK scrolls when it has measured the new rows, which it does before the toolkit is idle.
+        // GTK scrolls again after it has measured the new rows, before the toolkit is idle.
         m_scroll = {row, place};
         m_control->CallAfter([this] { m_scroll.reset(); });
 
-        const double last = place.Page - 1; // the last place that shows a row whole
+        const double last = place.Page - 1; // the last place for a whole row
         if (place.Row >= 0 && place.Row <= last)
         {
             ScrollTree(m_control->GtkGetTreeView(), row, last > 0 ? place.Row / last : 0);
             return;
         }
-        // A row that is out of sight, or cut, cannot be aligned: the first row on the screen can.
+        // A row that is cut or not visible cannot be aligned; align the first visible row instead.
         const int first = row - static_cast<int>(std::lround(place.Row));
         ScrollTree(m_control->GtkGetTreeView(),
                    std::clamp(first, 0, static_cast<int>(m_rows->GetCount()) - 1), 0);
@@ -249,7 +248,7 @@ private:
     Listener m_toView;
     wxObjectDataPtr<Model> m_rows;
     wxDataViewCtrl* m_control;
-    std::optional<RowAtPlace> m_scroll; // that GTK has yet to do
+    std::optional<RowAtPlace> m_scroll; // still to be done by GTK
     wxFont m_headerFont = m_control->GetFont().Bold();
 };
 

@@ -9,7 +9,7 @@
 namespace
 {
 
-/// A message box that a modal hook may answer; otherwise the system shows its own.
+/// Shows the system's own message box, unless a modal hook answers for it.
 class SystemMessageDialog final : public wxMessageDialog
 {
 public:

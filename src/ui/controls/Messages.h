@@ -6,12 +6,11 @@
 
 class wxWindow;
 
-// The message boxes. The icon carries the severity; a box without a title of its own shows the program's
-// name.
+// The message boxes. The icon shows the severity; the default title is the program's name.
 
 void ShowInformation(wxWindow* parent, std::string_view text, std::string_view title = ProductName);
 void ShowWarning(wxWindow* parent, std::string_view text, std::string_view title = ProductName);
 void ShowCritical(wxWindow* parent, std::string_view text, std::string_view title = ProductName);
 
-/// Asks a question with Yes and No; true for Yes. No is the default button: a Yes loses something.
+/// Asks a question with Yes and No; true for Yes. No is the default button, since a Yes loses data.
 bool AskYesNo(wxWindow* parent, std::string_view text, std::string_view title);

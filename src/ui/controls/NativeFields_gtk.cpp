@@ -16,7 +16,7 @@ namespace
 
 using ForEachChild = void (*)(void* container, void (*visit)(void* child, void* data), void* data);
 
-/// The widget that holds the text of a one-line box.
+/// The widget with the text of a one-line box.
 void* TextWidget(wxTextEntry& box)
 {
     if (const auto* combo = dynamic_cast<wxComboBox*>(&box))
@@ -30,8 +30,7 @@ bool IsA(void* widget, const char* typeOf)
     return NativeFunction<int (*)(void*, std::size_t)>("g_type_check_instance_is_a")(widget, type) != 0;
 }
 
-/// Takes the button with the arrow, somewhere in the widgets that a combo box is made of, out of the tab
-/// order.
+/// Takes a combo box's arrow button, which is somewhere among its child widgets, out of the tab order.
 void RefuseFocusOfArrow(void* widget, void*)
 {
     if (IsA(widget, "gtk_toggle_button_get_type"))
@@ -43,7 +42,7 @@ void RefuseFocusOfArrow(void* widget, void*)
 int GrabFocus(void* widget, int, void*)
 {
     NativeFunction<void (*)(void*)>("gtk_widget_grab_focus")(widget);
-    return 0; // the key goes on to press the button
+    return 0; // then the key presses the button
 }
 
 } // namespace
@@ -61,20 +60,20 @@ void KeepTabOffArrow(wxComboBox& box)
 
 bool LeavesField(const wxFocusEvent& lostFocus)
 {
-    // A window that the user turns away from remembers which of its widgets has the focus in it.
+    // When the user switches to another window, this window still remembers its focused widget.
     const auto* field = dynamic_cast<wxWindow*>(lostFocus.GetEventObject());
     return NativeFunction<int (*)(void*)>("gtk_widget_is_focus")(field->GetHandle()) == 0;
 }
 
 bool IsKeyOfOpenList()
 {
-    return false; // an open list is a window of its own, which receives its keys
+    return false; // an open list is a separate window and gets its own keys
 }
 
 void MakeDefault(wxButton& button)
 {
     button.SetDefault();
-    // The themes draw a default button as any other. This class gives it their accent colour.
+    // Themes draw a default button like any other one; this class gives it their accent colour.
     void* style = NativeFunction<void* (*)(void*)>("gtk_widget_get_style_context")(button.GetHandle());
     NativeFunction<void (*)(void*, const char*)>("gtk_style_context_add_class")(style, "suggested-action");
 }

@@ -12,7 +12,7 @@
 namespace
 {
 
-/// The text on the clipboard, its line breaks as "\n"; empty when there is none.
+/// The text on the clipboard with line breaks as "\n"; empty if there is none.
 wxString ClipboardText()
 {
     const wxClipboardLocker lock;
@@ -20,7 +20,7 @@ wxString ClipboardText()
     return !!lock && wxTheClipboard->GetData(text) ? text.GetText() : wxString();
 }
 
-/// Writes a text over the selection of a box, as a paste does: it can be undone.
+/// Replaces the selection of a box by a text; like a paste, this can be undone.
 void WriteOverSelection(wxWindow& box, const wxString& text)
 {
     const HWND inCombo = FindWindowExW(box.GetHWND(), nullptr, L"Edit", nullptr);
@@ -32,7 +32,7 @@ void WriteOverSelection(wxWindow& box, const wxString& text)
 
 void PasteFirstLineOnly(wxTextEntry& box)
 {
-    // The system's own box ends at CR LF, but not at every other line break.
+    // The system's own box stops at CR LF, but not at every other line break.
     auto& window = dynamic_cast<wxWindow&>(box);
     window.Bind(wxEVT_TEXT_PASTE,
                 [&window](wxClipboardTextEvent& event)
@@ -47,7 +47,7 @@ void PasteFirstLineOnly(wxTextEntry& box)
 
 void KeepTabOffArrow(wxComboBox&)
 {
-    // The arrow is no control of its own.
+    // The arrow is not a separate control here.
 }
 
 bool LeavesField(const wxFocusEvent& lostFocus)
@@ -69,5 +69,5 @@ void MakeDefault(wxButton& button)
 
 void FocusByAccessKey(wxButton&)
 {
-    // The system does so.
+    // The system already does this.
 }

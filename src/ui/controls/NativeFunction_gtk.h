@@ -2,8 +2,8 @@
 
 #include <wx/dynlib.h>
 
-/// A function of GTK or of a library that GTK brings, found in the running program, so that building needs
-/// none of their headers. Null when there is none of this name.
+/// A function of GTK or of one of its libraries, found in the running program, so that the build does not
+/// need their headers. Null if there is none with this name.
 template<typename Function>
 Function NativeFunction(const char* name)
 {

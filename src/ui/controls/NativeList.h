@@ -11,17 +11,18 @@ class wxRect;
 class wxString;
 class wxWindow;
 
-/// The system's own list inside a ListView, which has the rows; the list asks it for the cells it shows.
+/// The system's own list inside a ListView. The ListView has the rows; the native list asks it for the cells
+/// that it shows.
 class NativeList
 {
 public:
-    /// What the list reports to its ListView.
+    /// The events for the ListView.
     struct Listener
     {
         std::function<void(int column)> ColumnClicked;
         std::function<void(int row)> Activated;
         std::function<bool(const wxKeyEvent& key)> KeyPressed;
-        std::function<void(const wxPoint& pointer)> MenuWanted; ///< On the screen; no point for a key.
+        std::function<void(const wxPoint& pointer)> MenuWanted; ///< A point of the screen; none for a key.
     };
 
     virtual ~NativeList() = default;
@@ -31,13 +32,13 @@ public:
     virtual void ColumnsComplete() = 0;
     virtual int ColumnWidth(int column) const = 0;
 
-    /// The least width of a column that shows this caption whole, in pixels.
+    /// The smallest width in pixels in which a column shows this caption whole.
     virtual int CaptionWidth(const wxString& caption) const = 0;
 
-    /// All rows are new: shows them from the top, none selected.
+    /// Shows new rows from the top; none is selected.
     virtual void ShowNewRows(int count) = 0;
 
-    /// The same rows stand in another order: shows them where the user is.
+    /// Shows the same rows in another order, at the same scroll position.
     virtual void ShowReorderedRows() = 0;
 
     virtual void ShowSortArrow(int column, bool descending) = 0;
@@ -45,15 +46,15 @@ public:
     virtual int SelectedRow() const = 0;
     virtual void SelectRow(int row) = 0;
 
-    /// How far a row is below the first place on the screen, and how many places there are, in rows.
+    /// A row's place on the screen, in rows.
     struct Place
     {
-        double Row = 0; ///< Less than 0 above the first place.
-        double Page = 0;
+        double Row = 0;  ///< Distance from the first visible place; negative above it.
+        double Page = 0; ///< Number of visible places.
     };
 
     virtual Place PlaceOf(int row) const = 0;
-    /// Scrolls until a row is at a place, or as near to it as the rows allow.
+    /// Scrolls so that a row is at a place, or as near to it as possible.
     virtual void ScrollTo(int row, const Place& place) = 0;
 
     struct Cell
@@ -62,18 +63,18 @@ public:
         int Column;
     };
 
-    /// The cell at a point of Window(), if there is one.
+    /// The cell at a point of Window(); nothing if there is none.
     virtual std::optional<Cell> CellAt(const wxPoint& point) const = 0;
-    /// Where a row is in Window(); empty while it is out of sight.
+    /// A row's area in Window(); empty if the row is not visible.
     virtual wxRect RowArea(int row) const = 0;
-    /// How much of a column's width its cells have for their text, in pixels.
+    /// The width that a column leaves for its cells' texts, in pixels.
     virtual int TextWidth(int column) const = 0;
 
-    // What a click on a header and a double click on a row set off.
+    // These do what a click on a header and a double click on a row do.
 
     virtual void ClickColumn(int column) = 0;
     virtual void ActivateRow(int row) = 0;
 };
 
-/// Creates the list of this system.
+/// Creates this system's list.
 std::unique_ptr<NativeList> CreateNativeList(ListView& view, NativeList::Listener listener);

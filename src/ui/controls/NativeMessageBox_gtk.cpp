@@ -1,4 +1,4 @@
-// On GTK its own message box with an image: GTK 3 shows no icon unless one is set.
+// GTK's own message box with an image: GTK 3 shows no icon unless one is set.
 
 #include "ui/controls/NativeMessageBox.h"
 
@@ -25,7 +25,7 @@ constexpr BoxKind BoxKinds[] = {
     {wxICON_ERROR, 3, "dialog-error"},
 };
 
-// Values of GTK's enumerations.
+// Constants of GTK.
 constexpr int ModalDialog = 1;
 constexpr int DialogIconSize = 6;
 constexpr int AlignStart = 1;
@@ -71,7 +71,7 @@ GtkWidget* NewBox(const wxMessageDialog& dialog)
 int ShowNativeMessageBox(const wxMessageDialog& dialog)
 {
     if (wxWindow* capturing = wxWindow::GetCapture())
-        capturing->GTKReleaseMouseAndNotify(); // a captured mouse could not reach the box
+        capturing->GTKReleaseMouseAndNotify(); // while it is captured, the mouse cannot reach the box
 
     const auto run = NativeFunction<int (*)(GtkWidget*)>("gtk_dialog_run");
     const auto destroy = NativeFunction<void (*)(GtkWidget*)>("gtk_widget_destroy");

@@ -1,4 +1,4 @@
-// On Windows the plain message box: the task dialog that the toolkit prefers has no question icon.
+// The plain message box of Windows. The toolkit prefers the task dialog, which has no question icon.
 
 #include "ui/controls/NativeMessageBox.h"
 
@@ -30,7 +30,7 @@ int ShowNativeMessageBox(const wxMessageDialog& dialog)
     const wxWindow* parent = dialog.GetParentForModalDialog();
     const bool asks = (dialog.GetMessageDialogStyle() & wxYES_NO) == wxYES_NO;
     const BoxKind& kind = *std::ranges::find(BoxKinds, dialog.GetEffectiveIcon(), &BoxKind::Icon);
-    // A box without an owner must block all windows of the program itself.
+    // Without an owner the box itself must block all windows of the program.
     const UINT modality = parent != nullptr ? MB_APPLMODAL : MB_TASKMODAL;
     const UINT defaultButton =
         (dialog.GetMessageDialogStyle() & wxNO_DEFAULT) != 0 ? MB_DEFBUTTON2 : MB_DEFBUTTON1;

@@ -53,8 +53,8 @@ void OnKey(wxListBox& list, wxKeyEvent& event)
 
 void LetSelectionBeEmpty(wxListBox& list)
 {
-    // Some systems select the first entry when the list gets the focus by the keyboard or from code; what the
-    // mouse selects on its way in is meant.
+    // Some systems select the first entry when the list gets the focus from the keyboard or from code; undo
+    // that. A selection by the mouse is the user's and stays.
     const auto byMouse = std::make_shared<bool>(false);
     list.Bind(wxEVT_SET_FOCUS,
               [&list, byMouse](wxFocusEvent& event)

@@ -2,5 +2,5 @@
 
 #include <wx/iconbndl.h>
 
-/// The program's icon in the sizes that the system asks for.
+/// The program's icon in the sizes that the system needs.
 wxIconBundle ProgramIcons();

@@ -1,4 +1,4 @@
-// On GTK the icon is the drawing itself, built into the program.
+// On GTK the icon is the drawing, built into the program.
 
 #include "ui/controls/ProgramIcons.h"
 

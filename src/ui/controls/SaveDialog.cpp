@@ -20,7 +20,7 @@ SaveDialogChooser Chooser;
 
 wxString FolderOfLastSave; // empty before the first
 
-/// Where the dialog opens; empty: where the system opens it.
+/// The folder in which the dialog opens; empty for the system's choice.
 wxString FirstFolder(const SaveDialogOptions& options)
 {
     if (!options.InitialFolder.empty())
@@ -28,7 +28,7 @@ wxString FirstFolder(const SaveDialogOptions& options)
     return wxFileName::DirExists(FolderOfLastSave) ? FolderOfLastSave : wxString();
 }
 
-/// A name that every system takes: with "_" for each character that a file name cannot hold on one of them.
+/// A file name that is valid on every system: "_" replaces each forbidden character.
 std::string AsFileName(std::string text)
 {
     static constexpr std::string_view forbidden = "\\/:*?\"<>|";
@@ -43,8 +43,8 @@ wxString NameIn(const wxString& path)
     return path.AfterLast(wxFILE_SEP_PATH);
 }
 
-/// Some systems' dialogs leave the default extension to the program. A name with a dot has an extension,
-/// ".csv" too.
+/// Adds the default extension, which some systems' dialogs do not add. Every name with a dot has an
+/// extension, even ".csv".
 std::string WithDefaultExtension(const wxString& path, const std::string& extension)
 {
     const bool addExtension = !NameIn(path).Contains(".") && !extension.empty();
@@ -56,7 +56,7 @@ std::string FileToWrite(const std::string& chosen, const SaveDialogOptions& opti
     return options.FileToWrite == nullptr || chosen.empty() ? chosen : options.FileToWrite(chosen);
 }
 
-/// Whether a file can be written there. When not, a message tells the user why.
+/// True if a file can be written there; otherwise tells the user why not.
 bool CanWrite(wxWindow* parent, const std::string& path)
 {
     try
@@ -85,8 +85,8 @@ bool Accepts(wxWindow* parent, const std::string& path, const SaveDialogOptions&
            (!options.OverwritePrompt || MayReplace(parent, path));
 }
 
-/// Shows the system's dialog once; empty when the user cancels. It neither checks the path nor asks about the
-/// file, since only the program knows the name that will be written.
+/// Shows the system's dialog once; the result is empty if the user cancels. The dialog itself neither checks
+/// the path nor asks about an existing file, since only the program knows the name of the file to write.
 wxString Choose(wxWindow* parent, const SaveDialogOptions& options, const wxString& folder,
                 const wxString& name)
 {
@@ -119,7 +119,7 @@ std::optional<std::string> ShowSaveDialog(wxWindow* parent, const SaveDialogOpti
         const std::string path = FileToWrite(WithDefaultExtension(chosen, options.DefaultExtension), options);
         if (Accepts(parent, path, options))
             return path;
-        // What was chosen is proposed again. A missing folder cannot be opened, so its path goes with the
+        // Propose the same again. The dialog cannot open a missing folder, so its path becomes part of the
         // name.
         const bool isFolderThere = wxFileName::DirExists(wxPathOnly(chosen));
         folder = isFolderThere ? wxPathOnly(chosen) : wxString();

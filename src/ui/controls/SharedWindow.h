@@ -3,8 +3,7 @@
 #include <wx/frame.h>
 #include <wx/weakref.h>
 
-/// Shows the one shared window of its class: opens it, or brings the one that is open to the front as it
-/// stands. A window that the user has closed is opened anew.
+/// Shows the one shared window of its class: opens it, or brings the open one to the front unchanged.
 template<typename Window>
 Window* ShowShared(wxWindow* parent)
 {

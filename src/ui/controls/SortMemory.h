@@ -2,10 +2,9 @@
 
 class ListView;
 
-/// Sorts a list by a clicked column. The program remembers one column and one direction for all its lists:
-/// the same column number again flips the direction, wherever it was clicked before; another one sorts
-/// ascending.
+/// Sorts a list by a clicked column. The program remembers one column number and one direction for all lists:
+/// a click on the same column number in any list flips the direction, another number sorts ascending.
 void SortListViewByColumn(ListView& list, int column);
 
-/// Forgets the remembered column, as at start-up.
+/// Test hook: forgets the remembered column, as at start-up.
 void ForgetSorting();

@@ -4,9 +4,9 @@
 
 #include <wx/gdicmn.h>
 
-// What the toolkit does not offer for the rows of a GTK tree view.
+// Functions for the rows of a GTK tree view that the toolkit does not offer.
 
-/// Calls `use` with GTK's path of a row.
+/// Calls `use` with a row's GTK path.
 template<typename Use>
 void WithTreePath(int row, const Use& use)
 {
@@ -20,8 +20,8 @@ void WithTreePath(int row, const Use& use)
     freePath(path);
 }
 
-/// Makes a row of a GTK tree view the current one, to which the keys and the focus go. That also selects it,
-/// unless the view allows no selection.
+/// Makes a row of a GTK tree view the current one, which has the focus. This also selects it, unless the view
+/// allows no selection.
 inline void SetTreeCursor(GtkWidget* tree, int row)
 {
     const auto setCursor =
@@ -30,8 +30,8 @@ inline void SetTreeCursor(GtkWidget* tree, int row)
         WithTreePath(row, [&](void* path) { setCursor(tree, path, nullptr, 0); });
 }
 
-/// Where a row is in the part of the rows that is on the screen, and how high that part is. A row's height is
-/// 0 until GTK has measured it.
+/// A row's position in the visible part of the rows, and the height of that part. A row's height is 0 until
+/// GTK has measured it.
 struct TreePlace
 {
     wxRect Row;
@@ -53,7 +53,7 @@ inline TreePlace TreePlaceOf(GtkWidget* tree, int row)
     return place;
 }
 
-/// Scrolls to a row: 0 puts it at the upper edge, 1 at the lower one, as far as the rows allow.
+/// Scrolls to a row: alignment 0 puts it at the upper edge, 1 at the lower one, as far as the rows allow.
 inline void ScrollTree(GtkWidget* tree, int row, double alignment)
 {
     const auto scroll =

@@ -52,7 +52,7 @@ std::optional<ValidationError> CheckNositelji(const CourseEntry& entry)
     return std::nullopt;
 }
 
-/// The course's row; hours and credits become plain whole numbers.
+/// The fields of the course's row; hours and credits as plain whole numbers.
 std::vector<std::string> KolegijFields(std::int32_t id, const CourseEntry& entry)
 {
     std::vector<std::string> fields = {std::to_string(id), std::string(TrimBlanks(entry.Naziv))};
@@ -73,7 +73,7 @@ void AppendLinks(std::int32_t id, const CourseEntry& entry)
                 {kolegijID, std::to_string(*nastavnikID), "Nositelj", std::to_string(i + 1)});
 }
 
-/// The course's holders by place. A link to a lecturer whom the lists do not offer changes nothing.
+/// The course's holders by place. Links to lecturers that the editor does not offer are ignored.
 std::array<std::optional<std::int32_t>, NositeljPlaces> NositeljiOf(std::int32_t kolegijID)
 {
     const std::vector<Choice> offered = NamedNastavnikChoices();

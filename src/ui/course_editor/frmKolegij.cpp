@@ -28,7 +28,7 @@ constexpr std::string_view Title = "Kolegij";
 const wxSize InitialSize = {760, 560}; // at 96 dots to the inch
 const wxSize SmallestSize = {620, 460};
 
-// The misspelling is the label's own.
+// The misspelling is intended.
 constexpr std::string_view NositeljLabels[NositeljPlaces] = {"1. nostielj", "2. nostielj", "3. nostielj"};
 
 /// Selects every entry with one of the numbers.
@@ -97,7 +97,7 @@ wxSizer* frmKolegij::Fields()
     row->Add(txtECTS = NewTextBox(this, "txtECTS", hoursWidth), boxFlags);
 
     row = addRow("Obvezni/Izborni");
-    // A text box with a list: the catalogue may hold a type that is not in the list, and it stays as it is.
+    // A text box with a list: the catalogue may have a type that is not in the list, and keeps it.
     row->Add(cboObvezniIzborni = NewComboBox(this, "cboObvezniIzborni", 10), boxFlags);
     return grid;
 }
@@ -112,7 +112,7 @@ wxSizer* frmKolegij::Lists()
         auto* column = new wxBoxSizer(wxVERTICAL);
         column->Add(NewLabel(this, "", label), wxSizerFlags().Border(wxBOTTOM, Gap(this) / 2));
         wxListBox* list = NewListBox(this, ToUtf8(name), style);
-        // The columns share the window's width; a list's own best width would make the window too wide.
+        // The columns share the window's width; the lists' own best widths would make the window too wide.
         list->SetMinSize({GetTextExtent(wxString('n', narrowest)).x, fewestEntries * GetCharHeight()});
         column->Add(list, wxSizerFlags(1).Expand());
         row->Add(column, wxSizerFlags(proportion).Expand().Border(wxLEFT, row->IsEmpty() ? 0 : Gap(this)));
@@ -159,7 +159,7 @@ int frmKolegij::ShowModal()
 
 void frmKolegij::Form_Load()
 {
-    // The handed level and study hold even where a box shows another entry.
+    // The caller's level and study are kept, even if a box shows another entry.
     m_currentRazina = StartRazina;
     m_currentStudijID = StartStudijID;
     FillRazinaCombo();

@@ -19,8 +19,8 @@ class wxListBox;
 class wxSizer;
 class wxTextCtrl;
 
-/// The dialog in which one course, its directions and its holders are entered or changed. It changes the
-/// tables only, when the user saves. Its caller sets the four properties, then shows it modally.
+/// The dialog to enter or change a course, its directions and its holders. The tables change only when the
+/// user saves. The caller sets the four properties, then shows the dialog modally.
 class frmKolegij : public wxDialog
 {
 public:
@@ -28,12 +28,12 @@ public:
 
     // What to edit
 
-    std::string Mode = "ADD";       ///< "ADD" for a new course, "EDIT" for one of the table.
-    std::int32_t EditKolegijID = 0; ///< The course to change, in "EDIT" mode only.
+    std::string Mode = "ADD";       ///< "ADD" for a new course, "EDIT" for an existing one.
+    std::int32_t EditKolegijID = 0; ///< The course to change; only for "EDIT".
     std::string StartRazina;        ///< The level to start with.
     std::int32_t StartStudijID = 0; ///< The study to start with; 0 for none.
 
-    /// Fills the dialog by its properties, centres it and shows it until it is saved or cancelled.
+    /// Fills the dialog from its properties, centres it, and shows it until the user saves or cancels.
     /// @throws DataError for a row that it needs and cannot read
     int ShowModal() override;
 
@@ -75,7 +75,7 @@ private:
     wxComboBox* cboObvezniIzborni;
     wxListBox* lstSemestar;
     wxListBox* lstSmjerovi;
-    std::array<wxListBox*, NositeljPlaces> lstNastavnik; ///< By place, from the first.
+    std::array<wxListBox*, NositeljPlaces> lstNastavnik; ///< By place; index 0 is place 1.
     wxButton* cmdSave;
     wxButton* cmdCancel;
 };

@@ -14,8 +14,8 @@ class wxPanel;
 class wxSizer;
 class wxStaticText;
 
-/// The load of one department: the courses of its lecturers, and the sums per semester and type. Modeless,
-/// one for the program.
+/// The teaching load of one department: the courses of its lecturers, and the sums per semester and type.
+/// Modeless, one for the program.
 class frmStatZavodi : public wxFrame
 {
 public:

@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
-// The load of lecturers. Everything here throws DataError.
+// The teaching load of lecturers. Everything here throws DataError.
 
-/// What the two filter boxes say; "Svi" means all. Compared exactly; a course without a study passes only
-/// "Svi".
+/// The values of the two filter boxes; "Svi" means all. They are compared exactly; a course without a study
+/// passes only "Svi".
 struct LecturerFilter
 {
     std::string Razina;
@@ -20,9 +20,9 @@ struct LecturerFilter
 /// The courses that a lecturer is linked to, once per link.
 std::vector<ListRow> LecturerCourseRows(std::int32_t nastavnikID, const LecturerFilter& filter);
 
-/// The lecturer's table of load: every type but "obvezni" counts as elective.
+/// The lecturer's table of teaching load. Every type but "obvezni" counts as elective.
 std::vector<ListRow> LecturerTeachingLoadRows(std::int32_t nastavnikID, const LecturerFilter& filter);
 
 /// Writes the tables of all lecturers. Here hours and credits that are not numeric count as 0.
-/// @throws also FileError, and an older file stays
+/// @throws DataError, FileError
 void ExportAllLecturers(std::string_view path, const LecturerFilter& filter);

@@ -16,7 +16,8 @@ class wxPanel;
 class wxSizer;
 class wxStaticText;
 
-/// The load of one lecturer: the courses, and the sums per semester and type. Modeless, one for the program.
+/// The teaching load of one lecturer: the courses, and the sums per semester and type. Modeless, one for the
+/// program.
 class frmStatNositelji : public wxFrame
 {
 public:
@@ -42,7 +43,7 @@ private:
     void cmdExportAllStat_Click();
     void cmdClose_Click();
 
-    std::int32_t m_selectedNastavnikID = 0; ///< Of the last click in the list.
+    std::int32_t m_selectedNastavnikID = 0; ///< From the last click in the list.
 
     // Controls
     wxPanel* Panel;

@@ -15,7 +15,7 @@
 namespace
 {
 
-// The first columns of the list are the first fields of a course, as stored; these three are looked up.
+// The list's first columns are a course's first fields, as stored. These three are looked up.
 enum LookedUpColumn : std::size_t
 {
     StudijColumn = Kolegij::Semestar + 1,
@@ -39,8 +39,8 @@ std::string CellText(const modData::Row& kolegij, std::size_t column)
     }
 }
 
-/// Makes sure that every cell of a course can be shown. The study, the course's last field, comes first: of
-/// several errors in a row its own is reported. A search has read the lecturers already. @throws DataError
+/// Throws if a cell of the course cannot be shown. Look up the study first: if several cells are wrong, its
+/// error is the one to report. A search has already read the lecturers. @throws DataError
 void RequireCells(const modData::Row& kolegij, bool isSearched)
 {
     static_cast<void>(CellText(kolegij, StudijColumn));
@@ -49,7 +49,7 @@ void RequireCells(const modData::Row& kolegij, bool isSearched)
         static_cast<void>(CellText(kolegij, NastavniciColumn));
 }
 
-/// Appends what GetNastavniciForKolegijString gives.
+/// Appends the text of GetNastavniciForKolegijString.
 void AppendNastavnici(std::string& text, std::int32_t kolegijID)
 {
     std::string_view separator;
@@ -57,7 +57,7 @@ void AppendNastavnici(std::string& text, std::int32_t kolegijID)
         text.append(std::exchange(separator, ", ")).append(placed.Nastavnik->Field(Nastavnik::PrezimeIme));
 }
 
-/// Whether a course has this ID; an ID that is no number is none.
+/// True if a course has this ID; false if its ID is not a number.
 bool HasID(const modData::Row& kolegij, std::int32_t id)
 {
     std::int32_t read = 0;

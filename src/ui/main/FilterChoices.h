@@ -7,10 +7,9 @@
 #include <string_view>
 #include <vector>
 
-// What the filter boxes of the main window offer.
+// The entries of the main window's filter boxes.
 
-/// "Svi", then the directions of a study with their IDs; "Svi" alone when no study is chosen.
-/// @throws DataError for an ID that cannot be read
+/// "Svi", then the directions of a study with their IDs; only "Svi" without a study.
 std::vector<Choice> SmjerFilterChoices(std::optional<std::int32_t> studijID);
 
 /// "Svi", then the semesters of a level.

@@ -110,7 +110,7 @@ wxSizer* frmMain::FilterRow()
     };
 
     constexpr int searchCharacters = 21; // 20, and the caret
-    // With large text the search box goes to a line of its own.
+    // With large text the search box is on a line of its own.
     auto* row = new wxWrapSizer(wxHORIZONTAL, 0);
     const wxSizerFlags belowFilters = wxSizerFlags().CenterVertical().Border(wxBOTTOM, Gap(this));
     for (const Filter& filter : filters)
@@ -123,7 +123,7 @@ wxSizer* frmMain::FilterRow()
     auto* search = new wxBoxSizer(wxHORIZONTAL);
     Label1 = AddLabelled(*search, Panel, "Label1", "Traži:",
                          [this] { return txtSearch = NewTextBox(Panel, "txtSearch", searchCharacters); });
-    search->GetItem(txtSearch)->SetProportion(1); // it takes the width that the boxes leave
+    search->GetItem(txtSearch)->SetProportion(1); // the rest of the width
     search->GetItem(txtSearch)->SetBorder(0);
     row->Add(search, wxSizerFlags(belowFilters).Proportion(1));
     return row;
@@ -162,7 +162,7 @@ wxSizer* frmMain::CommandColumn()
                              {&cmdExit, "cmdExit", "&Izlaz"}};
 
     auto* column = new wxBoxSizer(wxVERTICAL);
-    // Children of the panel, not of the frames: from inside a frame the access keys outside would not be
+    // The parent is the panel, not a frame: inside a frame the access keys of controls outside it are not
     // found.
     const auto add = [this](wxSizer* sizer, const Command& command)
     {
@@ -189,7 +189,7 @@ void frmMain::BindEvents()
     cboSmjer->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboSmjer_Click(); });
     cboSemestar->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboSemestar_Click(); });
     txtSearch->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { txtSearch_Change(); });
-    // Before the system gives Enter a meaning of its own.
+    // At this event the system has not yet handled Enter itself.
     txtSearch->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& key) { key.Skip(!txtSearch_KeyDown(key)); });
     lvwKolegiji->OnColumnClick([this](int column) { lvwKolegiji_ColumnClick(column); });
     lvwKolegiji->OnActivate([this] { lvwKolegiji_DblClick(); });
@@ -213,7 +213,7 @@ void frmMain::BindEvents()
 
 void frmMain::SetAccelerators()
 {
-    // They reach the window before any control. Only the focus in this window calls them.
+    // These keys reach the window before any control. They work while the focus is in this window.
     const int find = wxWindow::NewControlId();
     const int add = wxWindow::NewControlId();
     Bind(
@@ -320,7 +320,7 @@ void frmMain::RefreshListView(const CourseFilter& filter, Search& search,
 void frmMain::RefreshStatistika(CourseFilter filter, Search& search)
 {
     lvwStatistika->ShowRows({});
-    if (ChosenText(*cboSmjer) == Svi) // an entry of this name switches the filter off, also one with an ID
+    if (ChosenText(*cboSmjer) == Svi) // an entry of this name means no filter, even one with an ID
         filter.SmjerID = 0;
     lvwStatistika->ShowRows(StatistikaRows(filter, search, ChosenText(*cboRazina)));
     Panel->Layout(); // the sums are as high as their rows
@@ -404,7 +404,7 @@ void frmMain::lvwStatistika_ColumnClick(int column)
 
 void frmMain::lvwKolegiji_DblClick()
 {
-    cmdEdit_Click(); // which needs a selected row
+    cmdEdit_Click(); // does nothing without a selected row
 }
 
 bool frmMain::lvwKolegiji_KeyDown(const wxKeyEvent& key)
@@ -571,7 +571,7 @@ void frmMain::cmdExit_Click()
 
 void frmMain::Form_Unload()
 {
-    // The window closes whatever the exit command says: with faulty data it closes without saving.
+    // The window closes even if the exit command refuses: invalid data are not saved.
     m_unloading = true;
     cmdExit_Click();
     Destroy();

@@ -19,19 +19,19 @@ class wxSizer;
 class wxStaticText;
 class wxTextCtrl;
 
-/// The main window: filter boxes, course list, semester sums, and the way out that saves.
+/// The main window: filter boxes, course list, semester sums, and the exit that saves.
 class frmMain : public wxFrame
 {
 public:
     frmMain();
 
-    /// Loads and checks the tables, fills the window and shows it; once. @throws RuntimeError
+    /// Loads and checks the tables, fills the window and shows it. Called once. @throws RuntimeError
     void Form_Load();
 
     /// Rebuilds the course list from the tables and the filter boxes.
     void RefreshListView();
 
-    /// Writes the semester sums as they are shown, rebuilt first. @throws RuntimeError; an older file stays
+    /// Refreshes the lists, then writes the semester sums as shown. @throws RuntimeError
     void ExportStatistika_SelectedToCSV(std::string_view path);
 
 private:
@@ -54,7 +54,7 @@ private:
                          const std::optional<CourseMark>& selected);
     void RefreshStatistika(CourseFilter filter, Search& search);
     void RefreshGrids() { RefreshGrids(SelectedCourse()); }
-    /// The same with a course selected, if it is shown.
+    /// As above; selects the course, if it is shown.
     void RefreshGrids(const std::optional<CourseMark>& selected);
 
     /// Moves the focus to the search text and selects it.
@@ -62,7 +62,7 @@ private:
     /// Moves the focus to the first course, if there is one, and selects it.
     void GoToFirstCourse();
 
-    // Events; those of keys return whether the key is dealt with
+    // Events. Those of keys return true if the key is handled.
     void cboRazina_Click();
     void cboProgram_Click();
     void cboSmjer_Click();
@@ -85,18 +85,18 @@ private:
     void cmdExit_Click();
     void Form_Unload();
 
-    /// The ID in the selected row's first column, none without a selection.
+    /// The ID in the selected row's first column; nothing without a selection.
     std::optional<std::int32_t> SelectedKolegijID() const;
     std::optional<CourseMark> SelectedCourse() const;
-    /// The course that follows the selected one with another ID; after the last one the nearest before.
+    /// The next course after the selected one with another ID; if there is none, the nearest before it.
     std::optional<CourseMark> CourseBesideSelected() const;
     /// Selects the last course of the table and scrolls to it, if it is shown.
     void SelectNewCourse();
     void UnloadOtherWindows();
 
-    bool FormReady = false; ///< False until the filter boxes are filled: no list is filled before.
+    bool FormReady = false; ///< False until the filter boxes are filled; the lists are filled after that.
     bool m_unloading = false;
-    const CourseListModel* m_courses = nullptr; ///< What the course list shows; its own.
+    const CourseListModel* m_courses = nullptr; ///< The course list's model, which the list owns.
 
     // Controls
     wxPanel* Panel;

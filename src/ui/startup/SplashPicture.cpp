@@ -10,7 +10,7 @@
 namespace
 {
 
-// All lengths are in hundredths of the picture's height.
+// All lengths are hundredths of the picture's height.
 struct Card
 {
     int Left;

@@ -4,6 +4,6 @@
 
 class wxDC;
 
-/// Draws the splash picture to fill a size in pixels: the program's name on a shelf of catalogue cards. It is
+/// Draws the splash picture in a size in pixels: the program's name on a shelf of catalogue cards. It is
 /// drawn, not stored, so that it is sharp at every resolution.
 void DrawSplashPicture(wxDC& dc, wxSize size);

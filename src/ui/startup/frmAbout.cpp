@@ -31,8 +31,8 @@ const wxColour LinkColour(0, 0, 255);
 std::function<void(const std::string&)> LinkOpener;
 std::function<int()> YearSource;
 
-/// Asks the system to open an address. A system without a browser or mail program is no error worth a
-/// message.
+/// Asks the system to open an address. A failure shows no message: the system may have no browser or mail
+/// program.
 void OpenLink(const std::string& address)
 {
     const wxLogNull silence;
@@ -47,7 +47,7 @@ int CurrentYear()
     return YearSource ? YearSource() : wxDateTime::Now().GetYear();
 }
 
-/// Shows a text as it is: an "&" in a folder or an address is a letter and no access key.
+/// Shows a text unchanged: an "&" in a path or an address is not an access key.
 void SetText(wxStaticText& label, const std::string& text)
 {
     label.SetLabel(wxControl::EscapeMnemonics(ToWx(text)));
@@ -137,7 +137,7 @@ void frmAbout::lblWeb_Click()
 
 void frmAbout::lblWeb_MouseMove()
 {
-    wxSetCursor(*wxSTANDARD_CURSOR); // the plain arrow on purpose, no hand
+    wxSetCursor(*wxSTANDARD_CURSOR); // the plain arrow on purpose, not the hand
 }
 
 void frmAbout::lblEmail_Click()

@@ -9,7 +9,7 @@ class wxButton;
 class wxSizer;
 class wxStaticText;
 
-/// What the program is, who made it, where its data lies, and two links.
+/// The About box: the program and its authors, the data folder, and two links.
 class frmAbout : public wxDialog
 {
 public:

@@ -40,7 +40,7 @@ frmSplash::frmSplash(int shownMilliseconds) : Timer1(this)
 
 void frmSplash::BindEvents()
 {
-    // The picture covers the whole window, so the window's clicks and keys are the picture's.
+    // The picture covers the whole window, so it gets the window's clicks and keys.
     Picture1->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { Form_Click(); });
     Picture1->Bind(wxEVT_KEY_DOWN, &frmSplash::Form_KeyDown, this);
     Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Timer1_Timer(); });

@@ -5,7 +5,7 @@
 
 class wxKeyEvent;
 
-/// The program's first window: its picture for a moment, then the main window.
+/// The program's first window: shows its picture for a moment, then opens the main window.
 class frmSplash : public wxFrame
 {
 public:

@@ -19,7 +19,7 @@ struct CourseLoad
     TeachingLoad Adds;
 };
 
-/// What a course adds to the sums, if anything. @throws DataError
+/// What a course adds to the sums; nothing if it does not count. @throws DataError
 std::optional<CourseLoad> LoadOf(const modData::Row& kolegij, const TeachingStatistic& statistic,
                                  Conversion hours)
 {
@@ -40,7 +40,7 @@ std::optional<CourseLoad> LoadOf(const modData::Row& kolegij, const TeachingStat
                        .Kolegija = 1}};
 }
 
-/// The sums of one lecturer or department; `loadOf` gives the load of the course at a position.
+/// The sums of one lecturer or department; `loadOf` returns what the course at a position adds.
 template<typename LoadOfPosition>
 TeachingLoadSums SumsOf(const TeachingStatistic& statistic, std::int32_t id, const LoadOfPosition& loadOf)
 {
@@ -54,8 +54,8 @@ TeachingLoadSums SumsOf(const TeachingStatistic& statistic, std::int32_t id, con
     return sums;
 }
 
-/// The load of all courses in the file, computed once and in table order: an export meets each course once
-/// for every lecturer of it, and out of order.
+/// Each course's contribution to the exported sums, computed once and in table order: an export meets a
+/// course once for each of its lecturers, and out of order.
 class ExportedLoads
 {
 public:
@@ -69,7 +69,7 @@ public:
         }
         catch (const DataError&)
         {
-            // It is no error before the export comes to that course, which it may never do.
+            // An error only if the export needs that course.
         }
     }
 
