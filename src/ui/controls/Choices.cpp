@@ -15,6 +15,7 @@ void FillChoices(wxItemContainer& box, const std::vector<Choice>& choices)
     {
         texts.push_back(ToWx(choice.Text));
         // The toolkit stores a pointer with each entry and never dereferences it.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         data.push_back(reinterpret_cast<void*>(static_cast<std::intptr_t>(choice.Data)));
     }
     if (texts.empty())
