@@ -125,7 +125,7 @@ TEST(CourseList, ADirectionIsFoundAsANumber)
     Catalogue catalogue;
     catalogue.KolegijSmjerovi = {"1; 7", "1;7.0", "2;8", "1;x"};
     catalogue.Use();
-    EXPECT_TRUE(KolegijHasSmjer(1, 7)) << "the bad link stands behind the match";
+    EXPECT_TRUE(KolegijHasSmjer(1, 7)) << "the bad link is after the match";
     EXPECT_THROW(KolegijHasSmjer(1, 8), TypeMismatch);
     EXPECT_TRUE(KolegijHasSmjer(2, 8));
     EXPECT_FALSE(KolegijHasSmjer(2, 7));
@@ -229,7 +229,7 @@ TEST(CourseList, ACourseWithTooFewFieldsIsAnError)
     EXPECT_NO_THROW(CourseRows({.Semestar = 2})) << "the semester rules it out before";
 }
 
-/// The error that the list without filters ends in.
+/// The error of the list without filters.
 std::string ErrorOfAllRows(const Catalogue& catalogue)
 {
     catalogue.Use();
