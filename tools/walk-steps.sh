@@ -285,7 +285,7 @@ lecturers() {
     key alt+x
     save_into_exports 'Spremi statistiku nastavnika' lecturers
     told '^Izvoz završen$' "the program says where the load is" lecturers-exported
-    check "sixteen lines a lecturer behind the header" is_export "$file" \
+    check "sixteen lines a lecturer after the header" is_export "$file" \
         'Nastavnik;Semestar;Tip;P;S;V;ECTS;Broj kolegija' $((16 * ($(wc -l <demo/db_nastavnici.csv) - 1) + 1))
     check "the new course counts for its holder" has_line "$file" "Cindrek Lucija;TOTAL;Sve;$(
         catalogue_sum '$2 == "Cindrek Lucija" || $3 == "Cindrek Lucija" || $4 == "Cindrek Lucija"')"
@@ -307,7 +307,7 @@ departments() {
     key alt+x
     save_into_exports 'Spremi statistiku zavoda' departments
     told '^Izvoz završen$' "the program says where the load is" departments-exported
-    check "sixteen lines a department behind the header" is_export "$file" \
+    check "sixteen lines a department after the header" is_export "$file" \
         'Zavod;Semestar;Tip;P;S;V;ECTS;Broj kolegija' $((16 * ($(wc -l <demo/db_zavod.csv) - 1) + 1))
     check "the winter's export has no summer" has_no_line "$file" '[^;]*;[246];(Obvezni|Izborni);.*[1-9].*'
     window=$statistics

@@ -142,7 +142,7 @@ TEST_F(CourseEditor, TabFollowsTheLayout)
                 const wxRect former = Find<wxWindow>(editor, layout[i - 1])->GetScreenRect();
                 const wxRect next = Find<wxWindow>(editor, layout[i])->GetScreenRect();
                 EXPECT_TRUE(next.GetLeft() > former.GetRight() || next.GetTop() > former.GetBottom())
-                    << layout[i] << " stands neither right of " << layout[i - 1] << " nor below it";
+                    << layout[i] << " is neither right of " << layout[i - 1] << " nor below it";
             }
         });
 }

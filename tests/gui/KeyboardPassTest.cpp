@@ -193,7 +193,7 @@ TEST_F(Keyboard, TabGoesThroughEveryControlInReadingOrderAndBack)
                 const wxRect former = stops[i - 1]->GetScreenRect();
                 const wxRect next = stops[i]->GetScreenRect();
                 EXPECT_TRUE(next.GetLeft() > former.GetRight() || next.GetTop() > former.GetBottom())
-                    << stops[i]->GetName() << " stands neither right of " << stops[i - 1]->GetName()
+                    << stops[i]->GetName() << " is neither right of " << stops[i - 1]->GetName()
                     << " nor below it";
             }
             if (stops.size() < 2)

@@ -165,13 +165,13 @@ void ExpectReadable(wxTopLevelWindow& window)
     {
         const std::string name = controls[i]->GetName().utf8_string() + " '" + Caption(controls[i]) + "'";
         const wxRect place = PlaceOf(controls[i]);
-        EXPECT_TRUE(whole.Contains(place)) << name << " stands outside";
+        EXPECT_TRUE(whole.Contains(place)) << name << " is outside";
         const wxSize need = NeedOf(controls[i]);
         EXPECT_GE(place.width, need.x) << name;
         EXPECT_GE(place.height, need.y) << name;
         for (std::size_t k = 0; k < i; ++k)
             EXPECT_FALSE(place.Intersects(PlaceOf(controls[k])))
-                << name << " stands over " << controls[k]->GetName();
+                << name << " covers " << controls[k]->GetName();
         if (const auto* list = dynamic_cast<ListView*>(controls[i]))
         {
             for (int column = 0; column < list->ColumnCount(); ++column)

@@ -90,7 +90,7 @@ TEST(CourseList, DirectionsAreListedInLinkOrderAndTwiceWhenLinkedTwice)
     catalogue.KolegijSmjerovi = {"1;3", "1;99", "1;1", "1;3", "2;2", "2;1"};
     catalogue.Use();
     EXPECT_EQ(GetSmjeroviForKolegijString(1), "C, A, C");
-    EXPECT_EQ(GetSmjeroviForKolegijString(2), "A") << "nothing stands before it yet";
+    EXPECT_EQ(GetSmjeroviForKolegijString(2), "A") << "nothing is before it yet";
 }
 
 TEST(CourseList, LecturersOfAllRolesAreListedByPlace)

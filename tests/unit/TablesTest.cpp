@@ -226,7 +226,7 @@ TEST_F(Tables, TheFirstMatchWinsAndEndsTheSearch)
 {
     const modData::Table table = Load("h\r\n07;1\r\n7;2\r\nbad;3\r\n8;4\r\n");
     EXPECT_EQ(table.FindFirst(0, 7)->Field(1), "1");
-    EXPECT_THROW(table.FindFirst(0, 8), TypeMismatch) << "the bad row stands before it";
+    EXPECT_THROW(table.FindFirst(0, 8), TypeMismatch) << "the bad row is before it";
     EXPECT_THROW(table.FindFirst(0, 99), TypeMismatch);
 }
 
