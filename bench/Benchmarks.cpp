@@ -13,7 +13,7 @@
 namespace
 {
 
-/// Seconds of this process's processor time: on a busy machine it does not hold what the others took.
+/// This process's processor time in seconds: without other programs' work on a busy machine.
 double ProcessorSeconds()
 {
     timespec time = {};
@@ -26,7 +26,7 @@ double WallSeconds()
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-/// Counts the times of a case; what prepares it is not in them.
+/// Measures a case; its preparation does not count.
 void Measure(benchmark::State& state, Bench& bench, const Case& measured, bool warm)
 {
     const auto prepare = [&]
@@ -39,7 +39,7 @@ void Measure(benchmark::State& state, Bench& bench, const Case& measured, bool w
     if (warm)
     {
         prepare();
-        measured.Work(bench); // what is built when first needed is there before the counting
+        measured.Work(bench); // makes what is built when first needed
     }
     for ([[maybe_unused]] auto time : state)
     {
@@ -50,7 +50,7 @@ void Measure(benchmark::State& state, Bench& bench, const Case& measured, bool w
     }
 }
 
-/// The name is what `compare` reads: "case/by/size".
+/// The name, which `compare` parses: "case/by/size".
 void Register(Bench& bench, const Case& measured)
 {
     constexpr int fewTimes = 5;
@@ -95,8 +95,8 @@ void Run(const std::filesystem::path& folder, std::string_view sizes, bool quick
 
 } // namespace
 
-/// benchmarks FOLDER SIZES [quick]: SIZES in one word ("faculty,university"); "quick" leaves out what takes
-/// seconds. The benchmark library's own options come besides.
+/// benchmarks FOLDER SIZES [quick]: SIZES is a list such as "faculty,university"; "quick" leaves out what
+/// takes seconds. The benchmark library's own options are also accepted.
 int main(int count, char** arguments)
 {
     benchmark::Initialize(&count, arguments);

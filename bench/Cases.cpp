@@ -20,7 +20,7 @@
 namespace
 {
 
-// Whose work is measured.
+// The owners of the measured work.
 constexpr std::string_view Ours = "ours";
 constexpr std::string_view Reference = "reference";
 constexpr std::string_view InSqlite = "sqlite";
@@ -38,7 +38,7 @@ void RequireValid(bool valid, std::string_view by)
         throw std::runtime_error("the generated catalogue is found invalid by " + std::string(by));
 }
 
-/// Writes the first course anew with another title: its row and all its links change, and the save has
+/// Replaces the first course by one with another title: its row and all its links change, so that a save has
 /// something to do.
 void EditFirstCourse(Bench& bench)
 {
@@ -51,7 +51,7 @@ void EditFirstCourse(Bench& bench)
     ReplaceKolegij(id, entry);
 }
 
-/// The course list as the main window refreshes it, and the texts that the list then asks for: one screen.
+/// The main window's refresh of the course list, and the texts that the list then asks for: one screen.
 void RefreshCourses(Bench& bench, const CourseFilter& filter, Search& search)
 {
     constexpr std::size_t screen = 50;
@@ -82,7 +82,7 @@ void RememberExport(Bench& bench)
     bench.Bytes = {ReadFile(bench.ExportPath())};
 }
 
-/// Writes the export that was remembered.
+/// Writes the kept bytes of an export.
 void WriteExport(Bench& bench)
 {
     WriteFlushed(bench.ExportPath(), bench.Bytes.front());
@@ -95,7 +95,7 @@ void RememberTables(Bench& bench)
         bench.Bytes.push_back(ReadFile(path));
 }
 
-/// Writes the tables' files that were remembered, elsewhere.
+/// Writes the kept bytes of the tables' files to another folder.
 void WriteTables(Bench& bench)
 {
     for (std::size_t i = 0; i < bench.Bytes.size(); ++i)
@@ -122,7 +122,7 @@ constexpr Case AllCases[] = {
     {"read and decode", Floor,
      [](Bench& bench) { benchmark::DoNotOptimize(ReadAndDecode(bench.TablePaths())); }},
 
-    // A validation after a load has no index yet.
+    // The first validation after a load has no index yet.
     {"validate", Ours, [](Bench&) { RequireValid(modCSVValidator::ValidateAll(), Ours); },
      [](Bench&) { modData::LoadAllTables(); }},
     {"validate", Reference,
@@ -183,7 +183,7 @@ constexpr Case AllCases[] = {
      },
      nullptr, Clock::Processor, Growth::Product},
 
-    // The first after an edit: indexes are made again.
+    // The first one after an edit makes the indexes again.
     {"key stroke, edited", Ours, KeyStroke, EditFirstCourse},
     {"list refresh, edited", Ours, RefreshCourses<NoFilter>, EditFirstCourse},
 
@@ -230,7 +230,7 @@ constexpr Case AllCases[] = {
     {"save", Reference, [](Bench& bench) { reference::Save(bench.Place.Plain(), bench.OtherFolder()); },
      nullptr, Clock::Wall},
     {"save", Floor, WriteTables, RememberTables, Clock::Wall},
-    // Three files change, and their former contents are kept beside them.
+    // Three files change; their old contents are copied.
     {"save, course edited", Ours, [](Bench&) { modData::SaveAllTables(); }, EditFirstCourse, Clock::Wall},
     {"save, course edited", Floor, WriteTables, RememberTables, Clock::Wall},
 

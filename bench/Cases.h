@@ -16,7 +16,7 @@
 #include <string>
 #include <vector>
 
-// What is measured: for each case the program's work, and the same work done by the yardsticks.
+// The measured cases: the program's work, and the same work by the yardsticks.
 
 using Rows = std::vector<ListRow>;
 
@@ -24,13 +24,13 @@ inline constexpr std::string_view Level = modData::Preddiplomski;
 
 inline const CourseFilter NoFilter = {};
 inline const CourseFilter Searching = {.Search = "matematike"};
-// The first letter typed is in nearly every course: the longest list that a search can give.
+// The first letter typed is in nearly every course, which gives the longest list of a search.
 inline const CourseFilter FirstLetter = {.Search = "a"};
 inline const LecturerFilter AllLecturers = {std::string(Svi), std::string(Svi)};
 inline const DepartmentFilter AllDepartments = {std::string(Svi), std::string(Svi)};
 inline constexpr ListOrder ByTitle = {.Column = 1, .Descending = false};
 
-/// What a measurement works on: the catalogue of one size, and what the work before it left behind.
+/// The data of a measurement: the catalogue of one size, and the results of earlier work.
 struct Bench
 {
     Bench(const CatalogueSize& size, const std::filesystem::path& folder) : Place(size, folder) {}
@@ -50,8 +50,8 @@ struct Bench
         return paths;
     }
 
-    /// The file that exports go to. Where it can be, it is in memory: what is compared is how it is made, and
-    /// the wait for the disk belongs to saving.
+    /// The file for exports, in memory if possible: the making of the file is compared, and only saving
+    /// includes the wait for the disk.
     std::string ExportPath() const
     {
         const std::filesystem::path memory = "/dev/shm";
@@ -59,7 +59,7 @@ struct Bench
         return std::filesystem::is_directory(memory) ? (memory / name).string() : Place.PathOf(name);
     }
 
-    /// A folder for tables that are not to be loaded again.
+    /// A folder for tables that are not loaded again.
     std::string OtherFolder() const
     {
         std::string folder = Place.PathOf("other");
@@ -70,29 +70,29 @@ struct Bench
     Workplace Place;
     std::unique_ptr<SqliteCatalogue> Sqlite;
 
-    // Kept from one refresh to the next as the windows keep it: its end belongs to the next refresh.
+    // Kept from one refresh to the next, as the windows do: the next refresh destroys it.
     std::unique_ptr<const CourseListModel> Courses;
     Rows Statistics;
     Rows PlainRows;
     std::unique_ptr<SqliteCatalogue> Imported;
     std::optional<reference::Catalogue> Loaded;
-    std::vector<std::string> Bytes; // to be written by the floor
+    std::vector<std::string> Bytes; // written by the floor
     std::vector<std::size_t> Positions;
     bool Edited = false;
 };
 
-/// How the time of a case grows with the catalogue.
+/// How the time of a case grows with the size of the catalogue.
 enum class Growth
 {
     Linear,
-    Product, ///< With the product of two tables: beyond a university one time takes minutes.
+    Product, ///< With the product of two tables: takes minutes beyond university size.
 };
 
-/// What of the time is counted.
+/// The time that counts.
 enum class Clock
 {
-    Processor, ///< The processor time: on a busy machine it does not hold what the others took.
-    Wall,      ///< All of it: a case that is to wait for the disk.
+    Processor, ///< Processor time: without other programs' work on a busy machine.
+    Wall,      ///< Wall clock time, for a case that waits for the disk.
 };
 
 struct Case
@@ -100,7 +100,7 @@ struct Case
     std::string_view Name;
     std::string_view By; ///< "ours", or the yardstick.
     void (*Work)(Bench&);
-    void (*Prepare)(Bench&) = nullptr; ///< Before each time, not counted.
+    void (*Prepare)(Bench&) = nullptr; ///< Runs before each measurement; does not count.
     Clock Counted = Clock::Processor;
     Growth Grows = Growth::Linear;
 };
@@ -108,12 +108,12 @@ struct Case
 /// All cases of all yardsticks.
 std::span<const Case> Cases();
 
-/// Makes sure that the yardsticks give the program's answers, byte for byte and cell for cell.
-/// @throws std::runtime_error when one does not
+/// Checks that the yardsticks give the same answers as the program, in every byte and cell.
+/// @throws std::runtime_error if one does not
 void RequireSameAsReference(Bench& bench);
 void RequireSameAsSqlite(Bench& bench);
 
-// The exports to the export file, with no filter.
+// The exports to the export file, without filters.
 
 void CatalogueExport(Bench& bench);
 void LecturersExport(Bench& bench);

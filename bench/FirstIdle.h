@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <memory>
 
-/// Ends the process, without any cleaning up, as soon as the window is on the screen, its first child has
-/// been painted, and nothing is left to do.
+/// Ends the process, without cleanup, as soon as the window is on the screen, its first child is painted, and
+/// the event loop is idle.
 inline void ExitAtFirstIdle(wxTopLevelWindow& window)
 {
     const auto isPainted = std::make_shared<bool>(false);

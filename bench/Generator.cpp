@@ -14,7 +14,7 @@
 namespace
 {
 
-// Surnames are put together from three parts.
+// Surnames are made of three parts.
 constexpr std::string_view SurnameBeginnings[] = {
     "Bar",  "Bel",  "Brez", "Cind", "Čer", "Dol",  "Drag", "Đur", "Gaj", "Grab", "Hrast", "Iv", "Jag", "Jel",
     "Kalj", "Klen", "Kop",  "Lat",  "Lip", "Ljub", "Mar",  "Mil", "Mrk", "Nad",  "Njeg",  "Or", "Pav", "Per",
@@ -31,7 +31,7 @@ constexpr std::string_view GivenNames[] = {
 constexpr std::string_view Titles[] = {
     "prof. dr. sc.", "izv. prof. dr. sc.", "doc. dr. sc.", "v. pred.", "pred.", ""};
 
-// A course is called by one of the first and one of the second, and some have a number.
+// A course's title has one of the first, one of the second, and sometimes a number.
 constexpr std::string_view TitleBeginnings[] = {"Osnove",
                                                 "Metode",
                                                 "Teorija",
@@ -82,7 +82,7 @@ constexpr std::string_view Types[] = {"obvezni", "obvezni", "izborni"};
 
 constexpr int HolderPlaces = 3;
 
-/// Small random numbers, the same on every system: the library's distributions are not.
+/// Small random numbers that are the same on every system, unlike the library's distributions.
 class Dice
 {
 public:
@@ -96,7 +96,7 @@ public:
         return texts[static_cast<std::size_t>(Below(static_cast<int>(texts.size())))];
     }
 
-    /// Some numbers below `count`, all different, in no order.
+    /// Some different numbers below `count`, in random order.
     std::vector<int> Different(int howMany, int count)
     {
         std::vector<int> chosen;
@@ -110,7 +110,7 @@ private:
     std::mt19937_64 m_engine;
 };
 
-/// A table's file while it is made.
+/// A table's file under construction.
 class TableFile
 {
 public:
@@ -132,14 +132,14 @@ private:
     TextFile m_file;
 };
 
-/// Part `index` of a whole that is shared out as evenly as whole numbers allow.
+/// Part `index` of a whole that is divided as evenly as whole numbers allow.
 int Share(int whole, int parts, int index)
 {
     const auto until = [&](std::int64_t i) { return static_cast<int>(whole * i / parts); };
     return until(index + 1) - until(index);
 }
 
-/// Three letters, different for each number below 26 cubed.
+/// Three letters; different for each number below 26 cubed.
 std::string Letters(int number)
 {
     std::string letters;
@@ -148,7 +148,7 @@ std::string Letters(int number)
     return letters;
 }
 
-/// Each study comes on both levels under one name.
+/// Each study is on both levels under one name.
 std::string_view RazinaOf(int studij)
 {
     return studij % 2 == 0 ? modData::Preddiplomski : modData::Diplomski;
@@ -238,7 +238,7 @@ private:
         int id = 0;
         for (int i = 0; i < m_size.Kolegiji; ++i)
         {
-            id += m_random.Below(10) == 0 ? 2 : 1; // a course in between was deleted once
+            id += m_random.Below(10) == 0 ? 2 : 1; // a gap, as after a deleted course
             const int studij = m_random.Below(m_size.Studiji);
             m_courses.push_back({id, studij});
             const int semesters = modData::LastSemestar(RazinaOf(studij));
@@ -283,8 +283,8 @@ private:
         return LinkFile(modData::KolegijNastavnici.Layout(), links);
     }
 
-    /// The links in course order, except that those of some courses stand at the end: editing a course moves
-    /// them there.
+    /// The links in course order, except that some courses' links are at the end, where an edit of the course
+    /// puts them.
     TableFile LinkFile(const modData::TableLayout& layout, const std::vector<Fields>& links)
     {
         TableFile file(layout);
@@ -306,7 +306,8 @@ private:
         return file;
     }
 
-    /// How many of all links fall to a course: in every second pair one gives a link to the other.
+    /// A course's number of links: in every second pair of courses one has a link more, the other a link
+    /// less.
     int Uneven(std::size_t course, int links) const
     {
         const int even = Share(links, m_size.Kolegiji, static_cast<int>(course));

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string_view>
 
-/// How many rows each table of a catalogue has.
+/// The number of rows of each table of a catalogue.
 struct CatalogueSize
 {
     std::string_view Name;
@@ -27,6 +27,6 @@ inline constexpr std::array CatalogueSizes = {Faculty, University, Country};
 /// The seed that the benchmarks use.
 inline constexpr std::uint64_t UsualSeed = 20'260'309;
 
-/// Writes the seven files of a valid catalogue, all names invented, into a folder that exists. The same seed
+/// Writes the seven files of a valid catalogue with invented names into an existing folder. The same seed
 /// gives the same bytes on every system. @throws FileError
 void GenerateCatalogue(const CatalogueSize& size, std::uint64_t seed, const std::filesystem::path& folder);

@@ -61,7 +61,7 @@ constexpr std::string_view Indexes =
     "CREATE INDEX kn_kolegij ON kolegij_nastavnik (kolegij_id);"
     "CREATE INDEX kn_nastavnik ON kolegij_nastavnik (nastavnik_id, kolegij_id);";
 
-// One for each of the program's checks; each counts the rows that fail it.
+// A query for each of the program's checks; it counts the rows that fail.
 constexpr std::string_view Checks[] = {
     "SELECT COUNT(*) FROM (SELECT 1 FROM nastavnik GROUP BY id HAVING COUNT(*) > 1)",
     "SELECT COUNT(*) FROM nastavnik WHERE TRIM(prezime_ime) = ''",
@@ -81,7 +81,8 @@ constexpr std::string_view Checks[] = {
     "SELECT COUNT(*) FROM studij WHERE razina NOT IN ('Preddiplomski', 'Diplomski')",
 };
 
-// One row per lecturer, semester and type that has courses; a lecturer without any comes with no semester.
+// One row per lecturer, semester and type with courses; a lecturer without courses has one row without a
+// semester.
 constexpr std::string_view LecturerSums =
     "SELECT n.rowid, n.prezime_ime, k.semestar, UPPER(TRIM(k.tip)) <> 'OBVEZNI' AS izborni, "
     "SUM(k.p), SUM(k.s), SUM(k.v), SUM(k.ects), COUNT(k.id) "

@@ -9,25 +9,23 @@ struct sqlite3;
 struct sqlite3_stmt;
 
 /// The same catalogue in SQLite: a database in memory, texts in UTF-8, numbers as numbers, an index on every
-/// identifier and reference. As in the program, an identifier may come twice and the order of the rows
-/// counts.
+/// identifier and reference. As in the program, identifiers may repeat and the order of the rows matters.
 class SqliteCatalogue
 {
 public:
-    /// Lets SQLite do without what one thread does not need; once, before the first catalogue.
+    /// Turns off what one thread does not need; call it once, before the first catalogue.
     static void Configure();
 
-    /// Imports the seven files of a data folder: prepared inserts in one transaction, the indexes behind
-    /// them.
+    /// Imports the seven files of a data folder: prepared inserts in one transaction, then the indexes.
     explicit SqliteCatalogue(const std::string& dataFolder);
 
-    /// True when the queries that correspond to the program's checks find nothing.
+    /// True if the queries for the program's checks find nothing.
     bool IsValid();
 
     std::int32_t NextKolegijID();
 
-    /// Writes the program's export of all lecturers for the filters "Svi": grouped sums, their lines made and
-    /// written as the program writes lines.
+    /// Writes the program's export of all lecturers for the filters "Svi": grouped sums; the lines are made
+    /// and written in the same way as the program's.
     void ExportAllLecturers(const std::string& path);
 
     /// Writes the program's export of the catalogue.

@@ -43,7 +43,7 @@ void Workplace::Enter()
         return;
     ::setenv("LOCALAPPDATA", Utf8(m_folder).c_str(), 1);
 
-    // The tables that were in use go back to their own workplace.
+    // The tables in use return to their own workplace.
     if (Entered != nullptr)
         for (modData::Table* table : modData::AllTables())
             Entered->m_tables.push_back(std::move(*table));

@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <string>
 
-/// A generated catalogue in a folder of its own. Several may be at hand: the program works on the one that
-/// was entered last.
+/// A generated catalogue in its own folder. There may be several: the program works on the one that was
+/// entered last.
 class Workplace
 {
 public:
@@ -21,18 +21,18 @@ public:
     /// The data folder, as UTF-8.
     std::string DataFolder() const;
 
-    /// The path of a file that is no table, as UTF-8.
+    /// The path of a file that is not a table, as UTF-8.
     std::string PathOf(std::string_view name) const;
 
     /// Makes this catalogue the program's: its data folder and its loaded tables.
     void Enter();
 
-    /// The catalogue as the reference holds it, loaded when first asked for.
+    /// The reference's catalogue, loaded when first needed.
     reference::Catalogue& Plain();
 
 private:
     CatalogueSize m_fixed;
     std::filesystem::path m_folder;
-    std::vector<modData::Table> m_tables; // while another workplace is entered
+    std::vector<modData::Table> m_tables; // while another workplace is in use
     std::unique_ptr<reference::Catalogue> m_plainTables;
 };

@@ -1,4 +1,5 @@
-// The shortest start of a program of this toolkit: a window with an empty panel, as large as the main window.
+// The fastest start of a program with this toolkit: a window with an empty panel, as large as the main
+// window.
 
 #include "FirstIdle.h"
 

@@ -6,7 +6,8 @@
 #include <cstdlib>
 #include <iostream>
 
-/// generate_catalogue SIZE FOLDER [SEED]: writes a generated catalogue into a folder, made when missing.
+/// generate_catalogue SIZE FOLDER [SEED]: writes a generated catalogue into a folder, which is made if
+/// missing.
 int main(int count, char** arguments)
 {
     const std::string_view wanted = count > 1 ? arguments[1] : "";

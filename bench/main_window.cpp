@@ -1,4 +1,4 @@
-// The program's start without its splash: the main window, filled from the catalogue that LOCALAPPDATA names.
+// The program's start without the splash: the main window with the catalogue in LOCALAPPDATA.
 
 #include "FirstIdle.h"
 

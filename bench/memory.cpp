@@ -17,7 +17,7 @@
 namespace
 {
 
-/// The most memory that this process has held so far, in KiB.
+/// The peak memory of this process so far, in KiB.
 long PeakMemory()
 {
     std::ifstream status("/proc/self/status");
@@ -27,7 +27,8 @@ long PeakMemory()
     return 0;
 }
 
-/// Start-up, then every list and table of the program once, each kept while it would be on the screen.
+/// Start-up, then every list and table of the program once, each kept for as long as it would be on the
+/// screen.
 void LoadAndRefresh()
 {
     const std::string all(Svi);
@@ -50,8 +51,8 @@ void LoadAndRefresh()
 
 } // namespace
 
-/// memory [empty]: loads, validates and refreshes everything with the catalogue that LOCALAPPDATA names, and
-/// prints the process's peak memory in KiB; "empty" does nothing before it prints.
+/// memory [empty]: loads, validates and refreshes everything with the catalogue in LOCALAPPDATA, and prints
+/// the process's peak memory in KiB; with "empty" it only prints.
 int main(int count, char**)
 {
     try

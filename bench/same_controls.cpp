@@ -1,5 +1,5 @@
-// What the toolkit itself takes for the main window: as many controls of each kind as there, made by its own
-// calls alone, with no data in them and nothing behind them.
+// The toolkit's share of the main window's start: the same number of controls of each kind, made by the
+// toolkit's own calls, without data and without the program's code.
 
 #include "FirstIdle.h"
 

@@ -1,5 +1,5 @@
 # The target wx::core for Windows: wxWidgets core and base as static libraries, from the folder that
-# tools/windows-toolkit makes. The same name stands for the system's own wxWidgets elsewhere.
+# tools/windows-toolkit makes. On other systems the target is the system's wxWidgets.
 set(VARLO_WINDOWS_TOOLKIT "" CACHE PATH "Windows builds of wxWidgets and GoogleTest")
 if(NOT EXISTS "${VARLO_WINDOWS_TOOLKIT}/complete")
     message(FATAL_ERROR "VARLO_WINDOWS_TOOLKIT is \"${VARLO_WINDOWS_TOOLKIT}\", which is not a folder made by "
@@ -15,12 +15,12 @@ target_include_directories(wx_windows SYSTEM INTERFACE
 target_compile_definitions(wx_windows INTERFACE __WXMSW__ UNICODE _UNICODE wxUSE_GUI=1)
 target_link_libraries(wx_windows INTERFACE
     ${libraries}/libwxmsw32u_core.a ${libraries}/libwxbase32u.a
-    # The parts of Windows that they call.
+    # Windows' own libraries that they call.
     comctl32 comdlg32 gdi32 gdiplus msimg32 ole32 oleaut32 rpcrt4 shell32 shlwapi uuid winmm winspool)
 
-# Windows would look for these libraries beside the program first. They are loaded when they are first called; by
-# then the program has ruled that out (src/main_msw.cpp). The lists hold the functions that wxWidgets and the tests
-# call; linking fails when one is missing there.
+# Windows would look for these libraries beside the program first. They are loaded at their first call; by then the
+# program allows only the system's folder (src/main_msw.cpp). The lists hold the functions that wxWidgets and the tests
+# call; linking fails if one is missing.
 foreach(library oleacc uxtheme version)
     set(list ${CMAKE_SOURCE_DIR}/packaging/windows/delayed/${library}.def)
     set(delayed ${CMAKE_BINARY_DIR}/lib${library}_delayed.a)
@@ -32,8 +32,8 @@ foreach(library oleacc uxtheme version)
     target_link_libraries(wx_windows INTERFACE ${delayed})
 endforeach()
 
-# What the resources need to know. A part of the numeric version holds 16 bits, too few for the date, hence the
-# year and the day apart.
+# Values for the resources. A part of the numeric version has only 16 bits, too few for the date, so the year and the
+# day are two parts.
 math(EXPR year "${PROJECT_VERSION_PATCH} / 10000")
 math(EXPR day "${PROJECT_VERSION_PATCH} % 10000")
 set(file_version ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.${year}.${day})
@@ -42,8 +42,8 @@ foreach(resource varlostudiji.rc varlostudiji.manifest)
     configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/${resource}.in ${CMAKE_BINARY_DIR}/${resource} @ONLY)
 endforeach()
 
-# Gives a program the icon, the version information and the manifest. A program that opens windows needs the
-# manifest to get today's controls, tests included.
+# Gives a program the icon, the version information and the manifest. Programs with windows, also tests, need the
+# manifest to get modern controls.
 function(add_windows_resources target)
     set(resources ${CMAKE_BINARY_DIR}/varlostudiji.rc)
     set(icons ${CMAKE_SOURCE_DIR}/packaging/windows)

@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2034 # the scripts use the lists
-# What the commands of this folder share. To be sourced by a script that has gone to the repository's root.
+# Shared by the commands of this folder. A script sources it from the repository's root.
 
 version=$(<VERSION) # "1.0." and the day of the release
 release_day=${version: -8:4}-${version: -4:2}-${version: -2}
@@ -23,7 +23,7 @@ tests_at_once=$(($(nproc) + 3)) # more than processors, since the window tests m
 say() { echo "== $*" >&2; }
 fail() { echo "$*" >&2; exit 1; }
 
-# within SECONDS COMMAND...: whether the command succeeds before the time is over.
+# within SECONDS COMMAND...: true if the command succeeds within the time.
 within() {
     local end=$((SECONDS + $1))
     shift
@@ -33,13 +33,13 @@ within() {
     done
 }
 
-# as_root COMMAND...: runs a command as root, through sudo where need be; fails where neither is to be had.
+# as_root COMMAND...: runs a command as root, with sudo if needed; fails if it can do neither.
 as_root() {
     if [[ $EUID -eq 0 ]]; then "$@"; else sudo "$@"; fi
 }
 
-# Fetches the system's package lists again. A source that fails is no reason to stop: what is needed may be in the
-# others, or in the lists that are there.
+# Fetches the system's package lists again. A failing source does not stop this: another source, or the existing lists,
+# may be enough.
 update_lists() {
     as_root apt-get update -q >&2 || say "apt-get update failed; going on with the lists that there are"
 }
@@ -78,41 +78,40 @@ build_windows() {
     build windows "$@"
 }
 
-# Sets up what makes a package come out the same wherever and whenever it is made: the rights of new files, and the time
-# that all files get.
+# Sets the rights and the time of all files, so that a package is the same wherever and whenever it is built.
 prepare_packing() {
     umask 022
     SOURCE_DATE_EPOCH=$(date --utc --date="$release_day" +%s)
     export SOURCE_DATE_EPOCH
 }
 
-# settle FOLDER: gives all that is in it the time of the release, and rights that are not those of a checkout.
+# settle FOLDER: gives all its files the time of the release, and the same rights in every checkout.
 settle() {
     chmod -R u=rwX,go=rX "$1"
     find "$1" -exec touch --no-dereference --date="@$SOURCE_DATE_EPOCH" {} +
 }
 
-# Runs a command on a display of its own.
+# Runs a command on a separate virtual display.
 on_virtual_display() {
-    # The accessibility bus would only be missed in warnings, and a Wayland desktop must not take the windows.
-    # Two that start at once could take the same free number, hence a number by chance to begin with.
+    # Without the accessibility bus there would only be warnings. The windows must not go to a Wayland desktop. Two
+    # displays that start at once could get the same number, so begin at a random one.
     env -u WAYLAND_DISPLAY NO_AT_BRIDGE=1 xvfb-run -a -n $((100 + RANDOM % 900)) \
         -s "-screen 0 1280x800x24 -nolisten tcp" "$@"
 }
 
-# use_wine FOLDER: lets Wine work in a folder of its own, set up anew, and without its own remarks.
+# use_wine FOLDER: sets up a new Wine folder and silences Wine's own messages.
 use_wine() {
     rm -rf "$1"
     mkdir -p "$1/drive_c/windows/Fonts"
     WINEPREFIX=$(cd "$1" && pwd)
     export WINEPREFIX WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
     say "setting up Wine"
-    # Debian's Wine does not look for its own fonts where they are.
+    # Debian's Wine does not find its own fonts.
     cp /usr/share/wine/fonts/*.ttf "$1/drive_c/windows/Fonts/"
     on_virtual_display wine wineboot --init >/dev/null 2>&1
-    # There is no window manager: left to itself, Wine waits for one whenever a window goes.
+    # Without a window manager Wine would wait for one whenever a window closes.
     wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
     wineserver --wait
-    # Kept running, the server saves every program the start of one.
+    # A running server makes the start of each program faster.
     wineserver --persistent=60
 }

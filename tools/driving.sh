@@ -1,12 +1,11 @@
 # shellcheck shell=bash
-# How the programs of this repository are driven like a user does it: real keys, the real mouse, and a look at the
-# screen. To be sourced by a script that runs on a display of its own, without a window manager; $window is the
-# window that is worked in.
+# Drives the programs of this repository as a user does: real keys, the real mouse, and a look at the screen. A script
+# sources it on a separate virtual display without a window manager. $window is the current window.
 
 export LC_ALL=C.UTF-8 # titles and typed text hold Croatian letters
 export LANGUAGE=en    # the keys of the system's own buttons
 
-# Every wait has its end, in seconds.
+# The time limits of waits, in seconds.
 window_wait=30
 still_wait=10
 
@@ -15,7 +14,7 @@ still_wait=10
 # find_window TITLE [EXCEPT]: prints the number of the visible window whose title matches, if there is one other
 # than EXCEPT.
 find_window() {
-    # xdotool's own search by title finds no title with Croatian letters.
+    # xdotool's own search by title does not find titles with Croatian letters.
     local candidate
     for candidate in $(timeout 10 xdotool search --onlyvisible --name '.*' 2>/dev/null); do
         if [[ $candidate != "${2:-}" && $(xdotool getwindowname "$candidate" 2>/dev/null) =~ $1 ]]; then
@@ -35,12 +34,12 @@ wait_for() {
     done
 }
 
-# opens TITLE [EXCEPT]: the window that must open now goes into $window and gets the keys.
+# opens TITLE [EXCEPT]: waits for the window that must open; it becomes $window and gets the keys.
 opens() {
     window=$(wait_for "$1" $window_wait "${2:-}") && focus "$window"
 }
 
-# closes TITLE: whether no window with this title is left in time.
+# closes TITLE: true if no window with this title is left in time.
 closes() {
     local end=$((SECONDS + window_wait))
     while find_window "$1" >/dev/null; do
@@ -63,11 +62,11 @@ still_picture() {
 
 # --- Driving ---
 
-# use_croatian_keyboard: letters that the keyboard lacks would be lost now and then, since xdotool has to put them
-# onto spare keys while it types. A display forgets the keyboard when its last window goes.
+# use_croatian_keyboard: xdotool puts letters that the keyboard lacks on spare keys while it types, and would lose
+# some. A display forgets its keyboard when its last window closes.
 use_croatian_keyboard() { timeout 10 setxkbmap hr; }
 
-# There is no window manager, so nobody else raises a window or gives it the focus.
+# Without a window manager the script must raise a window and give it the focus.
 focus() {
     sleep 0.3
     timeout 5 xdotool windowraise "$1" windowfocus "$1" || return 1
@@ -77,7 +76,7 @@ focus() {
 key() { timeout 10 xdotool key --delay 80 "$@"; sleep 0.2; }
 type_text() { timeout 30 xdotool type --delay 60 -- "$1"; sleep 0.2; }
 
-# click X Y [KEY]: clicks at a place of $window, while the key is held.
+# click X Y [KEY]: clicks at a place of $window while the key is held.
 click() {
     timeout 5 xdotool mousemove --window "$window" "$1" "$2"
     [[ -z ${3:-} ]] || timeout 5 xdotool keydown "$3"

@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2034,SC2154 # tools/walk sets what differs between the systems
-# The steps of tools/walk, which are the same on every system, and how they are counted. To be sourced by it; it sets
-# $main_title, $version and the places of the controls, and says how the program is started and how it ends.
+# The steps of tools/walk, the same on every system, and their count. tools/walk sources it; it sets $main_title,
+# $version and the places of the controls, and defines how the program starts and ends.
 
 course='Šumarska čađ, đak i žbuka'
 courses_before=$(($(wc -l <demo/db_kolegij.csv) - 1))
@@ -25,7 +25,7 @@ check() {
     fi
 }
 
-# shows WHAT TITLE [EXCEPT]: the window must open; without it there is no way on.
+# shows WHAT TITLE [EXCEPT]: the window must open; otherwise the walk cannot go on.
 shows() {
     if opens "$2" "${3:-}"; then
         check "$1" true
@@ -36,13 +36,13 @@ shows() {
     fi
 }
 
-# picture WHAT: the screen as it is now.
+# picture WHAT: takes a picture of the screen.
 picture() {
     pictures=$((pictures + 1))
     still_picture root "$pictures_folder/$(printf %02d $pictures)-$1.png"
 }
 
-# summary CODE: the last line; a walk that broke off has failed, whatever was counted.
+# summary CODE: the last line; a walk that ended early has failed, with any count.
 summary() {
     [[ $1 -eq 0 || $failed -gt 0 ]] || failed=1
     echo "$passed passed, $failed failed"
@@ -51,18 +51,18 @@ summary() {
 # --- Files ---
 
 utf8() { iconv -f windows-1250 -t utf-8 "$1"; }
-# Not grep -q: it would end before the text does, and the pipe with an error.
+# Not grep -q: it ends before the text does, and then the pipe fails.
 has_line() { utf8 "$1" | grep -x -F "$2"$'\r' >/dev/null; }
 has_no_line() { test -f "$1" && ! utf8 "$1" | grep -x -E "$2"$'\r' >/dev/null; }
 begins_with() { [[ $(utf8 "$1" | head -n 1) == "$2"$'\r' ]]; }
 counts_lines() { [[ $(wc -l <"$1") -eq $2 ]]; }
 every_line_ends_in_crlf() { [[ $(grep -c -a $'\r$' "$1") -eq $(wc -l <"$1") && $(tail -c 1 "$1") == "" ]]; }
 
-# is_export FILE FIRST LINES: a text of so many lines, each with CR LF behind it.
+# is_export FILE FIRST LINES: true for a text of so many lines, each with CR LF at its end.
 is_export() { begins_with "$1" "$2" && counts_lines "$1" "$3" && every_line_ends_in_crlf "$1"; }
 
 # catalogue_sum CONDITION: P;S;V;ECTS;courses of those lines of the exported catalogue for which awk's condition is
-# true: an export against another export, which was made by other rules.
+# true. It checks one export by another that follows other rules.
 catalogue_sum() {
     utf8 "$exports/kolegiji_export.csv" | tr -d '\r' | awk -F ';' "
         NR > 1 && ($1) { p += \$6; s += \$7; v += \$8; e += \$9; n++ }
@@ -81,21 +81,21 @@ click_at() {
     click "$x" $((y + ${2:-0} * ${row_height:-0})) "${3:-}"
 }
 
-# At the search box every access key of the main window works on both systems.
+# With the focus in the search box every access key of the main window works on both systems.
 back_to_search() {
     window=$main
     focus "$main"
     click_at search
 }
 
-# search TEXT: what the course list is narrowed to.
+# search TEXT: searches the course list.
 search() {
     back_to_search
     key Escape
     type_text "$1"
 }
 
-# field_text: what the field with the focus holds, by way of the clipboard.
+# field_text: the text of the focused field, copied by the clipboard.
 field_text() {
     key ctrl+a ctrl+c
     timeout 5 xclip -o -selection clipboard 2>/dev/null
@@ -133,7 +133,7 @@ save_into_exports() {
     key Return
 }
 
-# told TITLE WHAT PICTURE [EXCEPT]: a message is shown, and goes by Return.
+# told TITLE WHAT PICTURE [EXCEPT]: a message must be shown; Return closes it.
 told() {
     shows "$2" "$1" "${4:-}"
     picture "$3"
@@ -285,7 +285,7 @@ lecturers() {
     key alt+x
     save_into_exports 'Spremi statistiku nastavnika' lecturers
     told '^Izvoz završen$' "the program says where the load is" lecturers-exported
-    check "sixteen lines a lecturer behind the header" is_export "$file" \
+    check "sixteen lines a lecturer after the header" is_export "$file" \
         'Nastavnik;Semestar;Tip;P;S;V;ECTS;Broj kolegija' $((16 * ($(wc -l <demo/db_nastavnici.csv) - 1) + 1))
     check "the new course counts for its holder" has_line "$file" "Cindrek Lucija;TOTAL;Sve;$(
         catalogue_sum '$2 == "Cindrek Lucija" || $3 == "Cindrek Lucija" || $4 == "Cindrek Lucija"')"
@@ -307,7 +307,7 @@ departments() {
     key alt+x
     save_into_exports 'Spremi statistiku zavoda' departments
     told '^Izvoz završen$' "the program says where the load is" departments-exported
-    check "sixteen lines a department behind the header" is_export "$file" \
+    check "sixteen lines a department after the header" is_export "$file" \
         'Zavod;Semestar;Tip;P;S;V;ECTS;Broj kolegija' $((16 * ($(wc -l <demo/db_zavod.csv) - 1) + 1))
     check "the winter's export has no summer" has_no_line "$file" '[^;]*;[246];(Obvezni|Izborni);.*[1-9].*'
     window=$statistics
@@ -437,7 +437,7 @@ delete_by_keyboard() {
     closes '^Potvrda$' && focus "$main"
 }
 
-# look_up TEXT NAME: whether the first course found by the text has this name.
+# look_up TEXT NAME: true if the first course found by the text has this name.
 look_up() {
     local name
     press ctrl+f
@@ -449,7 +449,7 @@ look_up() {
     closes '^Kolegij$' && focus "$main" && [[ $name == "$2" ]]
 }
 
-# Adds, changes, deletes and looks up five courses each: no key is pressed to find a place in the list again.
+# Adds, changes, deletes and looks up five courses each; no key is needed to find the place in the list again.
 day_by_keyboard() {
     local keys=0 i before
     before=$(mktemp)
@@ -484,7 +484,8 @@ day_by_keyboard() {
     echo "# keys pressed in the day: $keys"
 }
 
-# day_is_saved FORMER: whether the file of courses has the former ones but the deleted ones, the five changed ones with nine credits, the new ones.
+# day_is_saved FORMER: true if the file of courses has the former courses without the deleted ones, the five changed
+# ones with nine credits, and the new ones.
 day_is_saved() {
     diff <(
         awk -F ';' -v OFS=';' '$1 >= 6 && $1 <= 10 { next } $1 >= 1 && $1 <= 5 { $6 = 9 } { print }' "$1"
@@ -515,7 +516,7 @@ through_the_program() {
     day_by_keyboard
 }
 
-# splash_shown: the splash lasts a second, too short to wait for stillness.
+# splash_shown: the splash is shown for a second, too short to wait for a still picture.
 splash_shown() {
     splash=$(wait_for '^Varlostudiji$' "$window_wait") || return 1
     pictures=$((pictures + 1))

@@ -3,14 +3,14 @@
 ; tables each), ICON, SIDE (picture beside the first and the last page) and OUTPUT.
 ;
 ; On the command line:
-;   /S            installs without a window and puts nothing into the data folder
-;   /DATA=demo    chooses the demo catalogue, silently or as the page's proposal
+;   /S            installs without a window; writes to the data folder only with /DATA=
+;   /DATA=demo    installs the demo catalogue with /S; otherwise preselects it
 ;   /DATA=empty   chooses seven tables with header lines only
-;   /D=FOLDER     (last, unquoted) installs elsewhere; an installed program moves there
-; The exit code is 0, 2 when the program could not be installed, 3 when the catalogue could not be put there.
+;   /D=FOLDER     installs elsewhere; an installed program moves there. Must be last and unquoted
+; Exit codes: 0 installed, 1 cancelled by the user, 2 not installed, 3 installed without its catalogue.
 ;
-; The data folder belongs to the user: tables go only where not one of the seven is and no interrupted save
-; holds them, no file there is ever replaced, and the uninstaller does not go near it.
+; The data folder belongs to the user: tables are written only if none of the seven and no interrupted save is
+; there; no file there is ever replaced; the uninstaller does not touch it.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -84,7 +84,7 @@ ${TEXT} ProgramFailed "Program nije instaliran. Zatvorite Varlostudiji ako je ot
 ${TEXT} DataFailed "Katalog nije moguće zapisati u mapu $DataFolder."
 ${TEXT} ProgramOpen "Varlostudiji je otvoren. Zatvorite ga i pokušajte ponovno."
 
-; What Explorer shows of the installer.
+; The installer's properties in Explorer.
 !getdllversion "${PROGRAM}\varlostudiji.exe" PROGRAM_
 !define FILE_VERSION "${PROGRAM_1}.${PROGRAM_2}.${PROGRAM_3}.${PROGRAM_4}"
 VIProductVersion "${FILE_VERSION}"
@@ -131,7 +131,7 @@ Function FindCatalogue
 FunctionEnd
 
 Function .onInit
-    ; An upgrade goes where the program is.
+    ; An upgrade goes to the folder of the installed program.
     ReadRegStr $FormerFolder HKCU "${UNINSTALL_KEY}" "InstallLocation"
     ${IfNot} ${FileExists} "$FormerFolder\varlostudiji.exe"
         StrCpy $FormerFolder ""
@@ -143,7 +143,7 @@ Function .onInit
         ${EndIf}
     ${EndIf}
 
-    ; The program goes by the variable, so its installer does too.
+    ; The program reads this variable, so its installer does too.
     ReadEnvStr $DataFolder LOCALAPPDATA
     ${If} $DataFolder == ""
         StrCpy $DataFolder $LOCALAPPDATA
@@ -209,7 +209,7 @@ Function LeaveDataPage
     ${EndIf}
 FunctionEnd
 
-; Without a catalogue the program could only report what is missing, so starting it is not proposed.
+; Without a catalogue the program could only report the missing file, so starting it is not proposed.
 Function ShowFinishPage
     Call FindCatalogue
     ${If} $CatalogueFound = 0
@@ -219,7 +219,7 @@ FunctionEnd
 
 ; --- Installing ---
 
-; What the installer writes into a folder beside the program itself.
+; The files that the installer writes to a folder in addition to the program.
 !macro RemoveFiles folder
     Delete "${folder}\varlostudiji-provjera.exe"
     Delete "${folder}\LICENSE.txt"
@@ -227,9 +227,9 @@ FunctionEnd
     RMDir "${folder}" ; with anything else in it, it stays
 !macroend
 
-; Removes the program from the folder that it has moved from.
+; Removes the program from its former folder.
 Function RemoveFormerProgram
-    ; The two folders may be one by two names. Then the new program has gone too, and comes back.
+    ; The two paths may name one folder. Then this renames the new program, and it is renamed back.
     Rename "$FormerFolder\varlostudiji.exe" "$FormerFolder\varlostudiji.old"
     ${If} ${FileExists} "$INSTDIR\varlostudiji.exe"
         ClearErrors
@@ -276,7 +276,7 @@ Section
 SectionEnd
 
 Section
-    ; A part of a catalogue is the user's too: demo tables beside it would only make it inconsistent.
+    ; Even a part of a catalogue is the user's: demo tables beside it would make it inconsistent.
     Call FindCatalogue
     ${If} $CatalogueFound = 1
     ${OrIf} $Data == ""
@@ -291,7 +291,7 @@ Section
     ${Else}
         File "${EMPTY}\*.csv"
     ${EndIf}
-    ; A file that must not be replaced and one that cannot be written are skipped alike, hence this look.
+    ; NSIS skips files that it must not replace, but also files that it cannot write: check that every table is there.
     ClearErrors
     !insertmacro ForEachTable MissTable
     ${If} ${Errors}

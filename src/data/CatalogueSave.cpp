@@ -48,7 +48,7 @@ void RemoveSet(const CatalogueOnDisk& files)
     RemoveFolderOf(files, set);
 }
 
-/// Writes the mark and makes all but its name durable.
+/// Marks a set as complete; all of it is then durable except the mark's name.
 void Mark(const CatalogueOnDisk& files)
 {
     const std::string set = SetOf(files);
@@ -133,7 +133,7 @@ void SetAside(const CatalogueOnDisk& files)
     RequireDone(Files.FlushFolder(ToPath(files.Folder)), files.Folder);
 }
 
-/// Whether a name is that of a temporary file of ReplaceFile, for a file of the catalogue or for the ".bak"
+/// True if a name is that of a temporary file of ReplaceFile, for a file of the catalogue or for the ".bak"
 /// copy that earlier versions kept.
 bool IsTemporaryOf(std::string_view file, std::string_view name)
 {

@@ -10,7 +10,7 @@ std::int32_t ToLong(std::string_view text);
 /// How a stored number is converted where it is used.
 enum class Conversion
 {
-    Strict, ///< A text that is no whole number is an error.
+    Strict, ///< A text that is not a whole number is an error.
     Safe,   ///< Such a text counts as 0.
 };
 

@@ -6,17 +6,17 @@
 #include <string_view>
 
 /// The copies of a catalogue in the folder "kopije" beside its files. Each is a folder named after the local
-/// time to the second, "2026-11-21_143005", and then "_2", "_3" where that name is taken.
+/// time to the second, "2026-11-21_143005"; "_2", "_3" follow if that name is taken.
 namespace DatedCopies
 {
 
 /// The present time in the form of a copy's name. Test hook: a test can set its own clock.
 extern std::string (*CurrentTime)();
 
-/// The folder of a copy, or of anything else that is kept under a name there.
+/// The path of a copy, or of anything else in "kopije", by its name.
 std::string FolderOf(const CatalogueOnDisk& files, std::string_view name);
 
-/// Whether a text is the name of a copy.
+/// True if a text is the name of a copy.
 bool IsName(std::string_view text);
 
 /// A new copy's name; nothing in "kopije" begins with it. @throws FileError

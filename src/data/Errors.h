@@ -10,7 +10,7 @@
 struct FieldPlace
 {
     std::string_view FileName;
-    std::size_t Line = 0; ///< From 1, the header's; 0 for a row that no file holds yet.
+    std::size_t Line = 0; ///< From 1 for the header; 0 for a row that no file holds yet.
     std::string_view Column;
 
     bool operator==(const FieldPlace&) const = default;

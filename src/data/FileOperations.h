@@ -35,9 +35,9 @@ enum class LockKind
     Running ///< Any number of processes.
 };
 
-/// Everything that the program does with files and folders. All of it goes through the one table
-/// `System::Files`, so that a test can record, refuse or end the program at each operation. An operation that
-/// changes a name retries for a moment while another program holds the file.
+/// All operations on files and folders. The program calls them only through the table `System::Files`, so
+/// that a test can record each operation, make it fail, or end the program after it. Operations that change a
+/// name retry for a moment if another program has the file open.
 struct FileOperations
 {
     using Path = std::filesystem::path;
@@ -68,7 +68,7 @@ struct FileOperations
     /// Makes the content of a file durable. A device that cannot be flushed is no failure.
     Result (*Flush)(Handle file);
 
-    /// Closes a file, also when it fails.
+    /// Closes a file; it is closed even after a failure.
     Result (*Close)(Handle file);
 
     /// Renames a file or folder. A file that has the new name is replaced in one step.
@@ -95,7 +95,7 @@ struct FileOperations
     /// Ends a lock.
     void (*Unlock)(Handle lock);
 
-    /// Whether a process holds a lock of the kind `Running` on a folder.
+    /// True if a process holds a lock of the kind `Running` on a folder.
     bool (*IsLockedByRunning)(const Path& folder);
 };
 

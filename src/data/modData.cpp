@@ -135,7 +135,7 @@ void SaveEachInto(const std::string& folder)
     SaveEach();
 }
 
-/// Whether a file already has the bytes that saving the table would write.
+/// True if a file already has the bytes that saving the table would write.
 bool IsSaved(const Table* table)
 {
     try
@@ -148,7 +148,7 @@ bool IsSaved(const Table* table)
     }
 }
 
-/// Whether a file has the same rows as a table; line ends, blank lines and headers may differ.
+/// True if a file has the same rows as a table; line ends, blank lines and headers may differ.
 bool ReadsAs(const Table* table)
 {
     try
@@ -170,7 +170,7 @@ std::optional<std::string> MarkedText(std::string_view path)
     return ReadFile(path).substr(Utf8Mark.size());
 }
 
-/// Whether the conversion of a file to windows-1250 turns letters into "?".
+/// True if the conversion of a file to windows-1250 turns letters into "?".
 bool LosesLetters(const std::string& path)
 {
     if (TypeOf(path) == FileType::Missing)

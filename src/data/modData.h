@@ -110,7 +110,7 @@ extern Table KolegijNastavnici;
 /// The seven tables in the order in which they are loaded and saved.
 std::array<Table*, 7> AllTables();
 
-/// The mark that a UTF-8 file may begin with.
+/// The byte-order mark at the start of some UTF-8 files.
 inline constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
 /// The path of the data folder; the folder may be missing.

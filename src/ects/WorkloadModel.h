@@ -123,8 +123,8 @@ public:
 
     double LiteratureNormHours() const;
     double LiteratureEstimateHours() const;
-    double LiteratureHours() const; ///< By norm or by estimate, as is chosen.
-    double WrittenHours() const;    ///< By norm or by estimate, as is chosen.
+    double LiteratureHours() const; ///< By norm or by estimate, as chosen.
+    double WrittenHours() const;    ///< By norm or by estimate, as chosen.
 
     /// The chosen hours per point; 30 if none are chosen. @throws TypeMismatch
     double HoursPerEcts() const;

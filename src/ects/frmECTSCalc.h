@@ -53,7 +53,7 @@ private:
     void ApplyLiteratureMode();
     void ApplyWrittenMode();
 
-    /// Computes all figures from what the window shows, and shows them.
+    /// Reads the fields, computes all figures and shows them.
     void Recalculate();
     void ReadFields();
     void ShowFields();
@@ -88,7 +88,7 @@ private:
     std::vector<Field> m_boxes; ///< Every text box of the window.
     bool m_busy = false;        ///< True while the figures are computed, to prevent recursion.
 
-    wxStaticText* m_widestLabel; ///< The caption that gets a second line where the screen is narrow.
+    wxStaticText* m_widestLabel; ///< The caption that gets a second line on a narrow screen.
 
     // Controls. Of an array with gaps in its indices the elements stand side by side.
     wxScrolledWindow* Panel;

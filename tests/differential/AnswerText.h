@@ -24,7 +24,7 @@ struct Bytes
     std::string Content;
 };
 
-/// Every byte has a character of its own; CR, which cannot be seen, is written \r.
+/// A printable character for every byte; CR is written \r.
 inline std::string Shown(const Bytes& bytes)
 {
     std::string text;
@@ -78,7 +78,7 @@ inline std::string Shown(const DepartmentFilter& filter)
     return "(" + filter.Razina + ", " + filter.Semestar + ")";
 }
 
-/// What a question is answered with, which may be one of the program's errors.
+/// The answer to a question, or one of the program's errors.
 template<typename Answer>
 std::string AnswerOf(const Answer& answer)
 {

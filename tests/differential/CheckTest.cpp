@@ -19,8 +19,8 @@
 #include <utility>
 #include <vector>
 
-// The check of a catalogue against the program itself, and what the mending does to random files.
-// VARLO_CATALOGUES is the number of random catalogues, VARLO_SEED the first one's seed.
+// The check of a catalogue compared with the program itself, and the effect of mending on random files.
+// VARLO_CATALOGUES is the number of random catalogues, VARLO_SEED the seed of the first.
 
 namespace
 {
@@ -50,7 +50,7 @@ CatalogueFiles FilesIn(const std::filesystem::path& folder)
     return files;
 }
 
-/// How the program's start with the data folder ends: "valid", "invalid" or the error's number.
+/// The result of the program's start with the data folder: "valid", "invalid" or the error's number.
 std::string StartOfProgram()
 {
     try
@@ -80,7 +80,7 @@ std::vector<Line> LinesOf(std::string_view bytes)
     return lines;
 }
 
-/// A field without the quotes around it and with half of those inside.
+/// A field without its outer quotes, and with doubled quotes single.
 std::string WithoutQuotes(const std::string& field)
 {
     std::string text;
@@ -103,7 +103,7 @@ void RemoveQuotes(std::string& line, std::size_t position)
     line.replace(begin, size, WithoutQuotes(line.substr(begin, size)));
 }
 
-/// What the changes that were told make of a file.
+/// A file after the reported changes.
 std::string AsTold(std::string bytes, const std::vector<Check::Change>& changes,
                    const modData::TableLayout& layout)
 {
@@ -180,7 +180,7 @@ TEST(RandomCheck, MendingDoesWhatItReportsAndOnlyOnce)
                     ++told[change.Text.substr(0, 20)];
                 for (const Check::Change& change : mended.Left)
                     ++told["(left) " + change.Text.substr(0, 20)];
-                // A LF that was left is part of a field, and which one it is the count does not say.
+                // A LF that is left is part of a field; the report does not say of which.
                 const bool someLeft = std::ranges::any_of(
                     mended.Left, [](const Check::Change& change)
                     { return change.Text.starts_with("LF") || change.Text.starts_with("navodnici"); });

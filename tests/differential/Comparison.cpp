@@ -16,7 +16,7 @@
 namespace
 {
 
-/// Every row of every table, as stored.
+/// Every row of every table as stored.
 std::vector<std::string> ProgramRows()
 {
     std::vector<std::string> lines;
@@ -70,7 +70,7 @@ std::vector<std::vector<std::string>> Texts(const std::vector<ListRow>& rows)
 
 } // namespace
 
-/// True when both answer alike; otherwise the difference is kept.
+/// True if both answers are the same; otherwise keeps the difference.
 template<typename Program, typename Plain>
 bool Comparison::Ask(const std::string& question, const Program& program, const Plain& plain)
 {
@@ -94,7 +94,7 @@ std::optional<Difference> Comparison::Run(const CatalogueFiles& files)
     for (int edits = m_dice.Between(0, 3); alike && edits > 0; --edits)
         alike = EditBoth(catalogue) && CompareTables(catalogue) && CompareAll(catalogue);
     if (alike && CompareSaved(catalogue))
-        CompareMainWindow(catalogue); // with the tables as they were loaded anew
+        CompareMainWindow(catalogue); // with the reloaded tables
     return m_found;
 }
 
@@ -106,7 +106,7 @@ std::optional<Difference> Comparison::Compare(const reference::Catalogue& catalo
     return m_found;
 }
 
-/// True when both sides have loaded the files alike, so that there is more to ask.
+/// True if both sides have loaded the files with the same result, and not with an error.
 bool Comparison::LoadBoth(const CatalogueFiles& files, reference::Catalogue& catalogue)
 {
     WriteFiles(files, m_folder.Data());
@@ -187,7 +187,7 @@ bool Comparison::CompareLists(const CourseFilter& filter, const std::string& raz
     const auto plainCourses = [&] { return reference::CourseRows(catalogue, filter); };
     const auto sums = [&] { return StatistikaRows(filter, razina); };
     const auto plainSums = [&] { return reference::StatistikaRows(catalogue, filter, razina); };
-    // As the window refreshes them: with one search.
+    // As the window does: with one search.
     const auto both = [&]
     {
         Search search(filter.Search);
@@ -261,7 +261,7 @@ bool Comparison::CompareExports(const reference::Catalogue& catalogue)
     const StatistikaFilters boxes = {razina, std::string(m_dice.OneOf(shown)),
                                      std::string(m_dice.OneOf(shown)), std::string(m_dice.OneOf(shown))};
 
-    // The bytes that an export leaves in its file.
+    // The bytes of an exported file.
     const auto exported = [&](const auto& write)
     {
         const std::filesystem::path file = m_folder.Path() / "export.csv";
@@ -298,7 +298,7 @@ bool Comparison::CompareExports(const reference::Catalogue& catalogue)
                });
 }
 
-/// Saves and loads anew; the catalogue becomes what is loaded.
+/// Saves and reloads; the catalogue becomes the loaded one.
 bool Comparison::CompareSaved(reference::Catalogue& catalogue)
 {
     modData::SaveAllTables();

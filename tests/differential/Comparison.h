@@ -11,7 +11,7 @@
 
 class TestFolder;
 
-/// What was asked, and what the program and the reference answered.
+/// A question, and the different answers of the program and of the reference.
 struct Difference
 {
     std::string Question;
@@ -19,20 +19,20 @@ struct Difference
     std::string Reference;
 };
 
-/// Asks the program and the reference the same questions, and counts the answers, errors by their number.
+/// Asks the program and the reference the same questions. Counts the answers, and errors by number.
 class Comparison
 {
 public:
     Comparison(const TestFolder& folder, Chance& chance) : m_folder(folder), m_dice(chance) {}
 
-    /// Loads the files of the data folder on both sides, compares all that can be asked of them, edits them
-    /// and compares again, saves them, loads them anew. Gives the first difference, or nothing.
+    /// Loads the files of the data folder on both sides, compares everything, edits them and compares again,
+    /// then saves and reloads them. Returns the first difference, or nothing.
     std::optional<Difference> Run(const CatalogueFiles& files);
 
-    /// Compares what the program's tables answer with what the reference's do.
+    /// Compares the answers from the program's tables with those from the reference's.
     std::optional<Difference> Compare(const reference::Catalogue& catalogue);
 
-    /// How often each kind of answer was given: "answer", or "error" with its number.
+    /// The number of answers of each kind: "answer", or "error" with its number.
     const std::map<std::string, std::size_t>& Answers() const { return m_counts; }
 
 private:

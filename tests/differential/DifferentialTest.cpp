@@ -20,15 +20,15 @@
 #include <string>
 #include <system_error>
 
-// The program and the plain reference are given the same catalogues and asked the same questions.
-// VARLO_CATALOGUES is the number of random catalogues, VARLO_SEED the first one's seed.
+// The program and the plain reference get the same catalogues and the same questions. VARLO_CATALOGUES is the
+// number of random catalogues, VARLO_SEED the seed of the first.
 
 namespace
 {
 
-constexpr std::uint64_t FewCatalogues = 300; // what a run of all tests has the time for
+constexpr std::uint64_t FewCatalogues = 300; // for a run of all tests
 
-/// The first difference that files bring up, with the choices that the seed makes.
+/// The first difference for these files; the seed decides the random choices.
 std::optional<Difference> DifferenceOf(const CatalogueFiles& files, std::uint64_t seed)
 {
     const TestFolder folder;
@@ -36,7 +36,7 @@ std::optional<Difference> DifferenceOf(const CatalogueFiles& files, std::uint64_
     return Comparison(folder, chance).Run(files);
 }
 
-/// The files with every line left out that the difference does not need.
+/// The files without the lines that the difference does not need.
 CatalogueFiles Smallest(CatalogueFiles files, std::uint64_t seed)
 {
     for (std::string& file : files)
@@ -89,7 +89,7 @@ TEST(Differential, RandomCatalogues)
 
     for (const auto& [kind, times] : answers)
         std::cout << kind << ": " << times << std::endl;
-    // The comparison is worth something only where every way to answer comes up.
+    // The comparison is useful only if every kind of answer occurs.
     if (count < FewCatalogues)
         return;
     for (const char* kind : {"answer", "error 6", "error 9", "error 13", "error 62"})

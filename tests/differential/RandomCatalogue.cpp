@@ -54,7 +54,7 @@ constexpr std::string_view Headers[] = {
     "KolegijID;NastavnikID;Uloga;Redoslijed",
 };
 
-/// Which faults a catalogue has, and how often each.
+/// The kinds of faults in a catalogue, and how often each occurs.
 class Faults
 {
 public:
@@ -118,7 +118,7 @@ public:
     }
 
 private:
-    /// Unique IDs in no order; the faults may repeat some.
+    /// Unique IDs in random order; faults may repeat some.
     void MakeIDs(std::vector<int>& ids, int count)
     {
         while (static_cast<int>(ids.size()) < count)
@@ -263,7 +263,7 @@ std::string Escaped(std::string_view bytes)
 {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string text;
-    bool afterHex = false; // a digit behind would be read as part of the byte's number
+    bool afterHex = false; // a following digit would count as part of the byte's number
     for (const char byte : bytes)
     {
         const auto code = static_cast<unsigned char>(byte);
@@ -300,7 +300,7 @@ void WriteFiles(const CatalogueFiles& files, const std::filesystem::path& folder
 {
     for (std::size_t i = 0; i < files.size(); ++i)
     {
-        std::filesystem::remove(folder / TableFiles[i]); // cutting off an old content may wait for the disk
+        std::filesystem::remove(folder / TableFiles[i]); // truncating an old file may wait for the disk
         WriteBytes(folder / TableFiles[i], files[i]);
     }
 }

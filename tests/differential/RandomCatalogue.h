@@ -13,7 +13,7 @@
 #include <string>
 #include <string_view>
 
-/// Chance that comes out the same on every system for the same seed.
+/// Random numbers that are the same on every system for the same seed.
 class Chance
 {
 public:
@@ -28,7 +28,7 @@ public:
         return least + static_cast<int>(Below(static_cast<std::size_t>(most - least + 1)));
     }
 
-    /// True in so many of a thousand cases.
+    /// True in `share` of a thousand cases.
     bool PerMille(std::size_t share) { return Below(1000) < share; }
 
     template<typename Item, std::size_t Count>
@@ -50,24 +50,24 @@ inline constexpr std::array<std::string_view, 7> TableFiles = {
 /// The bytes of the seven files.
 using CatalogueFiles = std::array<std::string, TableFiles.size()>;
 
-/// A small catalogue: a quarter of them clean, the others with faults of a few kinds, rare or frequent.
+/// A small random catalogue: a quarter are clean, the others have faults of a few kinds, rare or frequent.
 CatalogueFiles RandomFiles(Chance& chance);
 
 /// Writes the files into a folder.
 void WriteFiles(const CatalogueFiles& files, const std::filesystem::path& folder);
 
-/// The files as lines of C++ for a test of its own: a name and its bytes each.
+/// The files as lines of C++ for a test: a name and the bytes of each.
 std::string AsSource(const CatalogueFiles& files);
 
-/// An ID that is likely to be in such a catalogue, but may be 0 or unknown.
+/// An ID that is probably in such a catalogue, but may be 0 or unknown.
 std::int32_t RandomID(Chance& chance);
 
 CourseFilter RandomCourseFilter(Chance& chance);
 LecturerFilter RandomLecturerFilter(Chance& chance);
 DepartmentFilter RandomDepartmentFilter(Chance& chance);
 
-/// A level's text, mostly one of the two.
+/// A level's text, mostly a valid one.
 std::string RandomRazina(Chance& chance);
 
-/// A course as the editor would hand it over.
+/// A course in the form that the editor passes on.
 CourseEntry RandomEntry(Chance& chance);

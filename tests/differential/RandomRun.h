@@ -8,7 +8,7 @@
 #include <string>
 #include <system_error>
 
-// What the tests with random catalogues share.
+// Shared by the tests with random catalogues.
 
 /// A whole number from the environment.
 inline std::uint64_t Setting(const char* variable, std::uint64_t otherwise)
@@ -17,7 +17,7 @@ inline std::uint64_t Setting(const char* variable, std::uint64_t otherwise)
     return value.empty() ? otherwise : std::stoull(value);
 }
 
-/// While it lives, nothing waits for the disk: thousands of files are written here, and none need survive.
+/// While it lives, nothing waits for the disk: these tests write thousands of files that need not survive.
 class HastyFiles
 {
 public:
@@ -27,7 +27,7 @@ public:
         System::Files.FlushFolder = [](const std::filesystem::path&) { return std::error_code(); };
         System::Files.Rename = [](const std::filesystem::path& from, const std::filesystem::path& to)
         {
-            // Some file systems wait for the disk where a file takes another's place, so there must be none.
+            // Some file systems wait for the disk when a rename replaces a file, so remove the old one first.
             System::OwnFiles.RemoveFile(to);
             return System::OwnFiles.Rename(from, to);
         };

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-// What the fields of random catalogues, and the filters asked about them, are chosen from.
+// The texts that random catalogues and filters choose from.
 
 inline constexpr int LargestID = 9;
 
@@ -38,11 +38,11 @@ inline constexpr std::string_view OddTexts[] = {"\t",       "\x7f", "\xC2\x81", 
                                                 "ß",        "€",    "a\nb",     "›",        "dž",       "Dž",
                                                 "\xC2\xAD", "qwxy", "'",        ",",        "\"\""};
 
-// What words are made of to try the alphabet's order.
+// The parts of words that test the alphabetical order.
 inline constexpr std::string_view Syllables[] = {"l", "j", "n", "z", "d", "ž", "L", "J", "N", "Ž",
                                                  "a", "č", "ć", "đ", "Đ", "š", "s", " ", "1", "-"};
 
-/// A character beyond ASCII that windows-1250 has, most of them letters.
+/// A random character of windows-1250 beyond ASCII, mostly a letter.
 inline std::string ForeignLetter(Chance& chance)
 {
     return FromWindows1250(std::string(1, static_cast<char>(chance.Between(0x80, 0xFF))));

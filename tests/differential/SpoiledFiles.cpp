@@ -84,7 +84,7 @@ const Change Changes[] = {
     },
     [](const std::string& bytes, Chance& chance)
     { return bytes.substr(0, chance.Below(bytes.size() + 1)) + '\0' + bytes; },
-    // Quotes: where they are needed, everywhere, around what they would hold together.
+    // Quotes: where needed, everywhere, or around several fields.
     [](const std::string& bytes, Chance&)
     {
         return WithFields(bytes, [](const std::string& field)

@@ -2,6 +2,6 @@
 
 #include "differential/RandomCatalogue.h"
 
-/// The files with a few of them spoiled as editors and spreadsheets do it: line ends, letters, quotes, rows
-/// of separators, headers. A fifth stays as it is.
+/// The files, some of them spoiled as editors and spreadsheets do: line ends, letters, quotes, rows of
+/// separators, headers. A fifth of the catalogues stays unchanged.
 CatalogueFiles Spoiled(CatalogueFiles files, Chance& chance);

@@ -4,7 +4,7 @@
 It works from the rules alone and shares nothing with the program:
 
 - The catalogue export has a line per course, in table order. Its holders are those of the first three link
-  rows of the course, by place, whatever their role.
+  rows of the course, by place, in any role.
 - The semester statistics count a course once for every direction it is linked to; with a direction filter
   once if it is linked to that one. Every type but "obvezni" is elective. Diplomski has 4 semesters, any other
   level 6. The totals follow the semesters.

@@ -3,12 +3,12 @@
 
 It works from the rules alone and shares nothing with the program:
 
-- A lecturer's load is that of every course a link row names, once per link row and whatever the role. A
+- A lecturer's load is that of every course in a link row, once per link row and for any role. A
   department's load is that of its lecturers: the department that the lecturer's row names.
 - Semesters outside 1 to 6 do not count. For a lecturer every type but "obvezni" is elective; for a department
   a course whose type is neither word does not count.
-- Each takes 16 lines: per semester the compulsory and the elective sums, then three totals, then an empty
-  line. The totals are worded differently in the two files.
+- Each has 16 lines: per semester the compulsory and the elective sums, then three totals, then an empty
+  line. The names of the totals differ between the two files.
 
     tests/expected/make_load_exports.py [FOLDER]    writes the files to FOLDER, by default to its own
 """

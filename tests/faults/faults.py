@@ -1,4 +1,4 @@
-"""What the tests of faults share: a catalogue before and after an edit, and the scripted program."""
+"""Shared by the tests of faults: a catalogue before and after an edit, and the scripted program."""
 
 import getpass
 import os
@@ -25,7 +25,7 @@ NATIVE_PROGRAM = ROOT / "build" / "native" / "scripted_program"
 
 
 def on_a_display():
-    """Begins anew on a display of its own where there is none."""
+    """Restarts this script on a virtual display if there is no display."""
     os.environ.pop("WAYLAND_DISPLAY", None)
     if not os.environ.get("DISPLAY"):
         command = '. tools/common.sh; on_virtual_display "$@"'
@@ -73,7 +73,7 @@ class Catalogue:
         self.new = as_files(rows(courses, seed, 1 + edit * courses))
 
     def write(self, folder, marked=False):
-        """Puts the old files, and nothing else, into a folder; marked: as UTF-8 with its mark."""
+        """Makes a folder hold the old files and nothing else; marked: in UTF-8 with the mark."""
         files = self.old
         if marked:
             files = {name: b"\xEF\xBB\xBF" + data.decode("cp1250").encode() for name, data in files.items()}
@@ -88,7 +88,7 @@ class Catalogue:
         return "new" if files == self.new else "old" if files == self.old else "mixed"
 
     def is_kept(self, program, which):
-        """Whether a folder of "kopije" holds this catalogue ("old" or "new") whole."""
+        """True if a folder of "kopije" holds this whole catalogue ("old" or "new")."""
         copies = program.data / "kopije"
         return copies.is_dir() and any(self.state(copy) == which for copy in copies.iterdir()
                                        if not copy.name.endswith(".dio"))
@@ -102,7 +102,7 @@ def replace_folder(folder, files):
 
 
 class Program:
-    """The scripted program with a data folder of its own; under Wine where `windows` is true."""
+    """The scripted program with its own data folder; under Wine if `windows` is true."""
 
     def __init__(self, executable, windows=False, base=None):
         self.executable = Path(executable).resolve()
@@ -135,7 +135,7 @@ class Program:
             shutil.rmtree(self.own_base, ignore_errors=True)
 
     def start(self, leave_by="exit", **more):
-        """Starts the program; it leaves by its button or its close box at once."""
+        """Starts the program; it ends at once by its button or its close box."""
         env = dict(os.environ, LOCALAPPDATA=str(self.base), VARLO_LEAVE_BY=leave_by, NO_AT_BRIDGE="1",
                    LC_ALL="C.UTF-8", **more)
         command = ["wine", self.executable] if self.windows else [self.executable]
@@ -143,7 +143,7 @@ class Program:
                                 stdin=subprocess.DEVNULL, cwd=self.executable.parent)
 
     def run(self, leave_by="exit", limit=120, **more):
-        """Lets the program run to its end; its exit code and what its message boxes said."""
+        """Waits for the program's end; returns its exit code and its message boxes."""
         process = self.start(leave_by, **more)
         try:
             output, _ = process.communicate(timeout=limit)

@@ -20,7 +20,7 @@ namespace
 
 const std::array<modData::Table*, 7> Tables = modData::AllTables();
 
-/// Stands between the files of an input: no text has it.
+/// The separator of the files in an input; no text contains it.
 constexpr char BetweenFiles = '\x01';
 
 const std::vector<CourseFilter>& Filters()
@@ -64,8 +64,7 @@ void ExportEverything(const TestFolder& folder)
     Succeeds([&] { ExportAllDepartments(path, {"Svi", "Ljetni"}); });
 }
 
-/// Adds the first course once more and deletes it; the program never does so with a catalogue that it could
-/// not number.
+/// Adds the first course again and deletes it. The program does not do that if it cannot number a course.
 void EditCourse()
 {
     Succeeds(
@@ -91,8 +90,8 @@ std::array<std::string, Tables.size()> FileContents(const TestFolder& folder)
 
 } // namespace
 
-/// The input is the seven files of a catalogue, a byte 1 between them: it is loaded, validated, shown,
-/// exported, edited, saved and loaded again.
+/// The input: the seven files of a catalogue with a byte 1 between them. The catalogue is loaded, validated,
+/// shown, exported, edited, saved and reloaded.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const TestFolder folder;

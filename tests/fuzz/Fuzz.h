@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
-// What the fuzz targets share. A target may end in a result or in one of the program's own errors; anything
-// else - a crash, a sanitizer's report, another exception, a broken promise - is a find.
+// Shared by the fuzz targets. A target ends in a result or in one of the program's own errors. Anything else
+// is a find: a crash, a sanitizer's report, another exception, or a broken promise.
 
-/// Ends the run as a find, with the promise that does not hold.
+/// Ends the run as a find, with the broken promise.
 inline void Promise(bool held, const char* promise)
 {
     if (held)
@@ -21,7 +21,7 @@ inline void Promise(bool held, const char* promise)
     std::abort();
 }
 
-/// Runs a step that may end in one of the program's own errors; returns whether it did not.
+/// Runs a step that may end in one of the program's own errors; true if it did not.
 template<typename Step>
 bool Succeeds(const Step& step)
 {
@@ -43,7 +43,7 @@ inline std::string_view TextOf(const std::uint8_t* data, std::size_t size)
     return {reinterpret_cast<const char*>(data), size};
 }
 
-/// The parts of the input between the bytes that separate them; always `count`, the missing ones empty.
+/// The parts of the input between separator bytes; always `count`, missing ones are empty.
 inline std::vector<std::string_view> PartsOf(std::string_view input, char separator, std::size_t count)
 {
     std::vector<std::string_view> parts(count);

@@ -23,7 +23,7 @@ bool SameFields(const modData::Row& a, const modData::Row& b)
 
 } // namespace
 
-/// The input is a table file: it is brought to windows-1250 and loaded, saved, and loaded again.
+/// The input: a table's file. It is converted and loaded, saved, and reloaded.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const TestFolder folder;
@@ -39,8 +39,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             }))
         return 0;
 
-    // Leading empty fields leave no separator, and a row of such fields alone leaves a blank line, which is
-    // passed over: so it is the second copy that must come back as it was saved.
+    // Leading empty fields get no separators, so a row of only empty fields becomes a blank line, which is
+    // skipped. Therefore only the second save must equal the first.
     const auto saveAndLoad = [&](const modData::Table& table)
     {
         modData::SaveTable(path, Layout.Header(), table);

@@ -35,7 +35,7 @@ void CheckField(std::string_view text, std::string_view separator)
     {
         const std::string shown = FormatFixed(value, pattern, separator);
         Promise(std::isfinite(ReadNumber(shown, separator)), "what is shown can be read");
-        // A value counts with 15 digits, which leaves one of this size six decimals.
+        // 15 digits of a value count, so a value of this size has six decimals.
         Promise(std::abs(value) > 1e9 || std::abs(ReadNumber(shown, separator) - value) <= 0.050001,
                 "what is shown is the number, rounded");
     }
@@ -43,7 +43,7 @@ void CheckField(std::string_view text, std::string_view separator)
 
 } // namespace
 
-/// The input is a field's text, read as whole number and as a figure of the calculator.
+/// The input: a field's text, read as a whole number and as a figure of the calculator.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view text = TextOf(data, size);

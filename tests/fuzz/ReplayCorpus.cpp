@@ -1,8 +1,8 @@
 #include "fuzz/Fuzz.h"
 #include "support/TestFolder.h"
 
-// Stands in for the fuzzer where there is none: runs a target with every file of the folders that it is
-// given, so that what was once found stays mended.
+// Replaces the fuzzer if there is none: runs a target with every file of the given folders, so that old finds
+// stay fixed.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -13,7 +13,7 @@ int main(int argc, char** argv)
     {
         for (const std::string& name : EntriesOf(argv[i]))
         {
-            std::fprintf(stderr, "%s\n", name.c_str()); // the last one named is the one that failed
+            std::fprintf(stderr, "%s\n", name.c_str()); // the last name printed is the one that failed
             const std::string input = ReadBytes(std::filesystem::path(argv[i]) / name);
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
             ++count;

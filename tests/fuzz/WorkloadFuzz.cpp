@@ -7,7 +7,7 @@
 namespace
 {
 
-/// Every field that the user types in, one line of the input each.
+/// Every field that the user types in, each from one line of the input.
 std::vector<std::string*> TypedFields(WorkloadFields& fields)
 {
     std::vector<std::string*> typed = {&fields.NazivKolegija, &fields.Nositelj,        &fields.Komentar,
@@ -25,7 +25,7 @@ std::vector<std::string*> TypedFields(WorkloadFields& fields)
 
 } // namespace
 
-/// The input is a byte of choices, then the texts of the calculator's fields, one a line.
+/// The input: a byte of choices, then the texts of the calculator's fields, one per line.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     if (size == 0)

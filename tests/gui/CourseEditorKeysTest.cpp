@@ -10,8 +10,7 @@
 namespace
 {
 
-/// Presses a key in a control and gives the dialog the time to close; some systems show its button pressed
-/// for a moment first.
+/// Presses a key in a control and waits for the dialog to close; some systems first show its button pressed.
 void PressClosingKey(frmKolegij* editor, const char* control, int key)
 {
     PressKey(Find<wxWindow>(editor, control), key);
@@ -79,7 +78,7 @@ class KeyLog
 public:
     KeyLog(frmKolegij* editor, int key) : m_editor(editor)
     {
-        // What has the focus is not always what the toolkit knows to have it; what gets a key is.
+        // The control that gets a key is not always the one that the toolkit reports as focused.
         editor->Bind(wxEVT_CHAR_HOOK,
                      [this, key](wxKeyEvent& event)
                      {
@@ -97,7 +96,7 @@ private:
         while (window != nullptr && window->GetParent() != m_editor)
             window = window->GetParent();
         if (window == nullptr)
-            return; // the arrow of a list that drops down, on some systems
+            return; // on some systems, the arrow of a drop-down list
         const std::string name = window->GetName().utf8_string();
         if (m_names.empty() || m_names.back() != name)
             m_names.push_back(name);
@@ -143,7 +142,7 @@ TEST_F(CourseEditor, TabFollowsTheLayout)
                 const wxRect former = Find<wxWindow>(editor, layout[i - 1])->GetScreenRect();
                 const wxRect next = Find<wxWindow>(editor, layout[i])->GetScreenRect();
                 EXPECT_TRUE(next.GetLeft() > former.GetRight() || next.GetTop() > former.GetBottom())
-                    << layout[i] << " stands neither right of " << layout[i - 1] << " nor below it";
+                    << layout[i] << " is neither right of " << layout[i - 1] << " nor below it";
             }
         });
 }
@@ -178,7 +177,7 @@ TEST_F(CourseEditor, WalkingThroughTheListsSelectsNothing)
         [](frmKolegij* editor)
         {
             Focus(Find<wxWindow>(editor, "txtECTS"));
-            for (int stops = 0; stops < 9; ++stops) // past the last list, wherever drop-down lists stop twice
+            for (int stops = 0; stops < 9; ++stops) // past the last list, also with two stops per list
             {
                 wxUIActionSimulator().Char(WXK_TAB);
                 Settle();

@@ -1,4 +1,4 @@
-// How the course editor opens: for a new course and for each kind of course that a catalogue may hold.
+// How the course editor opens: for a new course, and for each kind of course that a catalogue may have.
 
 #include "data/modData.h"
 #include "support/CourseEditor.h"
@@ -304,7 +304,7 @@ TEST_F(CourseEditor, ACourseThatIsGoneOpensAnEmptyFormAndIsAppended)
     EXPECT_EQ(LinesOf(modData::KolegijSmjerovi), (Texts{"1;1", "1;2", "3;3", "4;4", "2;2"}));
 }
 
-// Ways in
+// Ways to open it
 
 TEST_F(CourseEditor, OpensForANewCourseByButtonAndKeys)
 {

@@ -1,4 +1,4 @@
-// The course editor at work: what follows a choice, what is checked, and what is saved.
+// The course editor in use: the effects of choices, the checks, and the saved rows.
 
 #include "support/CourseEditor.h"
 #include "data/modData.h"
@@ -191,7 +191,7 @@ TEST_F(CourseEditor, AChangedCourseKeepsItsPlaceAndID)
                                [](frmKolegij* editor)
                                {
                                    SetText(editor, "txtNaziv", "Drveni alati");
-                                   Select(editor, "lstSmjerovi", "OPC"); // beside the one that is selected
+                                   Select(editor, "lstSmjerovi", "OPC"); // in addition to the selected one
                                    Save(editor);
                                });
     EXPECT_EQ(end, EditorEnd::Closed);

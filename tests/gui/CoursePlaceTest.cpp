@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-// What a refresh of the course list does with the selected course and with its place on the screen.
+// The selected course and its place on the screen after a refresh.
 
 namespace
 {
@@ -20,7 +20,7 @@ void SaveByEnter(frmKolegij* editor)
 {
     FillValid(editor);
     PressKey(Find<wxWindow>(editor, "txtP"), WXK_RETURN);
-    WaitUntil([&] { return !editor->IsShown(); }); // a button shows that it is pressed for a moment
+    WaitUntil([&] { return !editor->IsShown(); }); // a button is shown pressed for a moment
 }
 
 /// A hundred courses in the study "LOR"; every second one is an elective in semester 2.
@@ -44,12 +44,12 @@ protected:
     {
         Catalogue catalogue = SmallCatalogue();
         catalogue.Kolegiji = courses;
-        const MessageAnswers answers; // courses of equal IDs are not valid
+        const MessageAnswers answers; // equal IDs are not valid
         Open(catalogue);
     }
 
-    /// Selects a course in the middle of a page, as the keys do: far enough from the end of the list that
-    /// half of the rows, on a higher page, can still have it in the same place.
+    /// Selects a course in the middle of a page by keys. It is so far from the end of the list that with half
+    /// of the rows, on a higher page, it can still have the same place.
     void GoToMiddle()
     {
         ClickRow(Kolegiji(), 2);
@@ -72,7 +72,7 @@ protected:
         return cell.height > 0 && InnerList(Kolegiji())->GetScreenRect().Contains(cell);
     }
 
-    /// Does something that refreshes the list; the selected course is the same then, in the same place.
+    /// Does something that refreshes the list; checks that the same course is selected, in the same place.
     void ExpectKept(const std::function<void()>& refresh)
     {
         const std::string course = Selected();

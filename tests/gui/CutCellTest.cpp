@@ -28,7 +28,7 @@ protected:
         Open(catalogue);
     }
 
-    /// Moves the pointer to a cell, a little each time, as a hand does.
+    /// Moves the pointer to a cell in small steps, as a hand does.
     void PointAt(int row, int column)
     {
         const wxPoint place = MiddleOf(CellPlace(Kolegiji(), row, column));
@@ -58,7 +58,7 @@ TEST_F(CutCells, EndInThreeDots)
     while (right > 0 && !hasInk(right, 0, cell.GetHeight()))
         --right;
     ASSERT_GT(right, cell.GetWidth() / 2) << "the text fills its column";
-    constexpr int dots = 5; // pixels, which the last dots take at least
+    constexpr int dots = 5; // pixels, the smallest width of the three dots
     for (int x = right - dots; x <= right; ++x)
         EXPECT_FALSE(hasInk(x, 0, cell.GetHeight() / 2)) << "a letter's upper half";
 }

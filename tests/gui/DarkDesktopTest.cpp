@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
-// Coloured texts on a dark background, as they are on the screen.
+// Coloured texts on a dark background, on the screen.
 
 namespace
 {
@@ -26,8 +26,8 @@ double Luminance(const wxImage& picture, int x, int y)
            0.0722 * Linear(picture.GetBlue(x, y));
 }
 
-/// The contrast of the lightest to the darkest point of a part of the screen: 1 when they are equal, 21 from
-/// black to white. The eye needs 4.5 to read.
+/// The contrast between the lightest and the darkest point of a part of the screen: 1 if they are equal, 21
+/// for black and white. Readable text needs 4.5.
 double ContrastAt(const wxRect& place)
 {
     const wxImage picture = ScreenPicture(place);

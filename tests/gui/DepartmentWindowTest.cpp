@@ -282,7 +282,7 @@ TEST_F(DepartmentWindow, TheMainWindowsCloseBoxClosesItToo)
     EXPECT_EQ(TakeUncaughtError(), "");
 }
 
-// Beside an edit in the main window
+// After an edit in the main window
 
 TEST_F(DepartmentWindow, ChoosingWhatIsChosenShowsTheTablesAsTheyAreNow)
 {
@@ -315,7 +315,7 @@ TEST_F(DepartmentWindow, APressThatIsReleasedOnAnotherEntryIsOneChoice)
     mouse.MouseMove(first);
     Settle();
     mouse.MouseDown();
-    mouse.MouseMove(first + wxPoint(0, -100)); // off the list: taken back
+    mouse.MouseMove(first + wxPoint(0, -100)); // outside the list: not a choice
     Settle();
     mouse.MouseUp();
     Settle();

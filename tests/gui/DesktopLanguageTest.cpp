@@ -1,4 +1,4 @@
-// The whole program on a Croatian desktop. Windows shows its dialogs in its own language without the program.
+// The whole program on a Croatian desktop. Windows shows its own dialogs in its language by itself.
 
 #ifndef _WIN32
 
@@ -12,15 +12,14 @@
 namespace
 {
 
-/// While it lives, programs that this one starts run in a Croatian locale, made for them where the system has
-/// none.
+/// While it lives, programs that this one starts run in a Croatian locale; it is made if the system has none.
 class CroatianDesktop
 {
 public:
     explicit CroatianDesktop(const std::filesystem::path& folder)
     {
         const std::string target = (folder / "hr_HR.UTF-8").string();
-        // Warnings of the source are no failure.
+        // Warnings about the locale's source are no failure.
         wxExecute("localedef --no-archive --force -i hr_HR -f UTF-8 " + target, wxEXEC_SYNC);
         if (!std::filesystem::exists(target + "/LC_MESSAGES"))
             throw std::runtime_error("localedef has not made hr_HR.UTF-8; it needs the package locales");

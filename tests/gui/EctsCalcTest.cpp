@@ -40,7 +40,7 @@ const char* const Inputs[] = {
     "txtOstaleMetode(9)",
 };
 
-/// Each output, and what it shows before anything is entered.
+/// Each output, and its text before anything is entered.
 const std::pair<const char*, const char*> Outputs[] = {
     {"txtKontaktniUkupno(3)", "0,0"}, {"txtSamostalniUkupno(3)", "0,0"}, {"txtLitIzracun(0)", "0,0"},
     {"txtLitIzracun(1)", "0,0"},      {"txtLitIzracun(2)", "0,0"},       {"txtLitIzracun(3)", "0,0"},
@@ -49,7 +49,7 @@ const std::pair<const char*, const char*> Outputs[] = {
     {"txtUkupnoOpter(3)", "0,00"},    {"txtUkupnoOpter(4)", "0,00"},
 };
 
-/// A figure as this system's user sees it: the comma stands for the system's own separator.
+/// A figure in this system's format: "," is replaced by the system's separator.
 std::string Figure(std::string text)
 {
     const std::size_t comma = text.find(',');
@@ -63,7 +63,7 @@ void PressHere(int keyCode, int modifiers = 0)
     Settle();
 }
 
-/// Presses Alt with a letter. Some systems show the button pressed for a quarter of a second first.
+/// Presses Alt with a letter. Some systems first show the button pressed for a quarter of a second.
 void PressAccessKey(char letter)
 {
     PressHere(letter, wxMOD_ALT);
@@ -104,7 +104,7 @@ protected:
     wxColour WarningColour() { return Find<wxStaticText>(Window, "lblUpozorenje")->GetForegroundColour(); }
     bool Enabled(const wxString& name) { return Field(name)->IsEnabled(); }
 
-    /// Types into a box after what is there, and stays in it.
+    /// Types at the end of a box, and stays in it.
     void TypeInto(wxTextCtrl* box, const char* text)
     {
         box->SetInsertionPointEnd();
@@ -112,8 +112,8 @@ protected:
     }
     void TypeInto(const wxString& name, const char* text) { TypeInto(Field(name), text); }
 
-    /// Turns to a box with the mouse, in whichever window it is. Where there is no window manager, a click
-    /// alone turns to no other window.
+    /// Activates a box with the mouse, in any window. Without a window manager a click alone does not switch
+    /// windows.
     void TurnTo(wxTextCtrl* box)
     {
         wxGetTopLevelParent(box)->Raise();
@@ -132,14 +132,14 @@ protected:
         PressKey(Field(name), WXK_TAB);
     }
 
-    /// Replaces what a field holds and computes the figures.
+    /// Replaces a field's text and computes the figures.
     void Set(const wxString& name, const char* text)
     {
         Field(name)->ChangeValue(text);
         Press(Window, "cmdIzracunaj");
     }
 
-    /// Selects an option as the mouse does, the event included.
+    /// Selects an option as the mouse does, with its event.
     void Select(const wxString& name)
     {
         auto* option = Find<wxRadioButton>(Window, name);
@@ -177,7 +177,7 @@ protected:
         EXPECT_EQ(WarningColour(), RedColour);
     }
 
-    /// The captions that stand in a frame, in tab order.
+    /// The captions in a frame, in tab order.
     Texts LabelsIn(const char* frame)
     {
         const wxRect place = Find<wxStaticBox>(Window, frame)->GetScreenRect();
@@ -362,7 +362,7 @@ TEST_F(EctsCalc, LeavesSelfStudyHoursThatWereEntered)
 
 TEST_F(EctsCalc, TurningToAnotherWindowIsNotLeavingAField)
 {
-    const wxPoint corner(wxGetDisplaySize().x - 320, 0); // off the contact hours
+    const wxPoint corner(wxGetDisplaySize().x - 320, 0); // away from the contact hours
     auto* other = new wxFrame(nullptr, wxID_ANY, "other", corner, wxSize(320, 120));
     auto* elsewhere = new wxTextCtrl(other, wxID_ANY);
     other->Show();
@@ -379,7 +379,7 @@ TEST_F(EctsCalc, TurningToAnotherWindowIsNotLeavingAField)
     EXPECT_EQ(Shown("txtKontaktniSati(0)"), "30");
     EXPECT_EQ(Shown("txtSamostalniSati(0)"), Figure("15,0"));
 
-    // Back to another field than the one that had the focus: that is leaving it.
+    // Return to another field than the focused one: that leaves the field.
     TurnTo("txtKontaktniSati(1)");
     TypeInto("txtKontaktniSati(1)", "10");
     TurnTo(elsewhere);
@@ -612,7 +612,7 @@ TEST_F(EctsCalc, ExportsWhatItShows)
     Field("txtOstaleMetode(8)")->ChangeValue("12,5");
     Select("optPismeniProcjena");
     WriteBytes(Folder.Path() / "report.csv", "an older report, longer than nothing");
-    // Changed after the last computation: the report has figures of now.
+    // Changed after the last computation: the report must have the new figures.
     Field("txtOstaleMetode(9)")->ChangeValue("1");
 
     const SaveAnswers save("  " + Folder.PathOf("report.csv") + " ");
@@ -675,9 +675,9 @@ TEST_F(EctsCalc, AFailedExportIsReportedAndLeavesAnOlderReport)
     EXPECT_EQ(FindOpen<frmECTSCalc>(), Window);
 }
 
-// The keyboard alone
+// Keyboard only
 
-/// Presses Tab until a control has the focus; the controls it came through are reported if it never does.
+/// Presses Tab until a control has the focus; if it never has, reports the controls on the way.
 void TabTo(const std::string& name)
 {
     std::string way;
@@ -743,7 +743,7 @@ TEST_F(EctsCalc, TabFollowsTheLayoutAndPassesOverTheFigures)
         PressHere(WXK_TAB);
         way.push_back(FocusedName());
     }
-    // Some systems do not tell that the focus is in a drop-down list.
+    // Some systems do not report the focus of a drop-down list.
     std::ranges::replace(way, "", "cbo1ECTS");
     EXPECT_EQ(way, expected);
 }

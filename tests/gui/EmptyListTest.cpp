@@ -11,13 +11,12 @@
 #include <functional>
 #include <string>
 
-// What an empty list says, as it is on the screen.
+// The text of an empty list on the screen.
 
 namespace
 {
 
-/// The rows' part of a list as it is on the screen, without its edges: the frame of the focus and the
-/// scroll bars.
+/// The area of a list's rows on the screen, without its edges, where the focus frame and the scroll bars are.
 wxImage PictureOf(const ListView* list)
 {
     wxRect place = InnerList(list)->GetScreenRect().Deflate(4);
@@ -33,7 +32,7 @@ int Brightness(const wxImage& picture, int x, int y)
     return (picture.GetRed(x, y) + picture.GetGreen(x, y) + picture.GetBlue(x, y)) / 3;
 }
 
-/// The part of a picture that differs clearly from its upper left corner; empty when none does.
+/// The part of a picture that differs clearly from its upper left corner; empty if none does.
 wxRect InkIn(const wxImage& picture)
 {
     constexpr int contrast = 60;
@@ -53,7 +52,7 @@ bool AreEqual(const wxImage& a, const wxImage& b)
     return a.GetSize() == b.GetSize() && std::equal(a.GetData(), a.GetData() + bytes, b.GetData());
 }
 
-/// Waits at most three seconds until a list's picture is as wanted: GTK paints when it is ready.
+/// Waits up to three seconds for a list's picture to meet a condition: GTK paints when it is ready.
 wxImage PictureOnce(const ListView* list, const std::function<bool(const wxImage&)>& isWanted)
 {
     wxImage picture = PictureOf(list);
@@ -97,7 +96,7 @@ TEST_F(ListsWithoutRows, TheCourseListSaysThatNoCoursePassesTheFilters)
     const wxImage rows = PictureOnce(list, isFull);
     Type(search, "nema ga");
     ExpectSays(list, "Nijedan kolegij ne odgovara filtrima.");
-    ClickAt(MiddleOf(InnerList(list)->GetScreenRect())); // the text is no row
+    ClickAt(MiddleOf(InnerList(list)->GetScreenRect())); // the text is not a row
     EXPECT_EQ(list->SelectedRow(), -1);
 
     Main->SetSize(Main->GetSize() - wxSize(100, 0));

@@ -1,4 +1,4 @@
-// The system asks the program to end: Linux, or a terminal, by a signal, Windows by messages.
+// The system asks the program to end: on Linux, or from a terminal, by a signal; on Windows by messages.
 
 #include "data/modData.h"
 #include "support/Catalogue.h"
@@ -68,7 +68,7 @@ class LeaveSignals : public EndOfSession
 protected:
     LeaveSignals() { [[maybe_unused]] static const bool isListening = (LeaveOnSignals(), true); }
 
-    /// Opens a dialog by a button; the signal comes when it is there.
+    /// Opens a dialog by a button; sends the signal when it is open.
     void SignalWhileOpen(const char* button)
     {
         const std::size_t courses = modData::Kolegiji.RowCount();

@@ -1,4 +1,4 @@
-// What becomes of an export's errors, whatever their type, and the name that the Save dialog makes of a typed
+// The handling of an export's errors of any type, and the file name that the Save dialog makes from a typed
 // one.
 
 #include "ui/controls/ExportCommand.h"

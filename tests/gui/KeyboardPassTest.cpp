@@ -1,5 +1,5 @@
-// One pass over every window with the keyboard alone: Tab, access keys, Enter, Escape, and where the focus is
-// after a command.
+// One pass over every window with the keyboard: Tab, access keys, Enter, Escape, and the focus after a
+// command.
 
 #include "support/EveryWindow.h"
 #include "support/KeyAnswer.h"
@@ -28,7 +28,7 @@ class Keyboard : public EveryWindowTest
 {
 };
 
-/// The control of a window that a window in it belongs to; null when it is none of them.
+/// The control of a window that contains a given window; null if none does.
 wxWindow* ControlWith(wxTopLevelWindow& window, wxWindow* inner)
 {
     const wxWindow* parent = ControlParent(window);
@@ -37,7 +37,7 @@ wxWindow* ControlWith(wxTopLevelWindow& window, wxWindow* inner)
     return inner;
 }
 
-/// The controls at which Tab should stop, in their own order: of a group of options the chosen one.
+/// The controls at which Tab should stop, in their order; of a group of options, the chosen one.
 std::vector<wxWindow*> TabStops(wxTopLevelWindow& window)
 {
     std::vector<wxWindow*> stops;
@@ -53,7 +53,7 @@ std::vector<wxWindow*> TabStops(wxTopLevelWindow& window)
     return stops;
 }
 
-/// The first of the tab stops of each kind.
+/// The first tab stop of each kind.
 std::vector<wxWindow*> KindsOfTabStops(wxTopLevelWindow& window)
 {
     std::vector<wxWindow*> kinds;
@@ -63,7 +63,8 @@ std::vector<wxWindow*> KindsOfTabStops(wxTopLevelWindow& window)
     return kinds;
 }
 
-/// The controls of a window that get key strokes, first to last, each once as long as the keys stay in it.
+/// The controls of a window that get keys while Tab is pressed, first to last, each once, until the keys
+/// leave the window.
 class KeyLog
 {
 public:
@@ -91,7 +92,7 @@ private:
     std::vector<wxWindow*> m_controls;
 };
 
-/// While it lives, notes the buttons pressed in a window, and nothing else comes of it.
+/// While it lives, records the buttons pressed in a window; their commands do not run.
 class ButtonLog
 {
 public:
@@ -114,8 +115,8 @@ public:
 
     const std::vector<wxButton*>& All() const { return m_buttons; }
 
-    /// The button pressed since the last call; empty when none was. Some systems show a button pressed for a
-    /// quarter of a second before they say so.
+    /// The button pressed since the last call; empty if none was. Some systems show a button pressed for a
+    /// quarter of a second before its event.
     std::string Take(long patience = 1000)
     {
         for (const wxStopWatch watch; m_names.empty() && watch.Time() < patience;)
@@ -137,7 +138,7 @@ private:
     Texts m_names;
 };
 
-/// The access key of a caption in upper case; 0 when it has none.
+/// The access key of a caption in upper case; 0 if it has none.
 char AccessKey(const wxWindow* control)
 {
     const wxString label = control->GetLabel();
@@ -153,7 +154,7 @@ std::string FocusName(wxTopLevelWindow& window)
     return control == nullptr ? "none" : control->GetName().utf8_string();
 }
 
-/// What a button looks like at its left edge, halfway down; its caption is further in.
+/// The picture of a button's left edge, halfway down; its caption is further in.
 std::vector<unsigned char> EdgeOf(const wxButton* button)
 {
     constexpr int width = 6;
@@ -162,7 +163,7 @@ std::vector<unsigned char> EdgeOf(const wxButton* button)
     return {pixels.GetData(), pixels.GetData() + 3 * width};
 }
 
-/// Waits for the focus to come to a control of a window; the control that has it in the end.
+/// Waits for the focus to come to a control of a window; returns the control that has it at the end.
 std::string FocusAfterAWhile(wxTopLevelWindow& window, const char* control)
 {
     for (const wxStopWatch watch; watch.Time() < 1000 && FocusName(window) != control;)
@@ -170,11 +171,11 @@ std::string FocusAfterAWhile(wxTopLevelWindow& window, const char* control)
     return FocusName(window);
 }
 
-/// The control that gets the keys: what has the focus is not always what the toolkit knows to have it.
+/// The control that gets the keys, which is not always the one that the toolkit reports as focused.
 std::string NameOfKeyReceiver(wxTopLevelWindow& window)
 {
     const KeyLog log(window);
-    wxUIActionSimulator().Char(WXK_F9); // which means nothing anywhere
+    wxUIActionSimulator().Char(WXK_F9); // has no meaning anywhere
     Settle();
     return log.Controls().empty() ? "none" : log.Controls().front()->GetName().utf8_string();
 }
@@ -192,11 +193,11 @@ TEST_F(Keyboard, TabGoesThroughEveryControlInReadingOrderAndBack)
                 const wxRect former = stops[i - 1]->GetScreenRect();
                 const wxRect next = stops[i]->GetScreenRect();
                 EXPECT_TRUE(next.GetLeft() > former.GetRight() || next.GetTop() > former.GetBottom())
-                    << stops[i]->GetName() << " stands neither right of " << stops[i - 1]->GetName()
+                    << stops[i]->GetName() << " is neither right of " << stops[i - 1]->GetName()
                     << " nor below it";
             }
             if (stops.size() < 2)
-                return; // the About box has its button alone
+                return; // the About box has only its button
             stops.push_back(stops.front());
             for (const int modifiers : {wxMOD_NONE, wxMOD_SHIFT})
             {
@@ -245,7 +246,7 @@ TEST_F(Keyboard, ACharacterTypedInAListDoesNothing)
         {
             if (auto* lecturers =
                     dynamic_cast<wxListBox*>(wxWindow::FindWindowByName("lstNastavnici", &window)))
-                Click(lecturers, 0); // whose courses fill the lists
+                Click(lecturers, 0); // the courses fill the lists
             const MessageAnswers none;
             for (wxWindow* control : ControlsOf(window))
             {
@@ -470,7 +471,7 @@ TEST_F(Keyboard, InTheOtherWindowsEnterInAFieldDoesNothing)
                      {
                          if (dynamic_cast<wxButton*>(stop) != nullptr ||
                              dynamic_cast<wxChoice*>(stop) != nullptr)
-                             continue; // which it presses or opens
+                             continue; // Enter presses or opens it
                          PressKey(stop, WXK_RETURN);
                          EXPECT_EQ(pressed.Take(0), "") << stop->GetName();
                          EXPECT_TRUE(window.IsShown()) << stop->GetName();
@@ -537,7 +538,7 @@ TEST_F(Keyboard, TheEditorsDefaultButtonIsDrawnAsOne)
     EXPECT_EQ(EdgeOf(Find<wxButton>(Main, "cmdAdd")), EdgeOf(Find<wxButton>(Main, "cmdDelete")));
 }
 
-// Where the focus is at first
+// The first focus
 
 TEST_F(Keyboard, TheStatisticsOpenWithTheFocusOnWhatIsChosenFirst)
 {
@@ -563,7 +564,7 @@ TEST_F(Keyboard, TheStatisticsOpenWithTheFocusOnWhatIsChosenFirst)
              });
 }
 
-// Where the focus is afterwards
+// The focus after a command
 
 TEST_F(Keyboard, AfterTheEditorTheFocusIsWhereItWasOpenedFrom)
 {

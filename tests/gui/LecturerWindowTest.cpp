@@ -159,7 +159,7 @@ TEST_F(LecturerWindow, AShorterListHasNoSelectionBeyondItsEnd)
     Click(Nastavnici(), "Anić Ana");
     Kolegiji()->SelectRow(1);
     Table()->SelectRow(14);
-    Settle(); // GTK scrolls to a selected row only then
+    Settle(); // GTK scrolls to a selected row only when idle
     Choose(Box("cboProgram"), "BEV");
     EXPECT_EQ(Kolegiji()->RowCount(), 0);
     EXPECT_EQ(Kolegiji()->SelectedRow(), -1);
@@ -350,7 +350,7 @@ TEST_F(LecturerWindow, TheFocusAndTheTabKeySelectNoLecturer)
     EXPECT_EQ(Table()->RowCount(), 15);
 }
 
-// Beside an edit in the main window
+// After an edit in the main window
 
 TEST_F(LecturerWindow, AClickOnTheSelectedLecturerShowsTheTablesAsTheyAreNow)
 {

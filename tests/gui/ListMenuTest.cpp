@@ -27,7 +27,7 @@ public:
     }
     ~MenuKey() override { m_window->Unbind(wxEVT_MENU_OPEN, &MenuKey::Opened, this); }
 
-    /// The menu's entries, the ones that cannot be chosen in brackets; a line between entries is empty.
+    /// The menu's entries; disabled ones are in brackets, a separator is empty.
     const Texts& Entries() const { return m_entries; }
 
 private:
@@ -38,7 +38,7 @@ private:
             const std::string text = item->GetItemLabelText().utf8_string();
             m_entries.push_back(item->IsEnabled() ? text : "[" + text + "]");
         }
-        constexpr int drawn = 300; // milliseconds, by which the menu is on the screen and takes keys
+        constexpr int drawn = 300; // milliseconds, for the menu to be on the screen and take keys
         StartOnce(drawn);
         event.Skip();
     }
@@ -56,7 +56,7 @@ constexpr int MenuKeyCode = WXK_WINDOWS_MENU;
 constexpr int MenuKeyCode = WXK_MENU;
 #endif
 
-/// What the clipboard has after the text that was put on it before; that one if nothing comes.
+/// The clipboard's text once it differs from the one put there before; that one if it never does.
 std::string CopiedOver(const std::string& former)
 {
     for (const wxStopWatch watch; TextOnClipboard() == former && watch.Time() < 2000;)
@@ -64,7 +64,7 @@ std::string CopiedOver(const std::string& former)
     return TextOnClipboard();
 }
 
-/// Lines as the system ends them.
+/// Lines with the system's line ends.
 std::string Lines(const Texts& lines)
 {
     std::string text;
@@ -81,7 +81,7 @@ void RightClick(const ListView* list, int row)
     Settle();
 }
 
-/// The shown texts of a row, as they are copied.
+/// The shown texts of a row, in the form of the copy.
 std::string RowLine(const ListView* list, int row)
 {
     std::string line = list->Text(row, 0);

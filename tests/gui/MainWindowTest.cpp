@@ -298,7 +298,7 @@ TEST_F(MainWindow, AListThatWasScrolledShowsItsNewRowsFromTheFirst)
     ClickRow(Kolegiji(), 3);
     PressKey(Kolegiji(), WXK_END);
     EXPECT_EQ(Kolegiji()->CellText(Kolegiji()->SelectedRow(), 0), "101");
-    Choose(Box("cboSemestar"), "1"); // which takes the selected course away
+    Choose(Box("cboSemestar"), "1"); // which hides the selected course
     EXPECT_EQ(Kolegiji()->RowCount(), 96);
     EXPECT_EQ(CellPlace(Kolegiji(), 0, 0), first);
     ClickAt(MiddleOf(first));
@@ -372,7 +372,7 @@ TEST_F(MainWindow, PaintedBetweenADeletionAndTheRefreshTheListIsBlank)
 {
     Open();
     ASSERT_EQ(ShownIDs(), (Texts{"1", "2", "5"}));
-    DeleteKolegij(4); // now the last row shown lies beyond the table
+    DeleteKolegij(4); // now the last shown row is beyond the table
     InnerList(Kolegiji())->Refresh();
     Settle();
     EXPECT_EQ(ColumnTexts(Kolegiji(), 1), (Texts{"", "", ""}));
@@ -495,7 +495,7 @@ TEST_F(MainWindow, AccessKeysWorkWhereverTheFocusIs)
         Focus(Find<wxWindow>(Window, focused));
         PressKey(Find<wxWindow>(Window, focused), 'I', wxMOD_ALT);
         for (int i = 0; i < 20 && !wxTopLevelWindows.empty(); ++i)
-            Settle(); // a button shows that it is pressed for a moment
+            Settle(); // a button is shown pressed for a moment
         EXPECT_TRUE(wxTopLevelWindows.empty()) << focused;
         CloseAllWindows();
     }

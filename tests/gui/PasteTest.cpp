@@ -1,4 +1,4 @@
-// Text from the clipboard in every box of every window.
+// Pasting into every box of every window.
 
 #include "support/Clipboard.h"
 #include "support/EveryWindow.h"
@@ -17,7 +17,7 @@ class Paste : public EveryWindowTest
 {
 };
 
-/// The boxes of a window that take one line of text.
+/// The one-line boxes of a window.
 std::vector<wxWindow*> OneLineBoxes(wxTopLevelWindow& window)
 {
     std::vector<wxWindow*> boxes;
@@ -36,7 +36,7 @@ std::string TextOf(wxWindow* box)
     return dynamic_cast<wxTextEntry&>(*box).GetValue().utf8_string();
 }
 
-/// Goes into a box, empties it, does what pastes into it, and waits for the text.
+/// Focuses a box, empties it, pastes in the given way, and waits for the text.
 template<typename Action>
 std::string Pasted(wxWindow* box, const Action& paste)
 {
@@ -57,7 +57,7 @@ TEST_F(Paste, EveryOneLineBoxTakesATextUpToItsFirstLineBreak)
             for (wxWindow* box : OneLineBoxes(window))
             {
                 names.insert(box->GetName().utf8_string());
-                box->Enable(); // some wait for an option
+                box->Enable(); // some are enabled by an option
                 for (const std::string breaks : {"\r\n", "\n", "\r"})
                 {
                     PutOnClipboard(std::string("Uvod u").append(breaks).append("žičano").append(breaks));
@@ -66,7 +66,7 @@ TEST_F(Paste, EveryOneLineBoxTakesATextUpToItsFirstLineBreak)
                 }
                 PutOnClipboard("Žičano i još");
                 EXPECT_EQ(Pasted(box, [box] { PressKey(box, 'V', wxMOD_CONTROL); }), "Žičano i još");
-                dynamic_cast<wxTextEntry&>(*box).SetValue(""); // a search would empty the list
+                dynamic_cast<wxTextEntry&>(*box).SetValue(""); // a search text would empty the list
             }
         });
     for (const char* name : {"txtSearch", "txtNaziv", "txtECTS", "cboObvezniIzborni", "txtNazivKolegija",
@@ -108,7 +108,7 @@ TEST_F(Paste, TheCommentTakesEveryLine)
 }
 
 #ifndef _WIN32
-// Where the middle button pastes what is marked in another window.
+// For systems on which the middle button pastes the text that is selected in another window.
 TEST_F(Paste, TheMiddleButtonPastesOneLineToo)
 {
     InWindow(EditorForm,

@@ -1,4 +1,4 @@
-// The whole program, started as the user starts it: what it reports, how it ends, and what it leaves on disk.
+// The whole program, started as a user starts it: its messages, its exit code, and its files.
 
 #include "data/Errors.h"
 #include "data/Files.h"

@@ -47,7 +47,7 @@ protected:
         return FindOpen<Window>();
     }
 
-    /// Exports by a button, the texts typed into the dialog one after another; what the boxes said.
+    /// Exports by a button; types the texts into the dialog one after another. Returns the message boxes.
     Texts Export(wxWindow* window, const char* button, Texts typed, int answer = wxID_YES)
     {
         SaveDialogKeys keys(std::move(typed));
@@ -101,7 +101,7 @@ TEST_F(RealSaveDialog, AsksBeforeItReplacesTheFileWithTheDefaultExtension)
     EXPECT_EQ(FilesWritten(), Texts{"k.csv"});
 }
 
-#ifndef _WIN32 // Wine's dialog ends the program at a path that is longer than a file's may be
+#ifndef _WIN32 // Wine's dialog ends the program for a path longer than the limit
 
 TEST_F(RealSaveDialog, RefusesANameThatIsTooLongAndAsksAgain)
 {
@@ -120,7 +120,7 @@ TEST_F(RealSaveDialog, RefusesANameThatItsEndingMakesTooLongAndAsksAgain)
 {
     const std::string longName = std::string(248, 'a') + ".txt";
 #ifdef _WIN32
-    const std::string longPath = "C:\\" + longName; // the whole path has a limit, too
+    const std::string longPath = "C:\\" + longName; // the whole path also has a limit
 #else
     const std::string longPath = "/tmp/" + longName;
 #endif
@@ -140,7 +140,7 @@ TEST_F(RealSaveDialog, RefusesAFolderThatIsMissingAndAsksAgain)
         File("nema") + std::string(1, std::filesystem::path::preferred_separator) + "z.csv";
     auto* window = Open<frmStatZavodi>("cmdStatZavodi");
     Texts said = Export(window, "cmdExportAllStat", {missing, File("z.csv")});
-#ifdef _WIN32 // GTK's dialog shows a message of its own
+#ifdef _WIN32 // GTK's dialog shows its own message
     ASSERT_EQ(said.size(), 2U);
     EXPECT_EQ(said[0], Refusal + ("Datoteka ili mapa nije pronađena: " + missing));
     said.erase(said.begin());
@@ -152,7 +152,7 @@ TEST_F(RealSaveDialog, RefusesAFolderThatIsMissingAndAsksAgain)
 
 TEST_F(RealSaveDialog, RefusesAFolderThatMayNotBeWrittenAndAsksAgain)
 {
-    // Not even root can make a file in the kernel's own folder.
+    // Even root cannot make a file in the kernel's folder.
 #ifdef _WIN32
     const std::string forbidden = "Z:\\proc\\n.csv";
 #else
@@ -219,7 +219,7 @@ TEST_F(RealSaveDialog, DoesNotOpenInALastFolderThatIsGone)
     EXPECT_EQ(FilesWritten(), Texts{"k.csv"});
 }
 
-// The calculator's report, whose dialog asks and checks nothing
+// The calculator's report; its dialog asks and checks nothing
 
 class RealReportDialog : public RealSaveDialog
 {

@@ -28,12 +28,12 @@ protected:
     Startup() { SmallCatalogue().WriteTo(Folder.Data()); }
     void TearDown() override { CloseAllWindows(); }
 
-    /// Shows a splash that waits for the test, however busy the machine is.
+    /// Shows a splash that stays until the test closes it, even on a busy machine.
     static frmSplash* ShowSplash(frmSplash* splash = new frmSplash(600'000))
     {
         splash->Show();
         Settle();
-        // A window manager would give the new window the keyboard; without one it goes by the mouse.
+        // A window manager gives a new window the keyboard; without one it follows the mouse.
         const wxRect place = splash->GetScreenRect();
         wxUIActionSimulator().MouseMove(place.GetPosition() + place.GetSize() / 2);
         splash->Raise();
@@ -41,7 +41,7 @@ protected:
         return splash;
     }
 
-    /// What is open: the splash window, and how many main windows.
+    /// What is open: the splash, and the number of main windows.
     static std::pair<bool, long> OpenWindows()
     {
         const auto isMain = [](wxWindow* window) { return dynamic_cast<frmMain*>(window) != nullptr; };
@@ -53,7 +53,7 @@ protected:
 
 using Open = std::pair<bool, long>;
 
-/// Rings once, after some milliseconds.
+/// A timer that fires once.
 class Alarm : private wxTimer
 {
 public:
@@ -79,7 +79,7 @@ TEST_F(Startup, TheSplashLeadsIntoTheMainWindowAfterASecond)
     };
     wxTheApp->Bind(wxEVT_SHOW, look);
     (new frmSplash)->Show();
-    // A timer that is due later goes off later, so that a busy machine delays both.
+    // A later timer fires later, so that a busy machine delays both.
     Open early;
     Open late;
     const Alarm before(500, [&] { early = OpenWindows(); });
@@ -125,7 +125,7 @@ TEST_F(Startup, TheMainWindowOpensOnceWhenAClickAndEscapeAndTheSecondComeTogethe
     frmSplash* splash = ShowSplash(new frmSplash);
     wxWindow* picture = Find<wxWindow>(splash, "Picture1");
     Focus(picture);
-    wxMilliSleep(1100); // the timer is due, and nothing has been dealt with
+    wxMilliSleep(1100); // the timer is due, and no event has been handled
     wxUIActionSimulator simulator;
     simulator.MouseClick();
     simulator.Char(WXK_ESCAPE);
@@ -218,7 +218,7 @@ TEST_F(AboutBox, ShowsTheCurrentYear)
             });
     };
     expectYear(wxDateTime::Now().GetYear());
-    for (const int year : {2031, 2032}) // the program was built in neither
+    for (const int year : {2031, 2032}) // the program was not built in either
     {
         SetYearSource([year] { return year; });
         expectYear(year);
@@ -256,7 +256,7 @@ TEST_F(AboutBox, IsSilentWhenTheSystemCannotOpenALink)
         {
             Click(Find<wxWindow>(&about, "lblWeb"));
             Click(Find<wxWindow>(&about, "lblEmail"));
-            wxLog::FlushActive(); // what was logged would be shown now
+            wxLog::FlushActive(); // shows logged messages now
             Settle();
             EXPECT_TRUE(about.IsModal());
         });
@@ -266,8 +266,7 @@ TEST_F(AboutBox, IsSilentWhenTheSystemCannotOpenALink)
 }
 
 #ifndef _WIN32
-/// The pointer that a window asks the display for: 0 for the usual one, else the display's number of the
-/// form.
+/// The pointer that a window sets: 0 for the usual one, else the display's number of its shape.
 int PointerOf(wxWindow* window)
 {
     void* surface = NativeFunction<void* (*)(void*)>("gtk_widget_get_window")(window->m_widget);
@@ -275,7 +274,7 @@ int PointerOf(wxWindow* window)
     return cursor == nullptr ? 0 : NativeFunction<int (*)(void*)>("gdk_cursor_get_cursor_type")(cursor);
 }
 
-// Windows shows its plain arrow either way.
+// On Windows the plain arrow is shown in both cases.
 TEST_F(AboutBox, ThePointerIsThePlainArrowOverTheLinksAndTheUsualOneBesideThem)
 {
     static constexpr int plainArrow = 68;

@@ -207,7 +207,7 @@ TEST_F(StatistikaPanel, IsEmptyBeforeTheWindowIsReady)
 {
     SmallCatalogue().Use();
     Window = new frmMain;
-    // Before that the tables are there and every way to a refresh is open.
+    // Here the tables are loaded, and everything that can cause a refresh is enabled.
     Find<wxTextCtrl>(Window, "txtSearch")->SetValue("a");
     EXPECT_EQ(Statistika()->RowCount(), 0);
     Window->ExportStatistika_SelectedToCSV(Folder.PathOf("s.csv"));
@@ -418,7 +418,7 @@ TEST_F(StatistikaPanel, WritesAnInvalidCatalogueToo)
 class FailingExport : public StatistikaPanel
 {
 protected:
-    /// Both exports to a path that cannot be written: each says so behind its prefix, and the program goes
+    /// Both exports to a path that cannot be written: each reports it after its prefix, and the program goes
     /// on.
     void ExpectFailures(const std::string& path, const std::string& description)
     {
@@ -457,7 +457,7 @@ protected:
     {
         EXPECT_EQ(ReadBytes(Folder.Path() / "older.csv"), "older");
         EXPECT_EQ(EntriesOf(Folder.Path()), (Texts{"Varlostudiji", "older.csv"}))
-            << "no temporary file stays behind";
+            << "no temporary file stays";
     }
 };
 
@@ -519,7 +519,7 @@ TEST_F(FailingExport, AFolderNameThatNoSystemTakes)
 }
 
 #ifndef _WIN32
-// Windows has no device that is always full, and lets files into a folder that is marked read-only.
+// Windows has no device that is always full, and allows new files in a read-only folder.
 
 TEST_F(FailingExport, AFullDevice)
 {
@@ -542,7 +542,7 @@ TEST_F(FailingExport, AReadOnlyFolder)
     ExpectOlderUnharmed();
 }
 #else
-// Elsewhere a file that another program has open may be replaced.
+// Other systems allow replacing a file that another program has open.
 
 TEST_F(FailingExport, AFileThatAnotherProgramHasLocked)
 {
@@ -558,7 +558,7 @@ TEST_F(FailingExport, AFileThatAnotherProgramHasLocked)
 }
 #endif
 
-// Faulty numbers: at start-up and exit they end the program, in an export they are told.
+// Faulty numbers: at start-up and exit they end the program, in an export they are reported.
 
 TEST_F(FailingExport, ATypeMismatchWhileTheDataAreChecked)
 {
@@ -608,7 +608,7 @@ TEST_F(FailingExport, ATypeMismatchInTheCatalogue)
     ExpectOlderUnharmed();
 }
 
-// The demo catalogue, against files that a script of its own made
+// The demo catalogue, compared with files from an independent script
 
 TEST_F(StatistikaPanel, TheDemoCatalogueGivesTheExpectedFiles)
 {

@@ -1,4 +1,5 @@
-// The exports of teaching load in the whole program: an error in writing ends it with the last report.
+// The exports of teaching load in the whole program: an error in writing ends it, with the message of the
+// last resort.
 
 #include "support/Catalogue.h"
 #include "support/ScriptedProgram.h"
@@ -8,14 +9,14 @@
 namespace
 {
 
-/// By the button that opens the window of load.
+/// The button that opens the window of teaching load.
 class TeachingLoadExportInProgram : public testing::TestWithParam<const char*>
 {
 protected:
     TeachingLoadExportInProgram()
     {
         SmallCatalogue().WriteTo(Folder.Data());
-        // A blank line, which saving drops: it tells whether the program has saved.
+        // A save drops a blank line: this shows whether the program has saved.
         WriteBytes(Folder.Data() / "db_zavod.csv", Unsaved);
     }
     ~TeachingLoadExportInProgram() override { SetEnvironment("VARLO_EXPORT_LOAD", ""); }

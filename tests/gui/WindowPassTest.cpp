@@ -1,4 +1,4 @@
-// One pass over every window: what a screen reader says, and whether all that is shown can be read.
+// One pass over every window: the names for screen readers, and whether everything can be read.
 
 #include "support/AccessibleName.h"
 #include "support/EveryWindow.h"
@@ -40,7 +40,7 @@ bool HasCaption(wxWindow* control)
            dynamic_cast<wxRadioButton*>(control) != nullptr;
 }
 
-/// A caption without the mark of its access key.
+/// A caption without the "&" of its access key.
 std::string Caption(const wxWindow* control)
 {
     return wxControl::RemoveMnemonics(control->GetLabel()).utf8_string();
@@ -131,13 +131,13 @@ TEST_F(EveryWindow, IsInSegoeUiWhereTheSystemHasIt)
 
 // Sizes
 
-/// Where a control stands in the window that holds it.
+/// The place of a control in its window.
 wxRect PlaceOf(wxWindow* control)
 {
     return {control->GetPosition(), control->GetSize()};
 }
 
-/// What a control needs to show all of its caption, line or chosen entry.
+/// The size that a control needs for its whole caption, line or chosen entry.
 wxSize NeedOf(wxWindow* control)
 {
     control->InvalidateBestSize();
@@ -151,7 +151,7 @@ wxSize NeedOf(wxWindow* control)
     return need;
 }
 
-/// Every control stands in its window, over no other, large enough for what it shows.
+/// Every control is inside its window, covers no other, and is large enough for its content.
 void ExpectReadable(wxTopLevelWindow& window)
 {
     wxWindow* parent = ControlParent(window);
@@ -165,13 +165,13 @@ void ExpectReadable(wxTopLevelWindow& window)
     {
         const std::string name = controls[i]->GetName().utf8_string() + " '" + Caption(controls[i]) + "'";
         const wxRect place = PlaceOf(controls[i]);
-        EXPECT_TRUE(whole.Contains(place)) << name << " stands outside";
+        EXPECT_TRUE(whole.Contains(place)) << name << " is outside";
         const wxSize need = NeedOf(controls[i]);
         EXPECT_GE(place.width, need.x) << name;
         EXPECT_GE(place.height, need.y) << name;
         for (std::size_t k = 0; k < i; ++k)
             EXPECT_FALSE(place.Intersects(PlaceOf(controls[k])))
-                << name << " stands over " << controls[k]->GetName();
+                << name << " covers " << controls[k]->GetName();
         if (const auto* list = dynamic_cast<ListView*>(controls[i]))
         {
             for (int column = 0; column < list->ColumnCount(); ++column)
@@ -191,7 +191,7 @@ struct SumsWindow
 constexpr SumsWindow SumsWindows[] = {
     {MainForm, "lvwStatistika"}, {LecturerForm, "lvwStat"}, {DepartmentForm, "lvwStatZavod"}};
 
-/// How many rows of a list are on the screen whole.
+/// The number of rows of a list that are wholly visible.
 int RowsInSight(const ListView* list)
 {
     const wxWindow* inner = list->GetChildren().front();
@@ -205,7 +205,7 @@ int RowsInSight(const ListView* list)
     return rows;
 }
 
-/// The height that a list leaves empty below its last row.
+/// The empty height below a list's last row.
 int EmptyBelow(const ListView* list)
 {
     return list->GetScreenRect().GetBottom() - CellPlace(list, list->RowCount() - 1, 0).GetBottom();
@@ -214,7 +214,7 @@ int EmptyBelow(const ListView* list)
 class EveryListOfSums : public EveryWindowTest
 {
 protected:
-    /// Opens each window with such a list, filled; runs a script with its courses and sums.
+    /// Opens each window with such lists, filled; runs a script with its courses and sums.
     void InEach(const std::function<void(wxTopLevelWindow&, ListView* courses, ListView* sums)>& script)
     {
         for (const SumsWindow& which : SumsWindows)
@@ -235,7 +235,7 @@ protected:
 
 TEST_F(EveryListOfSums, IsInSightWholeOnAScreenOf1366By768)
 {
-    constexpr int caption = 40; // of the window and what the desktop keeps for itself
+    constexpr int caption = 40; // of the window, and of the desktop's own bars
     InEach(
         [](wxTopLevelWindow& window, ListView* courses, ListView* sums)
         {
@@ -327,7 +327,7 @@ TEST_P(EveryWindowAtTextSize, FitsOnAScreenThatSuitsTheText)
     const TextScale scale(GetParam());
     wxSize screen = wxGetDisplaySize();
     if (GetParam() >= 200)
-        screen.IncTo(wxSize(1920, 1200)); // no user has such text on less
+        screen.IncTo(wxSize(1920, 1200)); // no user has such text on a smaller screen
     InEveryWindow(
         [&](wxTopLevelWindow& window)
         {
@@ -369,7 +369,7 @@ TEST_P(EveryWindowAtTextSize, KeepsRoomForASearchText)
     EXPECT_GE(search->GetSize().x, room);
 }
 
-// On Windows one size at a time: the session's.
+// On Windows only one size: that of the session.
 #ifdef _WIN32
 INSTANTIATE_TEST_SUITE_P(OfTheSession, EveryWindowAtTextSize, testing::Values(100),
                          testing::PrintToStringParamName());

@@ -1,4 +1,4 @@
-// What the user is told when a call on a file fails while the windows save and export.
+// The messages when an operation on a file fails while the windows save and export.
 
 #include "data/Files.h"
 #include "data/modData.h"
@@ -18,7 +18,7 @@
 namespace
 {
 
-/// The first operation of a kind fails, and what it ends in.
+/// The first operation of a kind fails; the result of that.
 struct WriteFault
 {
     FileOperation::Kind What;
@@ -38,7 +38,7 @@ constexpr WriteFault ExportFaults[] = {
     {FileOperation::Rename, "70", NotAllowed},
 };
 
-/// The place of the first operation of a kind among those that an action makes, from 1.
+/// The number, from 1, of the first operation of a kind among those of an action.
 template<typename Action>
 std::size_t PlaceOf(FileOperation::Kind what, Action action)
 {
@@ -67,8 +67,8 @@ protected:
 
     bool IsOld(const char* name) { return ReadBytes(Folder.Data() / name).ends_with("\r\n\r\n"); }
 
-    /// Leaves by `leave` with a disk that fills up in the set of files: the error goes uncaught, the window
-    /// says nothing of its own.
+    /// Leaves by `leave` with a disk that fills up while the set is written: the error is not caught, and the
+    /// window shows nothing.
     void ExpectSaveFailure(void (*leave)(frmMain*))
     {
         Open();
@@ -89,7 +89,7 @@ protected:
         EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
     }
 
-    /// Exports by a button with each fault, and hands what the user is told to `check`.
+    /// Exports by a button with each fault, and passes the message to `check`.
     template<typename Check>
     void FailExports(wxWindow* window, const char* button, Check check)
     {
@@ -118,7 +118,7 @@ protected:
         }
     }
 
-    /// An export that tells of its errors itself, and goes on.
+    /// An export that reports its errors itself and goes on.
     void ExpectTold(wxWindow* window, const char* button, const std::string& prefix, const char* title,
                     long icon)
     {

@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2034 # the tests use what is set here
-# What the tests of the packages share. To be sourced by a script that has gone to the repository's root.
+# Shared by the tests of the packages. A script sources it from the repository's root.
 
 export LC_ALL=C.UTF-8
 failures=0
@@ -26,7 +26,7 @@ window() {
 }
 no_window() { ! window "$1"; }
 
-# press KEY...: with nobody to manage the windows, the keys go where they are told to.
+# press KEY...: gives $window the focus first, since there is no window manager.
 press() {
     timeout 5 xdotool windowfocus "$window"
     sleep 0.3
@@ -34,7 +34,7 @@ press() {
     sleep 0.3
 }
 
-# summary: the last line of a test; fails when a check did.
+# summary: the last line of a test; fails if a check did.
 summary() {
     echo "# $failures failed"
     [[ $failures -eq 0 ]]

@@ -15,15 +15,15 @@
 #include <string_view>
 #include <vector>
 
-/// The program's work done the plainest way: the rules as nested loops over rows of text. Every look-up scans
-/// its table from the first row and converts each number that it passes; nothing is indexed, prepared or
-/// kept. It is what the program's answers are compared with, and what its speed is measured against, hence it
-/// shares nothing with it but the conversions of numbers and of windows-1250, the errors, the access to files
-/// and the shapes of arguments and results. Errors are the program's own, with the same texts.
+/// The program's work done in the simplest way: the rules as nested loops over rows of text. Every lookup
+/// scans its table from the first row and converts each number that it reads; there is no index and no cache.
+/// The program's answers and its speed are compared with it. So the two share only the conversions of numbers
+/// and of windows-1250, the errors with their texts, the access to files, and the types of arguments and
+/// results.
 namespace reference
 {
 
-/// What is fixed about a table: its file and its columns.
+/// The layout of a table: its file and its columns.
 struct Layout
 {
     std::string_view FileName;
@@ -34,7 +34,7 @@ struct Layout
 struct TextRow
 {
     std::vector<std::string> Fields;
-    std::size_t Line = 0; ///< In the file, from 1; 0 when no file holds the row.
+    std::size_t Line = 0; ///< In the file, from 1; 0 if no file holds the row.
 };
 
 /// A table: its rows in the order of the file.
@@ -64,14 +64,14 @@ struct Catalogue
 
 // Files
 
-/// Reads the seven files of a folder (no separator behind its name), which stay as they are; one with the
-/// UTF-8 mark is read as what it is turned into. @throws FileError, InputPastEnd
+/// Reads the seven files of a folder (no separator at its end); the files stay unchanged. A file with the
+/// UTF-8 mark is read as its conversion. @throws FileError, InputPastEnd
 Catalogue Load(std::string_view folder);
 
-/// The bytes that a file becomes before it is read: windows-1250, without the UTF-8 mark.
+/// The bytes of a file after its conversion: windows-1250, without the UTF-8 mark.
 std::string Normalized(std::string_view bytes);
 
-/// The bytes that each file is saved with, in the order of All().
+/// The bytes of each saved file, in the order of All().
 std::array<std::string, 7> SavedFiles(const Catalogue& catalogue);
 
 /// Writes the seven files, each in one step and flushed, as the program does. @throws FileError
@@ -86,9 +86,9 @@ void AddKolegij(Catalogue& catalogue, const CourseEntry& entry);
 void ReplaceKolegij(Catalogue& catalogue, std::int32_t id, const CourseEntry& entry);
 void DeleteKolegij(Catalogue& catalogue, std::int32_t id);
 
-// Reading. Each throws DataError.
+// Reading. Everything here throws DataError.
 
-/// The messages of all checks; none when the tables may be saved.
+/// The messages of all checks; none if the tables may be saved.
 std::vector<std::string> Validate(const Catalogue& catalogue);
 
 std::string GetSmjeroviKraticeString(const Catalogue& catalogue, std::int32_t kolegijID);
@@ -98,8 +98,8 @@ std::string GetNositelji123String(const Catalogue& catalogue, std::int32_t koleg
 /// The course list.
 std::vector<ListRow> CourseRows(const Catalogue& catalogue, const CourseFilter& filter);
 
-/// The rows as a click on a column's header shows them: by the Croatian order of the column's texts, equal
-/// ones as they stood.
+/// The rows after a click on a column's header: in the Croatian order of the column's texts; equal ones keep
+/// their order.
 std::vector<ListRow> SortedRows(std::vector<ListRow> rows, std::size_t column, bool descending);
 
 /// The semester sums of the main window.

@@ -26,8 +26,8 @@ constexpr LetterPair Letters[] = {
     {"ö", "Ö"}, {"ř", "Ř"}, {"ů", "Ů"}, {"ú", "Ú"}, {"ű", "Ű"}, {"ü", "Ü"}, {"ý", "Ý"}, {"ţ", "Ţ"},
 };
 
-// The Croatian alphabet with the foreign letters beside the ones that they are variants of; a letter written
-// with two characters comes before those that begin like it are tried.
+// The Croatian alphabet, with each foreign letter beside the one that it is a variant of. A letter of two
+// characters is tried before the letters that begin with the same character.
 struct AlphabetLetter
 {
     std::string_view Text;
@@ -45,7 +45,8 @@ constexpr AlphabetLetter Alphabet[] = {
     {"X", 31}, {"Y", 32},  {"Ý", 32},  {"Z", 33}, {"Ź", 33}, {"Ż", 33}, {"Ž", 34},
 };
 
-/// Where a character or letter stands: ASCII that is no letter, then the letters, then everything else.
+/// The place of a character or letter in the order: ASCII that is not a letter, then the letters, then
+/// everything else.
 struct Place
 {
     int Group;
@@ -64,7 +65,7 @@ Place TakePlace(std::string_view& text)
             text.remove_prefix(letter.Text.size());
             return {1, letter.Place};
         }
-    // A single byte will do: UTF-8 is in the order of the characters' codes.
+    // One byte is enough: UTF-8 keeps the order of the characters' codes.
     const int byte = static_cast<unsigned char>(text.front());
     text.remove_prefix(1);
     return {byte < 0x80 ? 0 : 2, byte};

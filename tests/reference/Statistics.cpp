@@ -103,7 +103,7 @@ std::int32_t Weight(const Catalogue& catalogue, std::int32_t kolegijID, std::int
     return count;
 }
 
-/// A course's hours, credits and itself, each read by `read`.
+/// What a course adds to the sums: hours, credits and 1, each read by `read`.
 template<typename Read>
 Sums SumsOf(const Read& read)
 {

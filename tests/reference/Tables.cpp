@@ -43,7 +43,7 @@ std::string PathOf(std::string_view folder, const TextTable& table)
     return std::string(folder).append(System::PathSeparator).append(table.Fixed->FileName);
 }
 
-/// The lines of a text: CR LF or CR ends one, and the last one needs no end.
+/// The lines of a text; CR LF or CR ends a line, and the last line may have no end.
 std::vector<std::string> Lines(const std::string& text)
 {
     std::vector<std::string> lines;
@@ -113,7 +113,7 @@ std::string SavedFile(const TextTable& table)
     return ToWindows1250(text);
 }
 
-/// Removes the rows with the number in the first field; none when one of them cannot be compared.
+/// Removes the rows with the number in the first field; none if one of them cannot be compared.
 void RemoveRows(TextTable& table, std::int32_t id)
 {
     std::vector<TextRow> kept;

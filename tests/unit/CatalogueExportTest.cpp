@@ -121,7 +121,7 @@ TEST(CatalogueExport, AnErrorLeavesTheOlderFileAsItWas)
     EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{"Varlostudiji", "k.csv"}));
 }
 
-// The demo catalogue, against a file that a script of its own made.
+// The demo catalogue, compared with a file from an independent script.
 
 TEST(CatalogueExport, TheDemoCatalogueGivesTheExpectedFile)
 {

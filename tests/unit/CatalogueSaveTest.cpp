@@ -1,4 +1,4 @@
-// The catalogue is saved whole or not at all, whatever fails and whenever the program ends.
+// The catalogue is saved whole or not at all, after any failure and any end of the program.
 
 #include "data/CatalogueSave.h"
 #include "data/DatedCopies.h"
@@ -40,7 +40,7 @@ struct Fault
 constexpr Fault Faults[] = {
     {After::AllIsWell, EACCES},
     {After::NothingWorks, EACCES},
-#ifndef _WIN32 // The operations are the same ones there, and under an emulator each of them is slow.
+#ifndef _WIN32 // There the operations are the same, and slow under an emulator.
     {After::AllIsWell, ENOSPC},
     {After::NothingIsGone, ENOSPC},
 #endif
@@ -75,7 +75,7 @@ protected:
     fs::path Kept(const std::string& name) const { return Folder.Data() / "kopije" / name; }
     fs::path Copy() const { return Kept("2026-11-21_143005"); }
 
-    /// A folder with the old catalogue and nothing else, and the new catalogue in memory.
+    /// Makes a folder with only the old catalogue, and the new catalogue in memory.
     void Prepare()
     {
         fs::remove_all(Folder.Data());
@@ -85,7 +85,7 @@ protected:
         RenumberedCatalogue().Use();
     }
 
-    /// Saves while an operation fails; whether that was reported.
+    /// Saves while an operation fails; true if that was reported.
     static bool SaveFails(std::size_t failing, const Fault& fault)
     {
         const WatchedFiles watched(failing, fault.Then, fault.Error);
@@ -100,7 +100,7 @@ protected:
         }
     }
 
-    /// The operations of a save in which all is well.
+    /// The operations of a save without failures.
     std::vector<FileOperation> GoodSave()
     {
         Prepare();
@@ -119,7 +119,7 @@ protected:
         return static_cast<std::size_t>(mark - operations.begin()) + 1;
     }
 
-    /// Starts the program; it must work on one whole catalogue and leave nothing unfinished.
+    /// Starts the program; it must load one whole catalogue and leave nothing unfinished.
     void ExpectWholeAfterStart(bool mustBeNew)
     {
         {
@@ -136,7 +136,7 @@ protected:
         EXPECT_TRUE(TemporaryFilesIn(Folder.Data()).empty());
     }
 
-    /// Ends a save when its set has just been marked complete.
+    /// Ends a save just after its set is marked complete.
     void LeaveCompleteSet()
     {
         const std::size_t mark = MarkIn(GoodSave());
@@ -285,7 +285,7 @@ TEST_F(CatalogueSaving, TheProgramMayEndAfterAnyOperation)
             EXPECT_EQ(Tables(Copy()), Old) << "no copy";
         }
         if (HasFailure())
-            return; // one is enough to read
+            return; // one failure is enough
     }
 }
 
@@ -369,7 +369,7 @@ TEST_F(CatalogueSaving, AFailureBeforeTheMarkNamesTheFileAndLeavesNoSet)
     EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
 }
 
-#ifndef _WIN32 // where no folder is read-only
+#ifndef _WIN32 // Windows has no read-only folders
 
 TEST_F(CatalogueSaving, AReadOnlyFolderIsRefusedEvenToRoot)
 {
@@ -397,7 +397,7 @@ protected:
             Hold(false);
     }
 
-    /// The description of the error that an action ends with because its save is not finished.
+    /// The description of the SaveNotFinished that an action ends with.
     std::string NotFinished(void (*action)())
     {
         try
@@ -547,7 +547,7 @@ TEST_F(CatalogueSaving, AMarkThatNamesNoCopyStillCompletesTheSet)
     }
 }
 
-// What an ended program has left
+// What a program that was ended has left
 
 TEST_F(CatalogueSaving, AStartRemovesOldTemporaryFilesAndNoOthers)
 {
@@ -586,7 +586,7 @@ TEST_F(CatalogueSaving, AStartWithoutALockRemovesNothing)
 class CatalogueLocks : public CatalogueSaving
 {
 protected:
-    /// Holds the lock for saving on a thread of its own while an action begins; the time that the action
+    /// Holds the lock for saving on another thread while an action begins; returns the time that the action
     /// took.
     template<typename Action>
     std::chrono::milliseconds TimeWhileLocked(Action action)

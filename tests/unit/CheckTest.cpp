@@ -16,7 +16,7 @@ namespace
 
 using Lines = std::vector<std::string>;
 
-/// The findings as lines, each with the first letter of its group before it: G, O or N.
+/// The findings as lines, each after the first letter of its group: G, O or N.
 Lines LinesOf(const Check::Findings& findings)
 {
     constexpr std::string_view groups = "GON";
@@ -27,7 +27,7 @@ Lines LinesOf(const Check::Findings& findings)
     return lines;
 }
 
-/// The small catalogue without the course that has no direction, which is worth a note.
+/// The small catalogue without the course that has no direction, which causes a note.
 Catalogue CleanCatalogue()
 {
     Catalogue catalogue = SmallCatalogue();
@@ -50,7 +50,7 @@ Lines With(void (*change)(Catalogue&))
     return FindingsIn(folder);
 }
 
-/// The findings in a clean catalogue of which one file's bytes are changed.
+/// The findings in a clean catalogue in which one file's bytes are changed.
 Lines WithFile(std::string_view name, const std::function<std::string(std::string)>& change)
 {
     const TestFolder folder;

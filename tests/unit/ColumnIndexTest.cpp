@@ -1,4 +1,4 @@
-// Searching by an index gives what reading the rows one by one gives, errors included.
+// A search by an index gives the same as reading the rows one by one, errors included.
 
 #include "data/Errors.h"
 #include "data/Table.h"
@@ -14,7 +14,7 @@ namespace
 
 constexpr std::size_t Column = KolegijSmjer::SmjerID;
 
-/// What a search finds, and the error that ends it, as text.
+/// The matches of a search, and the error that ends it, as text.
 template<typename Search>
 std::string Outcome(const Search& search)
 {
@@ -30,7 +30,7 @@ std::string Outcome(const Search& search)
     return found;
 }
 
-/// Reads every row, and stops behind the first match where only that is wanted.
+/// Reads every row; stops after the first match if only that is wanted.
 auto Scan(const modData::Table& table, std::int32_t number, Conversion conversion, bool stopAtMatch)
 {
     return [=, &table](const auto& visit)
@@ -46,7 +46,7 @@ auto Scan(const modData::Table& table, std::int32_t number, Conversion conversio
     };
 }
 
-/// Rows whose second field is mostly a number, in one of its forms, and sometimes none, or is missing.
+/// Rows whose second field is mostly a number, in one of its spellings; sometimes it is not, or is missing.
 modData::Table RandomTable(std::mt19937& random)
 {
     constexpr std::string_view values[] = {"0", "1",     "2",  "3", " 1 ", "01",          "2,0",

@@ -171,7 +171,7 @@ TEST(CourseEntryCheck, ALecturerHoldsACourseOnlyOnce)
     ExpectPasses(entry);
 }
 
-// With everything wrong each check is reached only when what it comes after is put right.
+// Everything is wrong at first; putting one error right leads to the next check.
 TEST(CourseEntryCheck, ChecksInAFixedOrder)
 {
     CourseEntry entry;

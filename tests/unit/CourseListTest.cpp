@@ -90,7 +90,7 @@ TEST(CourseList, DirectionsAreListedInLinkOrderAndTwiceWhenLinkedTwice)
     catalogue.KolegijSmjerovi = {"1;3", "1;99", "1;1", "1;3", "2;2", "2;1"};
     catalogue.Use();
     EXPECT_EQ(GetSmjeroviForKolegijString(1), "C, A, C");
-    EXPECT_EQ(GetSmjeroviForKolegijString(2), "A") << "nothing stands before it yet";
+    EXPECT_EQ(GetSmjeroviForKolegijString(2), "A") << "nothing is before it yet";
 }
 
 TEST(CourseList, LecturersOfAllRolesAreListedByPlace)
@@ -125,7 +125,7 @@ TEST(CourseList, ADirectionIsFoundAsANumber)
     Catalogue catalogue;
     catalogue.KolegijSmjerovi = {"1; 7", "1;7.0", "2;8", "1;x"};
     catalogue.Use();
-    EXPECT_TRUE(KolegijHasSmjer(1, 7)) << "the bad link stands behind the match";
+    EXPECT_TRUE(KolegijHasSmjer(1, 7)) << "the bad link is after the match";
     EXPECT_THROW(KolegijHasSmjer(1, 8), TypeMismatch);
     EXPECT_TRUE(KolegijHasSmjer(2, 8));
     EXPECT_FALSE(KolegijHasSmjer(2, 7));
@@ -229,7 +229,7 @@ TEST(CourseList, ACourseWithTooFewFieldsIsAnError)
     EXPECT_NO_THROW(CourseRows({.Semestar = 2})) << "the semester rules it out before";
 }
 
-/// The error that the list without filters ends in.
+/// The error of the list without filters.
 std::string ErrorOfAllRows(const Catalogue& catalogue)
 {
     catalogue.Use();

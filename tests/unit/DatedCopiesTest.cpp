@@ -1,4 +1,4 @@
-// The dated copies of the catalogue: their names, what they hold, and which of them stay.
+// The dated copies of the catalogue: their names, their content, and which of them stay.
 
 #include "data/DatedCopies.h"
 #include "data/Errors.h"
@@ -174,7 +174,7 @@ TEST_F(Copies, TheLastOfEachOfTheNewestThirtyDaysStay)
         for (const char* time : {"_080000", "_160000"})
             Make("2026-" + TwoDigits(day <= 20 ? 9 : 10) + "-" + TwoDigits((day - 1) % 20 + 1) + time);
     DatedCopies::Prune(Files, "2026-10-20_160000");
-    // The newest 30 are those of the last 15 days; the 15 days before them keep their last.
+    // The newest 30 copies are from the last 15 days; each of the 15 days before keeps its last copy.
     std::vector<std::string> expected;
     for (int day = 11; day <= 40; ++day)
     {

@@ -22,7 +22,7 @@ std::string Exported(const DepartmentFilter& filter = All)
     return ReadBytes(folder.Path() / "z.csv");
 }
 
-/// The lines of the file that count a course, without the totals of the types.
+/// The lines of the file that count a course, without the types' totals.
 Texts Counted(const DepartmentFilter& filter = All)
 {
     Texts lines = FileLines(Exported(filter));

@@ -39,7 +39,7 @@ Texts Counted(std::int32_t zavodID, const DepartmentFilter& filter = All)
     return lines;
 }
 
-/// The courses given, each linked once to the only lecturer of the department 2.
+/// Makes these courses; each is linked once to the only lecturer of department 2.
 Catalogue CoursesOfKemija(Catalogue::Lines kolegiji)
 {
     static constexpr std::array<std::string_view, 8> links = {

@@ -146,7 +146,7 @@ TEST(FormatFixed, RoundsEveryHalfOfATenthUp)
     }
 }
 
-/// A number, given by its digits and how many of them are decimals, as it is rounded on paper.
+/// A number, given by its digits and the number of decimals among them, rounded as on paper.
 std::string OnPaper(std::int64_t digits, int decimals, int shown)
 {
     for (; decimals < shown; ++decimals)
@@ -168,7 +168,7 @@ class RandomDigits
 public:
     int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(m_engine); }
 
-    /// A digit of the kind that many halves, and numbers just below and above one, are made of.
+    /// A digit that occurs in many halves and in numbers just below and above one.
     int Next()
     {
         constexpr int usual[] = {0, 0, 4, 5, 9, 9};

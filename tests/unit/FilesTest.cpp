@@ -1,4 +1,4 @@
-// Writing files: what fails leaves the old content whole and nothing beside it.
+// Writing files: a failure leaves the old content whole and no other file.
 
 #include "data/Files.h"
 #include "data/Errors.h"
@@ -208,8 +208,8 @@ TEST_F(Files, AFolderThatIsMarkedReadOnlyIsAnError)
 class Devices : public Files
 {
 protected:
-    /// A memory device of Linux by its minor number. Who could damage the system's own gets one of the
-    /// test's.
+    /// A memory device of Linux by its minor number. A user who could damage the system's own one gets a
+    /// device made by the test.
     std::string Device(const char* name, unsigned minorNumber)
     {
         if (::geteuid() != 0)
@@ -292,7 +292,7 @@ TEST_F(Files, ADiskThatFillsUpOnTheWayLeavesTheOldContent)
     WriteBytes(File, "old");
     const auto replaceWithinLimit = [&]
     {
-        const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN); // the write shall fail, not the process
+        const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN); // the write must fail, not the process
         rlimit former;
         ::getrlimit(RLIMIT_FSIZE, &former);
         const rlimit small = {100'000, former.rlim_max};
@@ -436,7 +436,7 @@ TEST_F(Files, AFileIsNotCreatedOverAnother)
     EXPECT_EQ(ReadBytes(File), "old");
 }
 
-// Bringing a file to windows-1250
+// Converting a file to windows-1250
 
 class Encoding : public Files
 {

@@ -23,7 +23,7 @@ std::string Exported(const LecturerFilter& filter = All)
     return ReadBytes(folder.Path() / "n.csv");
 }
 
-/// The lines of the file that count a course, without the totals of the types.
+/// The lines of the file that count a course, without the types' totals.
 Texts Counted(const LecturerFilter& filter = All)
 {
     Texts lines = FileLines(Exported(filter));
@@ -129,7 +129,7 @@ TEST(LecturerExport, TwoLecturersOfOneIDHaveABlockEach)
 class OneLecturersExport : public testing::Test
 {
 protected:
-    /// "N" with these courses, one link for each of the course IDs 1 to 4.
+    /// Lecturer "N" with these courses, one link for each of the course IDs 1 to 4.
     static void Use(Catalogue::Lines kolegiji)
     {
         Catalogue catalogue = SmallCatalogue();

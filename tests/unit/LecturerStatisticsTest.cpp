@@ -39,8 +39,8 @@ Texts Counted(std::int32_t nastavnikID, const LecturerFilter& filter = All)
     return lines;
 }
 
-/// Ana alone, with these courses, each linked to her once and of the study 1, which is "LOR" on the lower
-/// level, unless its line says otherwise.
+/// Only Ana, with these courses, each linked to her once. Their study is 1, "LOR" on the lower level, unless
+/// the line has another one.
 Catalogue CoursesOfAna(Catalogue::Lines kolegiji)
 {
     Catalogue catalogue = SmallCatalogue();

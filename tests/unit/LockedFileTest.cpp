@@ -1,4 +1,4 @@
-// Files that another program holds open and shares with nobody, as only Windows lets it.
+// Files that another program has open without sharing them; only Windows supports that.
 
 #ifdef _WIN32
 
@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-/// While it lives, a file is open elsewhere; shared with nobody, or with those who only read.
+/// While it lives, a file is open elsewhere: not shared, or shared only for reading.
 class Lock
 {
 public:
@@ -52,7 +52,7 @@ protected:
         modData::Studiji.Append({"9", "Novi", "N", "Diplomski"});
     }
 
-    /// Expects that an action ends with the error of a file that may not be touched.
+    /// Expects that an action ends with the error of a file that is in use.
     template<typename Error>
     void ExpectDenied(void (*action)())
     {
@@ -104,7 +104,7 @@ TEST_F(LockedFile, ThatIsReleasedSoonIsNotNoticed)
 {
     const fs::path successor = Folder.Data() / "successor";
     WriteBytes(successor,
-               "new"); // the replacement alone: writing a file takes long enough for the lock to go
+               "new"); // only the replacement: the time for writing a file is longer than the lock
     auto lock = std::make_unique<Lock>(File);
     std::thread other(
         [&]

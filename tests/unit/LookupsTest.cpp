@@ -97,7 +97,7 @@ TEST(Lookups, FewerHoldersLeaveTheirPlacesEmpty)
 
 TEST(Lookups, TheExchangesDecideTheOrderOfEqualPlaces)
 {
-    // 2A 2B 1C: C is exchanged with A, then B and A stand in that order.
+    // 2A 2B 1C: C and A are exchanged, so B is before A.
     UseLinks({"1;1;Nositelj;2", "1;2;Nositelj;2", "1;3;Nositelj;1"});
     EXPECT_EQ(GetNositeljiString(1), "C; B; A");
     EXPECT_EQ(NastavniciForKolegij(), "C1B2A2");

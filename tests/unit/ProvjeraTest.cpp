@@ -20,7 +20,7 @@ struct Outcome
     int LinesRead = 0;
 };
 
-/// Runs the program; each line that it reads is the same.
+/// Runs the program; every line that it reads is the same.
 Outcome Provjera(const std::vector<std::string>& arguments, const std::string& line = "")
 {
     Outcome run = {};
@@ -43,9 +43,9 @@ std::map<std::string, std::string> FilesOf(const std::filesystem::path& folder)
     return files;
 }
 
-/// The program keeps its lock on the folder that it has loaded last, by the folder's number in the file
-/// system. When that folder is removed, a test's folder may get the number; so these tests load from a folder
-/// that stays.
+/// The program keeps its lock on the folder that it has loaded last. The lock is by the folder's number in
+/// the file system; if the folder is removed, another test's folder may get that number. So these tests load
+/// from a folder that stays.
 class ProvjeraRuns : public testing::Test
 {
 protected:
@@ -209,7 +209,7 @@ TEST_F(ProvjeraRuns, ARepairIsRefusedWhileTheProgramHasTheCatalogueOpen)
     EXPECT_EQ(Provjera({}).Code, Check::Invalid) << "a check goes on";
 }
 
-/// Leaves a complete set of an interrupted save: the small catalogue.
+/// Makes a complete set of an interrupted save: the small catalogue.
 void InterruptASave(const TestFolder& folder)
 {
     const std::filesystem::path set = folder.Data() / "spremanje";

@@ -1,4 +1,4 @@
-// What lives from one refresh to the next, and what does not.
+// What is kept from one refresh to the next, and what is not.
 
 #include "data/Errors.h"
 #include "data/modData.h"
@@ -28,7 +28,7 @@ std::string FirstRow(const ListModel& model)
     return texts;
 }
 
-constexpr const char* BlankRow = "4||||||||||"; // but for the ID
+constexpr const char* BlankRow = "4||||||||||"; // except for the ID
 
 CourseListModel Shown(const CourseFilter& filter)
 {

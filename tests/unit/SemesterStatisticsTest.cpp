@@ -13,7 +13,7 @@
 namespace
 {
 
-/// One study of two directions, a second study, and no courses yet.
+/// One study with two directions, a second study, and no courses yet.
 Catalogue Empty()
 {
     Catalogue catalogue;
@@ -32,7 +32,8 @@ Catalogue With(Catalogue::Lines kolegiji, Catalogue::Lines kolegijSmjerovi)
     return catalogue;
 }
 
-/// The numbers of a row, P to number of courses, as one text; the row is found by its first two cells.
+/// The numbers of a row, from P to the number of courses, as one text. The row is found by its first two
+/// cells.
 std::string Sums(const std::vector<ListRow>& rows, const std::string& first, const std::string& second)
 {
     for (const ListRow& row : rows)

@@ -10,7 +10,7 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-/// Expects that these texts stand in this order, each before the next.
+/// Expects that these texts are in ascending order.
 void ExpectOrder(const Texts& texts)
 {
     for (std::size_t i = 0; i + 1 < texts.size(); ++i)

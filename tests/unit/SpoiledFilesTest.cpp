@@ -11,13 +11,13 @@
 namespace
 {
 
-/// A file that a real program has spoiled, and what the check has to say of it.
+/// A file that a real program has spoiled, and the expected finding.
 struct Spoiled
 {
-    std::string_view Folder; // in tests/data/spoiled, whose README says how the file was made
+    std::string_view Folder; // in tests/data/spoiled; the README there tells how the file was made
     std::string_view Name;
-    std::string_view Finding; // what a line of the report begins with
-    bool IsMended;            // to what it was before
+    std::string_view Finding; // the beginning of a line of the report
+    bool IsMended;            // to its former content
 };
 
 constexpr Spoiled SpoiledFiles[] = {

@@ -77,7 +77,7 @@ TEST(StatistikaExport, ReplacesAnOlderFileWhole)
               "sep=;\r\nRazina;\r\nProgram;\r\nSmjer;\r\nSemestar;\r\n\r\n"
               "Semestar;Tip;P;S;V;ECTS;Kolegija\r\n");
     EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{"Varlostudiji", "s.csv"}))
-        << "no temporary file stays behind";
+        << "no temporary file stays";
 }
 
 TEST(StatistikaExport, ReportsAPathThatCannotBeWritten)

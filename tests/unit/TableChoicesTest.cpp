@@ -9,7 +9,7 @@
 namespace
 {
 
-/// The entries as "text=number", a blank between.
+/// The entries as "text=number", separated by blanks.
 std::string Shown(const std::vector<Choice>& choices)
 {
     std::string shown;

@@ -30,7 +30,7 @@ protected:
         return ReadBytes(ToPath(Path));
     }
 
-    /// What a file with these lines behind its header looks like after a load and a save.
+    /// The content of a file with these lines after its header, after a load and a save.
     std::string RoundTrip(const std::string& lines)
     {
         return Saved(Load("header\r\n" + lines)).substr(std::string("KolegijID;SmjerID\r\n").size());
@@ -226,7 +226,7 @@ TEST_F(Tables, TheFirstMatchWinsAndEndsTheSearch)
 {
     const modData::Table table = Load("h\r\n07;1\r\n7;2\r\nbad;3\r\n8;4\r\n");
     EXPECT_EQ(table.FindFirst(0, 7)->Field(1), "1");
-    EXPECT_THROW(table.FindFirst(0, 8), TypeMismatch) << "the bad row stands before it";
+    EXPECT_THROW(table.FindFirst(0, 8), TypeMismatch) << "the bad row is before it";
     EXPECT_THROW(table.FindFirst(0, 99), TypeMismatch);
 }
 
@@ -341,7 +341,7 @@ TEST_F(Tables, TheDataFolderIsInLocalAppData)
     EXPECT_EQ(ToPath(modData::GetDataFolder()), Folder.Data());
     EXPECT_TRUE(std::filesystem::is_directory(Folder.Data()));
     EXPECT_NE(modData::GetDataFolder().find("Varlostudiji"), std::string::npos);
-    EXPECT_EQ(modData::GetDataFolder().back(), 'i') << "no separator behind it";
+    EXPECT_EQ(modData::GetDataFolder().back(), 'i') << "no separator at its end";
 }
 
 TEST_F(Tables, WithoutLocalAppDataTheFolderIsInTheUserProfileAndIsCreated)

@@ -81,7 +81,8 @@ TEST(Text, CharactersAreReadAndWrittenAsUtf8)
 
 TEST(Text, ABrokenByteIsOneReplacementCharacter)
 {
-    // A follower alone, a cut sequence, a longer form than needed, a surrogate, a code beyond the last.
+    // A continuation byte alone, a truncated sequence, an overlong form, a surrogate, a code beyond the last
+    // one.
     for (const std::string_view broken :
          {"\x80", "\xC4", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF"})
     {

@@ -238,7 +238,7 @@ TEST(WorkloadModel, WarnsOfTheFirstThingThatIsWrong)
         return fields.Upozorenje;
     };
 
-    // Every rule holds at first; each change ends the one that was told.
+    // At first everything is wrong; each change removes the warning shown.
     fields.KontaktniSati[0] = "-1";
     fields.OpsegStranice = fields.OpsegRijeci = "1";
     fields.LitByEstimate = fields.PismeniByEstimate = true;
@@ -305,7 +305,7 @@ TEST(WorkloadModel, ChecksContactTeachingAndTheTotalAsShown)
     EXPECT_EQ(Recalculated(fields).Upozorenje, NoSelfStudy);
 }
 
-// Random entries, against figures worked out in whole numbers
+// Random entries, compared with figures computed in whole numbers
 
 /// A field's text and its value in ten-thousandths.
 struct Entry
@@ -350,7 +350,7 @@ public:
         return entry;
     }
 
-    /// A text that is no number.
+    /// A text that is not a number.
     std::string Junk()
     {
         static const char* const junk[] = {"",  "   ", "abc", "1,2,3", "1.2.3", "--1",  "1-",  "0x1F",
@@ -358,7 +358,7 @@ public:
         return junk[Below(static_cast<int>(std::size(junk)))];
     }
 
-    /// Characters that numbers are made of, in any order and up to hundreds of them.
+    /// Up to hundreds of characters that occur in numbers, in any order.
     std::string NumberLike()
     {
         static const std::string characters = "0123456789999999.,+-eE ";
@@ -372,7 +372,7 @@ private:
     std::mt19937 m_engine;
 };
 
-/// A quotient of whole numbers rounded to a whole number, halves away from zero.
+/// A quotient of whole numbers, rounded to a whole number, halves away from zero.
 std::int64_t Rounded(std::int64_t numerator, std::int64_t denominator)
 {
     const std::int64_t magnitude = (2 * std::abs(numerator) + denominator) / (2 * denominator);

@@ -1,5 +1,5 @@
-// Every operation on a file fails in turn, for everything that the program writes but the catalogue as a
-// whole: each file keeps its old content whole or has its new one whole, and the error says which file.
+// Every operation on a file fails in turn, for everything that the program writes except the whole catalogue:
+// each file has its whole old content or its whole new one, and the error names the file.
 
 #include "data/DatedCopies.h"
 #include "data/Errors.h"
@@ -44,7 +44,7 @@ struct Fault
 };
 constexpr Fault Faults[] = {
     {After::AllIsWell, EACCES},
-#ifndef _WIN32 // The calls are the same ones there, and under an emulator each of them is slow.
+#ifndef _WIN32 // There the calls are the same, and slow under an emulator.
     {After::AllIsWell, ENOSPC},
     {After::NothingIsGone, ENOSPC},
     {After::NothingWorks, EACCES},
@@ -71,7 +71,7 @@ std::optional<Told> ErrorOf(const std::function<void()>& action)
     return std::nullopt;
 }
 
-/// The number of the error that a failed operation ends in.
+/// The number of the error for a failed operation.
 int NumberOf(FileOperation::Kind what, int error)
 {
     switch (what)
@@ -89,7 +89,8 @@ int NumberOf(FileOperation::Kind what, int error)
     }
 }
 
-/// Operations without which a write goes on: closing what was read, and what not every file system has.
+/// Operations whose failure does not stop a write: closing a file that was read, and what some file systems
+/// lack.
 bool IsHindrance(const FileOperation& operation, After then)
 {
     const bool isSpare = operation.What == FileOperation::TakeAccess ||
@@ -110,8 +111,9 @@ std::string Describe(std::size_t number, const Fault& fault, const FileOperation
            std::to_string(fault.Error);
 }
 
-/// Runs an action with each of its calls failing in turn, in each way. `prepare` comes before each run,
-/// `check` after it, with the calls as a good run makes them and the place of the failed one among them.
+/// Runs an action with each of its calls failing in turn, in each way. `prepare` runs before each run;
+/// `check` runs after it, with the calls of a run without failures and the position of the failed one among
+/// them.
 void FailEachCall(const std::function<void()>& prepare, const std::function<void()>& action,
                   const std::function<void(const std::vector<FileOperation>&, std::size_t place, const Fault&,
                                            const std::optional<Told>&)>& check)
@@ -136,7 +138,7 @@ void FailEachCall(const std::function<void()>& prepare, const std::function<void
             }
             check(good, place, fault, told);
             if (testing::Test::HasFailure())
-                return; // one is enough to read
+                return; // one failure is enough
         }
 }
 
@@ -154,7 +156,7 @@ protected:
 
     Contents DataFiles() { return FilesIn(Folder.Data()); }
 
-    /// Puts exactly these files into a folder.
+    /// Makes a folder hold exactly these files.
     static void Restore(const fs::path& folder, const Contents& files)
     {
         for (const std::string& name : EntriesOf(folder))
@@ -164,7 +166,7 @@ protected:
             WriteBytes(folder / name, content);
     }
 
-    /// What stays of a failed write beside a file: nothing, unless even removing fails.
+    /// What a failed write leaves beside a file: nothing, unless removing fails too.
     static void ExpectNoStray(const fs::path& folder, After then)
     {
         if (then == After::AllIsWell)
@@ -243,7 +245,7 @@ TEST_F(WriteFailure, ATableThatIsCutShortByAReadErrorIsNotLoaded)
     EXPECT_EQ(modData::Zavodi.RowCount(), 0U);
 }
 
-// The step that brings a file to windows-1250, and the load around it
+// The conversion of a file to windows-1250, and the load around it
 
 class EncodingFailure : public WriteFailure
 {
@@ -355,7 +357,7 @@ protected:
     }
     ~LostLetters() override { DatedCopies::CurrentTime = FormerClock; }
 
-    /// Loads the tables with this content of the fifth file; the catalogue as it was before.
+    /// Loads the tables with this content of the fifth file; returns the catalogue before that.
     Contents LoadWith(std::string_view content)
     {
         WriteBytes(Folder.Data() / "db_kolegij.csv", content);

@@ -1,4 +1,4 @@
-// The data store as a whole: the seven files together, the data folder, the next ID.
+// The whole data store: the seven files together, the data folder, the next ID.
 
 #include "data/modData.h"
 #include "data/Errors.h"
@@ -24,7 +24,7 @@ protected:
     std::string Content(const char* name) { return ReadBytes(Folder.Data() / name); }
     void Replace(const char* name, std::string_view content) { WriteBytes(Folder.Data() / name, content); }
 
-    /// The description of the error that loading ends with; empty when it ends well.
+    /// The description of a load's error; empty if there is none.
     std::string LoadFailure()
     {
         try

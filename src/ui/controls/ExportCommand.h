@@ -24,8 +24,8 @@ struct ExportTexts
 /// Save dialog asks for the path; `write` writes the file; a message reports success. If the user cancels,
 /// nothing is written or shown.
 ///
-/// Every exception, of any type, is reported after the error prefix. Without a prefix one in asking ends the
-/// command silently.
+/// With an error prefix, every exception of any type is reported after it. Without one, an exception before
+/// the writing ends the command silently.
 /// @throws what `write` throws, without an error prefix
 void RunExport(wxWindow* parent, SaveDialogOptions& dialog, const ExportTexts& texts,
                const std::function<std::optional<std::string>()>& proposeName,

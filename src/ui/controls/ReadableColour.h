@@ -3,5 +3,5 @@
 #include <wx/colour.h>
 #include <wx/settings.h>
 
-/// A colour for text on one of the system's backgrounds: a lighter shade where the background is dark.
+/// A colour for text on one of the system's backgrounds: a lighter shade if the background is dark.
 wxColour ReadableColour(const wxColour& colour, wxSystemColour background);
