@@ -171,6 +171,17 @@ TEST(CourseEntryCheck, NobodyHoldsACourseTwice)
     ExpectPasses(entry);
 }
 
+TEST(CourseEntryCheck, ALecturerWithTheID0CountsAsChosenButIsNotCompared)
+{
+    CourseEntry entry = Valid();
+    entry.NastavnikIDs = {0, 0, std::nullopt};
+    ExpectPasses(entry);
+    entry.NastavnikIDs = {0, 0, 0};
+    ExpectPasses(entry);
+    entry.NastavnikIDs = {std::nullopt, 0, std::nullopt};
+    ExpectPasses(entry);
+}
+
 // With everything wrong each check is reached only when what it comes after is put right.
 TEST(CourseEntryCheck, ChecksInAFixedOrder)
 {
