@@ -609,7 +609,7 @@ protected:
     {
         using Clock = std::chrono::steady_clock;
         std::atomic<bool> isHeld = false;
-        std::thread other(
+        std::jthread other(
             [&]
             {
                 const CatalogueLock saving(Folder.DataPath(""), LockKind::Saving);
@@ -660,7 +660,7 @@ TEST_F(CatalogueLocks, OfSavingTimesOut)
     const fs::path folder = Folder.Data();
     FileOperations::Handle lock = 0;
     ASSERT_FALSE(System::OwnFiles.Lock(folder, LockKind::Saving, 0, lock));
-    std::thread other(
+    std::jthread other(
         [&]
         {
             FileOperations::Handle second = 0;
