@@ -107,6 +107,22 @@ TEST(Text, ListsAreJoinedWithSeparatorsBetween)
     EXPECT_EQ(Joined({}, ";"), "");
 }
 
+TEST(Text, TheAsciiBeforeAnyOtherByteIsTakenOff)
+{
+    for (std::size_t place = 0; place < 17; ++place)
+        for (int byte = 0x80; byte < 0x100; ++byte)
+        {
+            std::string text(24, 'x');
+            text[place] = static_cast<char>(byte);
+            std::string_view rest = text;
+            EXPECT_EQ(TakeAsciiPrefix(rest), std::string(place, 'x')) << byte;
+            EXPECT_EQ(rest, std::string_view(text).substr(place)) << byte << " at " << place;
+        }
+    std::string_view ascii = "\x7F with nothing else";
+    EXPECT_EQ(TakeAsciiPrefix(ascii), "\x7F with nothing else");
+    EXPECT_EQ(ascii, "");
+}
+
 TEST(Text, EveryBitOfACharacterSurvivesAsUtf8)
 {
     const std::pair<char32_t, std::string_view> characters[] = {

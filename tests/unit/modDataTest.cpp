@@ -69,6 +69,14 @@ TEST_F(DataStore, BringsEveryMarkedFileToWindows1250BeforeItIsRead)
     EXPECT_EQ(LinesOf(modData::Nastavnici).at(1), "2;Šarić Žarko;;2");
 }
 
+TEST_F(DataStore, AMissingFileIsNoReasonForACopy)
+{
+    SmallCatalogue().WriteTo(Folder.Data());
+    fs::remove(Folder.Data() / "db_zavod.csv");
+    EXPECT_TRUE(LoadFailure().ends_with(": " + Folder.DataPath("db_zavod.csv"))) << LoadFailure();
+    EXPECT_FALSE(fs::exists(Folder.Data() / "kopije"));
+}
+
 TEST_F(DataStore, EachFileFillsItsOwnTable)
 {
     SmallCatalogue().WriteTo(Folder.Data());
