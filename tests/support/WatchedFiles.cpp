@@ -71,8 +71,10 @@ struct WatchedOperations
 
     static Result Read(Handle file, std::span<char> buffer, std::size_t& count)
     {
-        return FailsOnOpen(FileOperation::Read, file, false) ? FailureOf(EIO)
-                                                             : System::OwnFiles.Read(file, buffer, count);
+        if (!FailsOnOpen(FileOperation::Read, file, false))
+            return System::OwnFiles.Read(file, buffer, count);
+        count = 0; // as after a failed read of the system's own
+        return FailureOf(EIO);
     }
 
     static Result Write(Handle file, std::string_view bytes)

@@ -267,6 +267,22 @@ TEST_F(CatalogueSaving, SavesIntoAFolderThatIsGone)
     EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U) << "there was nothing to copy";
 }
 
+TEST_F(CatalogueSaving, WhereAFileIsMissingWritesASet)
+{
+    const std::string mark = "rename spremanje/gotovo.tmp to spremanje/gotovo";
+    const auto marks = [&](const WatchedFiles& watched)
+    { return std::ranges::count(watched.Effects(Folder.Data()), mark); };
+    for (const std::string& name : EntriesOf(Folder.Data()))
+    {
+        Prepare();
+        SmallCatalogue().Use();
+        fs::remove(Folder.Data() / name);
+        const WatchedFiles watched;
+        modData::SaveAllTables();
+        EXPECT_EQ(marks(watched), 1) << name;
+    }
+}
+
 // Every operation
 
 TEST_F(CatalogueSaving, TheProgramMayEndAfterAnyOperation)
@@ -593,7 +609,7 @@ protected:
     {
         using Clock = std::chrono::steady_clock;
         std::atomic<bool> isHeld = false;
-        std::thread other(
+        std::jthread other(
             [&]
             {
                 const CatalogueLock saving(Folder.DataPath(""), LockKind::Saving);
@@ -644,7 +660,7 @@ TEST_F(CatalogueLocks, OfSavingTimesOut)
     const fs::path folder = Folder.Data();
     FileOperations::Handle lock = 0;
     ASSERT_FALSE(System::OwnFiles.Lock(folder, LockKind::Saving, 0, lock));
-    std::thread other(
+    std::jthread other(
         [&]
         {
             FileOperations::Handle second = 0;

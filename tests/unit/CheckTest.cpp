@@ -292,6 +292,28 @@ TEST(Check, ARowWithTooFewFieldsIsDangerousWhereAWindowNeedsThem)
                      "N db_smjer.csv, redak 6, Razina: redak ima premalo polja: 4 umjesto 5"}));
 }
 
+// The validation ends at the first field that it cannot read, and says nothing of the missing one.
+TEST(Check, ARowWithTooFewFieldsIsDangerousBesideAnotherFaultToo)
+{
+    EXPECT_EQ(
+        With(
+            [](Catalogue& c)
+            {
+                c.Nastavnici.push_back("x;Novi;");
+                c.Kolegiji.push_back("9;Novi;1;0;0;5;obvezni;x");
+                c.KolegijSmjerovi.push_back("x");
+                c.KolegijNastavnici.push_back("x;1;Nositelj");
+            }),
+        (Lines{"G db_nastavnici.csv, redak 5, ID: Greška 13: Vrijednost \"x\" nije broj",
+               "O db_nastavnici.csv, redak 5, ZavodID: redak ima premalo polja: 3 umjesto 4",
+               "G db_kolegij.csv, redak 6, Semestar: Greška 13: Vrijednost \"x\" nije broj",
+               "O db_kolegij.csv, redak 6, StudijID: redak ima premalo polja: 8 umjesto 9",
+               "G db_kolegij_smjer.csv, redak 7, KolegijID: Greška 13: Vrijednost \"x\" nije broj",
+               "O db_kolegij_smjer.csv, redak 7, SmjerID: redak ima premalo polja: 1 umjesto 2",
+               "G db_kolegij_nastavnik.csv, redak 7, KolegijID: Greška 13: Vrijednost \"x\" nije broj",
+               "O db_kolegij_nastavnik.csv, redak 7, Redoslijed: redak ima premalo polja: 3 umjesto 4"}));
+}
+
 TEST(Check, AnEmptyFirstFieldIsDangerous)
 {
     EXPECT_EQ(With([](Catalogue& c) { c.Zavodi.push_back(";Bez broja;B"); }),

@@ -1,5 +1,6 @@
 // A search by an index gives the same as reading the rows one by one, errors included.
 
+#include "data/ColumnIndex.h"
 #include "data/Errors.h"
 #include "data/Table.h"
 #include "data/modData.h"
@@ -7,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 
 namespace
@@ -100,6 +102,49 @@ TEST(ColumnIndex, ASearchFollowsEveryChangeOfTheTable)
     EXPECT_EQ(table.FindPosition(Column, 7), std::nullopt);
     table.RemoveMatches(Column, 9);
     EXPECT_EQ(table.FindPosition(Column, 8), 0U);
+}
+
+TEST(ColumnIndex, NegativeAndExtremeNumbersAreFoundAsOthersAre)
+{
+    constexpr std::int32_t smallest = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
+    const std::vector<std::int32_t> columns[] = {
+        {-3, -1, -3, 0, 2},                 // a narrow range
+        {smallest, largest, 0, smallest},   // the whole range
+        {largest, largest - 1, largest},    // the ends alone
+        {smallest + 1, smallest, smallest}, //
+        {largest},
+        {smallest},
+        {-1},
+    };
+    for (const std::vector<std::int32_t>& numbers : columns)
+    {
+        const ColumnIndex index(numbers);
+        for (const std::int32_t wanted :
+             {smallest, smallest + 1, -4, -3, -2, -1, 0, 1, 2, 3, largest - 1, largest})
+        {
+            std::vector<std::uint32_t> expected;
+            for (std::uint32_t i = 0; i < numbers.size(); ++i)
+                if (numbers[i] == wanted)
+                    expected.push_back(i);
+            const auto found = index.Positions(wanted);
+            EXPECT_EQ(std::vector<std::uint32_t>(found.begin(), found.end()), expected)
+                << wanted << " in " << testing::PrintToString(numbers);
+        }
+    }
+}
+
+TEST(ColumnIndex, ATableIsSearchedForNegativeAndExtremeIDs)
+{
+    modData::Table table(modData::KolegijSmjerovi.Layout());
+    table.AppendLine("1;-2147483648", 2);
+    table.AppendLine("2;2147483647", 3);
+    table.AppendLine("3;-5", 4);
+    EXPECT_EQ(table.FindPosition(Column, -2147483647 - 1), 0U);
+    EXPECT_EQ(table.FindPosition(Column, 2147483647), 1U);
+    EXPECT_EQ(table.FindPosition(Column, -5), 2U);
+    EXPECT_EQ(table.FindPosition(Column, 5), std::nullopt);
+    EXPECT_EQ(table.FindPosition(Column, 2147483646), std::nullopt);
 }
 
 TEST(ColumnIndex, AnEmptyTableHoldsNothing)

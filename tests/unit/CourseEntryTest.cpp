@@ -171,6 +171,17 @@ TEST(CourseEntryCheck, ALecturerHoldsACourseOnlyOnce)
     ExpectPasses(entry);
 }
 
+TEST(CourseEntryCheck, ALecturerWithTheID0CountsAsChosenButIsNotCompared)
+{
+    CourseEntry entry = Valid();
+    entry.NastavnikIDs = {0, 0, std::nullopt};
+    ExpectPasses(entry);
+    entry.NastavnikIDs = {0, 0, 0};
+    ExpectPasses(entry);
+    entry.NastavnikIDs = {std::nullopt, 0, std::nullopt};
+    ExpectPasses(entry);
+}
+
 // Everything is wrong at first; putting one error right leads to the next check.
 TEST(CourseEntryCheck, ChecksInAFixedOrder)
 {

@@ -2,39 +2,41 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <string>
+#include <string_view>
 #include <system_error>
 
 namespace
 {
 
-TEST(Errors, AFileErrorNamesThePathAndHasTheNumberOfItsCause)
+TEST(Errors, AFileErrorNamesItsCauseAndThePathAndHasItsNumber)
 {
     constexpr struct
     {
         std::errc Cause;
         int Number;
+        std::string_view Text;
     } causes[] = {
-        {std::errc::no_such_file_or_directory, 53},
-        {std::errc::not_a_directory, 76},
-        {std::errc::is_a_directory, 75},
-        {std::errc::permission_denied, 70},
-        {std::errc::read_only_file_system, 70},
-        {std::errc::no_space_on_device, 61},
-        {std::errc::operation_not_permitted, 70},
-        {std::errc::device_or_resource_busy, 70},
-        {std::errc::timed_out, 70},
-        {std::errc::filename_too_long, 52},
-        {std::errc::invalid_argument, 52},
-        {std::errc::io_error, 57},
+        {std::errc::no_such_file_or_directory, 53, "Datoteka ili mapa nije pronađena"},
+        {std::errc::not_a_directory, 76, "Mapa nije pronađena"},
+        {std::errc::is_a_directory, 75, "Na tom mjestu nije datoteka nego mapa"},
+        {std::errc::permission_denied, 70,
+         "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu"},
+        {std::errc::operation_not_permitted, 70, "Pristup nije dopušten"},
+        {std::errc::read_only_file_system, 70, "Disk je zaštićen od pisanja"},
+        {std::errc::device_or_resource_busy, 70, "Datoteku koristi drugi program"},
+        {std::errc::text_file_busy, 70, "Datoteku koristi drugi program"},
+        {std::errc::timed_out, 70, "Katalog upravo čita ili sprema drugi primjerak programa"},
+        {std::errc::no_space_on_device, 61, "Na disku nema dovoljno mjesta"},
+        {std::errc::filename_too_long, 52, "Ime datoteke je predugačko"},
+        {std::errc::invalid_argument, 52, "Ime datoteke nije ispravno"},
+        {std::errc::io_error, 57, "Greška pri čitanju ili pisanju"},
     };
-    std::set<std::string> descriptions;
-    for (const auto& [cause, number] : causes)
+    for (const auto& [cause, number, text] : causes)
     {
         const FileError error(std::make_error_code(cause), "/mapa/Žuta.csv");
         EXPECT_EQ(error.Number(), number) << error.what();
-        EXPECT_TRUE(std::string_view(error.what()).ends_with(": /mapa/Žuta.csv")) << error.what();
-        EXPECT_TRUE(descriptions.insert(error.what()).second) << error.what();
+        EXPECT_EQ(error.what(), std::string(text) + ": /mapa/Žuta.csv");
     }
 }
 
@@ -99,6 +101,30 @@ TEST(Errors, EveryKindHasItsNumber)
     EXPECT_EQ(OverflowError().Number(), 6);
     EXPECT_EQ(OverflowError("99999999999").Number(), 6);
     EXPECT_EQ(SubscriptOutOfRange({"f", 2, "ID"}).Number(), 9);
+}
+
+TEST(Errors, EveryErrorOfAFieldHasTheNumberOfItsKind)
+{
+    const FieldPlace place = {"f", 2, "ID"};
+    EXPECT_EQ(TypeMismatch("x", place).Number(), 13);
+    EXPECT_EQ(OverflowError("99999999999", place).Number(), 6);
+    EXPECT_STREQ(OverflowError().what(), "Zbroj je izvan dopuštenog raspona od -2147483648 do 2147483647.");
+}
+
+TEST(Errors, ASaveThatIsNotFinishedHasTheNumberAndTextOfItsCause)
+{
+    for (const std::errc cause :
+         {std::errc::permission_denied, std::errc::no_space_on_device, std::errc::io_error})
+    {
+        const FileError failure(std::make_error_code(cause), "/mapa/db_zavod.csv");
+        const SaveNotFinished error(failure);
+        EXPECT_EQ(error.Number(), failure.Number());
+        EXPECT_EQ(error.what(),
+                  failure.what() + std::string("\r\n\r\nPromjene su sačuvane, ali još nisu upisane u sve "
+                                               "datoteke kataloga. Ne uređujte te datoteke. "
+                                               "Zatvorite druge programe koji ih koriste i ponovno pokrenite "
+                                               "Varlostudije: spremanje će se dovršiti."));
+    }
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <chrono>
 
 #ifdef _WIN32
@@ -240,6 +242,26 @@ TEST_F(Devices, OneThatTakesAnythingTakesAFileAndStaysADevice)
     EXPECT_TRUE(fs::is_character_file(null));
 }
 
+TEST_F(Devices, OneIsFlushedAndClosedAndAFailureOfEitherIsAnError)
+{
+    const std::string null = Device("null", 3);
+    if (null.empty())
+        GTEST_SKIP() << "an administrator who may not make devices, as in some containers";
+    std::vector<FileOperation> good;
+    {
+        const WatchedFiles watched;
+        ReplaceFile(null, "gone");
+        good = watched.Made();
+    }
+    for (const FileOperation::Kind last : {FileOperation::Write, FileOperation::Flush, FileOperation::Close})
+    {
+        const auto place = std::ranges::find(good, last, &FileOperation::What);
+        ASSERT_NE(place, good.end()) << NameOf(last);
+        const WatchedFiles failing(static_cast<std::size_t>(place - good.begin()) + 1);
+        EXPECT_THROW(ReplaceFile(null, "gone"), FileError) << NameOf(last);
+    }
+}
+
 TEST_F(Files, ALinkStaysALink)
 {
     WriteBytes(Folder.Path() / "real.csv", "old");
@@ -415,6 +437,49 @@ TEST_F(Files, ARenameThatTheSystemRefusesSaysSo)
     EXPECT_TRUE(System::OwnFiles.Rename(File, Folder.Path() / "full"));
     EXPECT_TRUE(System::OwnFiles.Rename(Folder.Path() / "missing", File));
     EXPECT_EQ(ReadBytes(File), "old");
+}
+
+#ifndef _WIN32 // a handle that is no longer open is a number like any other there
+
+TEST_F(Files, ALockOfAMissingFolderSaysSo)
+{
+    FileOperations::Handle lock = 0;
+    for (const LockKind kind : {LockKind::Saving, LockKind::Running})
+        EXPECT_EQ(System::OwnFiles.Lock(Folder.Path() / "missing", kind, 0, lock),
+                  std::errc::no_such_file_or_directory);
+    EXPECT_FALSE(System::OwnFiles.IsLockedByRunning(Folder.Path() / "missing"));
+}
+
+TEST_F(Files, AFlushOrACloseThatTheSystemRefusesSaysSo)
+{
+    FileOperations::Handle handle = 0;
+    ASSERT_FALSE(System::OwnFiles.Open(File, OpenFor::NewFile, handle));
+    EXPECT_FALSE(System::OwnFiles.Write(handle, "new"));
+    EXPECT_FALSE(System::OwnFiles.Flush(handle));
+    EXPECT_FALSE(System::OwnFiles.Close(handle));
+    EXPECT_EQ(System::OwnFiles.Flush(handle), std::errc::bad_file_descriptor);
+    EXPECT_EQ(System::OwnFiles.Close(handle), std::errc::bad_file_descriptor);
+    EXPECT_EQ(System::OwnFiles.Write(handle, "x"), std::errc::bad_file_descriptor);
+    std::array<char, 4> buffer{};
+    std::size_t count = 1;
+    EXPECT_EQ(System::OwnFiles.Read(handle, buffer, count), std::errc::bad_file_descriptor);
+    EXPECT_EQ(count, 0U);
+}
+
+#endif
+
+TEST_F(Files, AReadGivesWhatThereIsAndThenNothing)
+{
+    WriteBytes(File, "abc");
+    FileOperations::Handle handle = 0;
+    ASSERT_FALSE(System::OwnFiles.Open(File, OpenFor::Reading, handle));
+    std::array<char, 8> buffer{};
+    std::size_t count = 0;
+    EXPECT_FALSE(System::OwnFiles.Read(handle, buffer, count));
+    EXPECT_EQ(std::string_view(buffer.data(), count), "abc");
+    EXPECT_FALSE(System::OwnFiles.Read(handle, buffer, count));
+    EXPECT_EQ(count, 0U);
+    System::OwnFiles.Close(handle);
 }
 
 TEST_F(Files, ARemovalOfAMissingFileIsNoFailure)

@@ -69,6 +69,18 @@ TEST(Lookups, DirectionsAreJoinedWithoutBlankOnes)
     EXPECT_EQ(GetSmjeroviKraticeString(5), "");
 }
 
+TEST(Lookups, AShortNameIsEmptyOrPaddedAndLeavesNoSeparatorOfItsOwn)
+{
+    Catalogue catalogue;
+    catalogue.Smjerovi = {"1;X;A;1;R", "2;X; ;1;R", "3;X; C ;1;R"};
+    catalogue.KolegijSmjerovi = {"1;1", "1;2", "1;3", "2;2", "2;3", "3;2"};
+    catalogue.Use();
+    EXPECT_EQ(GetSmjeroviKraticeString(1), "A, C") << "and not \"A, , C\"";
+    EXPECT_EQ(GetSmjeroviKraticeString(2), "C");
+    EXPECT_EQ(GetSmjeroviKraticeString(3), "");
+    EXPECT_EQ(GetSmjerKratica(3), " C ") << "the lookup itself trims nothing";
+}
+
 TEST(Lookups, HoldersAreSortedByPlace)
 {
     UseLinks({"1;3;Nositelj;3", "1;1;Nositelj;1", "1;2;Nositelj;2", "2;4;Nositelj;1"});
@@ -102,6 +114,26 @@ TEST(Lookups, TheExchangesDecideTheOrderOfEqualPlaces)
     EXPECT_EQ(GetNositeljiString(1), "C; B; A");
     EXPECT_EQ(NastavniciForKolegij(), "C1B2A2");
     EXPECT_EQ(Nositelji123(), "C|B|A");
+}
+
+TEST(Lookups, OfPlaces211TheTwoFirstKeepTheirOrder)
+{
+    UseLinks({"1;1;Nositelj;2", "1;2;Nositelj;1", "1;3;Nositelj;1"});
+    EXPECT_EQ(GetNositeljiString(1), "B; C; A");
+    EXPECT_EQ(NastavniciForKolegij(), "B1C1A2");
+    EXPECT_EQ(Nositelji123(), "B|C|A");
+}
+
+TEST(Lookups, AKnownLecturerWithoutANameIsListedAllTheSame)
+{
+    Catalogue catalogue;
+    catalogue.Nastavnici = {"1;A;;1", "2;;;1", "3;  ;;1"};
+    catalogue.KolegijNastavnici = {"1;1;N;1", "1;2;N;2", "1;3;N;3", "2;2;N;1", "2;1;N;2"};
+    catalogue.Use();
+    EXPECT_EQ(GetNositeljiString(1), "A; ;   ") << "names are not trimmed";
+    EXPECT_EQ(Nositelji123(), "A||  ");
+    EXPECT_EQ(NastavniciForKolegij(), "A12  3");
+    EXPECT_EQ(GetNositeljiString(2), "A");
 }
 
 TEST(Lookups, AnUnknownLecturerLeavesASeparatorAfterAKnownOne)

@@ -1,4 +1,5 @@
 #include "check/Provjera.h"
+#include "check/Console.h"
 #include "data/CatalogueOnDisk.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
@@ -6,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <map>
 #include <memory>
 #include <vector>
@@ -106,8 +108,28 @@ TEST_F(ProvjeraRuns, HelpIsShownOnRequestAndForWrongArguments)
 {
     const Outcome help = Provjera({"--help"});
     EXPECT_EQ(help.Code, Check::Valid);
-    EXPECT_TRUE(help.Output.starts_with("varlostudiji-provjera [--popravi] [--cekaj] [MAPA]\n"))
-        << help.Output;
+    EXPECT_EQ(help.Output, R"(varlostudiji-provjera [--popravi] [--cekaj] [MAPA]
+
+Provjerava katalog programa Varlostudiji u mapi MAPA, a bez nje mapu s podacima,
+onu u kojoj radi program. Sama provjera ništa ne mijenja. Ispisuje tri skupine
+nalaza, svaki s datotekom, retkom i stupcem; prvi redak datoteke je zaglavlje.
+
+  Greške    s njima se program ne može pokrenuti ili ne može spremiti promjene
+  Opasno    iduće bi spremanje to izgubilo ili pokvarilo, ili bi program završio
+            greškom
+  Napomene  možda je tako i zamišljeno
+
+  --popravi popravlja ono za što ne treba odluka: krajeve redaka LF, UTF-8 bez
+            oznake, oznaku UTF-8 ispred drugih slova, navodnike koje je tablični
+            kalkulator stavio oko cijelog polja i retke samih razdjelnika. Prije
+            toga sprema kopiju u mapu kopije. Ne radi dok je katalog otvoren.
+  --cekaj   na kraju čeka tipku Enter
+  --help    ispisuje ovu pomoć
+
+Izlazni kod: 1 ako ima grešaka, 2 ako se mapa ne može pročitati ili popravak nije
+moguć, inače 0.
+)");
+    EXPECT_EQ(Provjera({"-h"}).Output, help.Output);
     for (const std::vector<std::string>& wrong :
          {std::vector<std::string>{"--sve"}, {"a", "b"}, {""}, {"--help", "-x"}})
     {
@@ -270,6 +292,21 @@ TEST_F(ProvjeraRuns, ARepairIsOfferedIfItWaits)
                 std::string::npos)
         << run.Output;
     EXPECT_EQ(Provjera({"--cekaj"}, "da").LinesRead, 1) << "nothing is left to mend";
+}
+
+TEST(ConsoleInput, ALineEndsAtItsLineEndOrWithTheInput)
+{
+    const TestFolder folder;
+    WriteBytes(folder.Path() / "input", "da\r\n\nx y");
+    ASSERT_NE(std::freopen(folder.PathOf("input").c_str(), "rb", stdin), nullptr);
+    for (const char* line : {"da", "", "x y", "", ""})
+        EXPECT_EQ(Console::ReadLine(), line);
+#ifdef _WIN32
+    constexpr const char* nothing = "NUL";
+#else
+    constexpr const char* nothing = "/dev/null";
+#endif
+    ASSERT_NE(std::freopen(nothing, "rb", stdin), nullptr) << "the folder could not be removed otherwise";
 }
 
 } // namespace

@@ -109,6 +109,12 @@ TEST_F(Tables, AFileOfLineEndsAloneIsAnEmptyTable)
         EXPECT_EQ(Load(content).RowCount(), 0U) << testing::PrintToString(content);
 }
 
+TEST_F(Tables, AFileOfOneBlankIsAHeaderAlone)
+{
+    EXPECT_EQ(Load(" ").RowCount(), 0U);
+    EXPECT_EQ(Load("  \r\n ").RowCount(), 0U);
+}
+
 TEST_F(Tables, ALineOfOtherWhiteSpaceIsARow)
 {
     EXPECT_EQ(LinesOf(Load("h\r\n\t\r\n\xA0\r\n \n \r\n")), (Lines{"\t", "\u00A0", " \n "}));

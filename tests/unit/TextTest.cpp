@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 TEST(Text, TrimmingTakesBlanksAlone)
 {
@@ -104,4 +106,68 @@ TEST(Text, ListsAreJoinedWithSeparatorsBetween)
     EXPECT_EQ(list, "a; ");
     EXPECT_EQ(Joined({"", "a", "", "b"}, ";"), ";a;;b");
     EXPECT_EQ(Joined({}, ";"), "");
+}
+
+TEST(Text, TheAsciiBeforeAnyOtherByteIsTakenOff)
+{
+    for (std::size_t place = 0; place < 17; ++place)
+        for (int byte = 0x80; byte < 0x100; ++byte)
+        {
+            std::string text(24, 'x');
+            text[place] = static_cast<char>(byte);
+            std::string_view rest = text;
+            EXPECT_EQ(TakeAsciiPrefix(rest), std::string(place, 'x')) << byte;
+            EXPECT_EQ(rest, std::string_view(text).substr(place)) << byte << " at " << place;
+        }
+    std::string_view ascii = "\x7F with nothing else";
+    EXPECT_EQ(TakeAsciiPrefix(ascii), "\x7F with nothing else");
+    EXPECT_EQ(ascii, "");
+}
+
+TEST(Text, EveryBitOfACharacterSurvivesAsUtf8)
+{
+    const std::pair<char32_t, std::string_view> characters[] = {
+        {U'\x7F', "\x7F"},
+        {U'\u0080', "\xC2\x80"},
+        {U'\u0180', "\xC6\x80"},
+        {U'\u07FF', "\xDF\xBF"},
+        {U'\u0800', "\xE0\xA0\x80"},
+        {U'\uFB01', "\xEF\xAC\x81"},
+        {U'\uFFFF', "\xEF\xBF\xBF"},
+        {U'\U00010000', "\xF0\x90\x80\x80"},
+        {U'\U0001F601', "\xF0\x9F\x98\x81"},
+        {U'\U0010FFFF', "\xF4\x8F\xBF\xBF"},
+    };
+    for (const auto& [character, bytes] : characters)
+    {
+        std::string_view rest = bytes;
+        EXPECT_EQ(DecodeUtf8(rest), character);
+        EXPECT_EQ(rest, "") << testing::PrintToString(bytes);
+        std::string written;
+        AppendCodePoint(written, character);
+        EXPECT_EQ(written, bytes);
+    }
+}
+
+TEST(Text, ABrokenSequenceIsLeftAfterItsFirstByte)
+{
+    // Beyond the last first byte, beyond the last character, two surrogates, a form of three bytes for two,
+    // and sequences that end or break off too soon.
+    for (const std::string_view broken :
+         {"\xF8\x90\x80\x80", "\xF5\x80\x80\x80", "\xF4\x90\x80\x80", "\xED\xA0\x80", "\xED\xBF\xBF",
+          "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xC1\xBF", "\xE2\x82", "\xE2\x82z", "\xE2z\x82"})
+    {
+        std::string_view rest = broken;
+        EXPECT_EQ(DecodeUtf8(rest), U'\uFFFD');
+        EXPECT_EQ(rest, broken.substr(1)) << testing::PrintToString(broken);
+    }
+}
+
+TEST(Text, UpperCaseLeavesWhatItsTableDoesNotHold)
+{
+    EXPECT_EQ(UpperCase("\xC6\x80"), "\xC6\x80") << "U+0180, the first character beyond the table";
+    EXPECT_EQ(UpperCase("\xF8\x90\x80\x80z"), "\xF8\x90\x80\x80Z") << "bytes that are no character";
+    EXPECT_EQ(UpperCase("\xEF\xAC\x81"), "\xEF\xAC\x81") << "U+FB01";
+    EXPECT_EQ(UpperCase("z\xC5"), "Z\xC5") << "a character that is cut off";
+    EXPECT_FALSE(EqualsIgnoreCase("\xC6\x80", "A"));
 }

@@ -91,6 +91,19 @@ TEST(Validation, ADirectionNeedsAStudyAndAStudyALevel)
                      "Studiji: neispravna razina › Diplomski "}));
 }
 
+TEST(Validation, ALevelIsExactlyOneOfTheTwoWords)
+{
+    EXPECT_EQ(
+        With(
+            [](Catalogue& c)
+            {
+                c.Studiji.insert(c.Studiji.end(), {"8;X;X;Preddiplomski ", "8;X;X; Preddiplomski",
+                                                   "8;X;X;preddiplomski", "8;X;X;", "8;X;X;Preddiplomski"});
+            }),
+        (Texts{"Studiji: neispravna razina › Preddiplomski ", "Studiji: neispravna razina ›  Preddiplomski",
+               "Studiji: neispravna razina › preddiplomski", "Studiji: neispravna razina › "}));
+}
+
 TEST(Validation, WhatIsNotCheckedPasses)
 {
     EXPECT_EQ(With(

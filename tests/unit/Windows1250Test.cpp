@@ -44,8 +44,12 @@ TEST(Windows1250, EveryByteIsItsCharacter)
 
 TEST(Windows1250, TheLowerHalfIsAscii)
 {
-    for (char byte = 0; byte < 0x7F; ++byte)
-        EXPECT_EQ(FromWindows1250(std::string(1, byte)), std::string(1, byte)) << int{byte};
+    for (int code = 0; code < 0x80; ++code)
+    {
+        const std::string byte(1, static_cast<char>(code));
+        EXPECT_EQ(FromWindows1250(byte), byte) << code;
+        EXPECT_EQ(ToWindows1250(byte), byte) << code;
+    }
 }
 
 TEST(Windows1250, NeighboursOfItsCharactersAreNotTakenForThem)

@@ -294,6 +294,36 @@ TEST(WorkloadModel, WarnsOfNegativeEntriesAsOfMissingOnes)
     EXPECT_EQ(Recalculated(fields).Upozorenje, NoSelfStudy);
 }
 
+TEST(WorkloadModel, WarnsOfNoEstimateOnlyWhereNoRowHasOne)
+{
+    WorkloadFields fields;
+    fields.LitByEstimate = true;
+    fields.LitProcjena[0] = "-30";
+    EXPECT_EQ(Recalculated(fields).Upozorenje, NoEstimate);
+    fields.LitProcjena[2] = "20";
+    EXPECT_EQ(Recalculated(fields).Upozorenje, NoWrittenExtent)
+        << "one row is enough, although the sum is below 0";
+}
+
+TEST(WorkloadModel, IsContentWithOrdinaryEntries)
+{
+    WorkloadFields fields;
+    fields.LitStranice[0] = "250";
+    EXPECT_EQ(Recalculated(fields).Upozorenje, NoWrittenExtent);
+    fields.OpsegRijeci = "2000";
+    fields.KontaktniSati[0] = "30";
+    EXPECT_EQ(Recalculated(fields).Upozorenje, NoSelfStudy) << "words alone are an extent";
+    fields.SamostalniSati[0] = "15";
+    EXPECT_EQ(Recalculated(fields).Upozorenje, NoWarning);
+    fields.OpsegRijeci = "";
+    fields.OpsegStranice = "10";
+    EXPECT_EQ(Recalculated(fields).Upozorenje, NoWarning) << "and pages alone";
+    fields.OpsegStranice = "";
+    fields.PismeniByEstimate = true;
+    fields.PismeniProcjena = "12";
+    EXPECT_EQ(Recalculated(fields).Upozorenje, NoWarning);
+}
+
 TEST(WorkloadModel, ChecksContactTeachingAndTheTotalAsShown)
 {
     WorkloadFields fields;

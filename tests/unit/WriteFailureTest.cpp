@@ -71,6 +71,13 @@ std::optional<Told> ErrorOf(const std::function<void()>& action)
     return std::nullopt;
 }
 
+/// The number of the error that an action ends in; 0 if it ends in none.
+int ErrorNumberOf(const std::function<void()>& action)
+{
+    const std::optional<Told> told = ErrorOf(action);
+    return told ? told->Number : 0;
+}
+
 /// The number of the error for a failed operation.
 int NumberOf(FileOperation::Kind what, int error)
 {
@@ -204,7 +211,7 @@ TEST_F(WriteFailure, ARenameThatTheSystemRefusesIsAnError)
     const WatchedFiles watched;
     System::Files.Rename = [](const fs::path&, const fs::path&)
     { return std::make_error_code(std::errc::text_file_busy); };
-    EXPECT_EQ(ErrorOf([&] { ReplaceFile(path, "new"); })->Number, 70);
+    EXPECT_EQ(ErrorNumberOf([&] { ReplaceFile(path, "new"); }), 70);
     EXPECT_EQ(ReadBytes(Folder.Path() / "file.csv"), "old");
     EXPECT_TRUE(TemporaryFilesIn(Folder.Path()).empty());
 }
@@ -222,7 +229,7 @@ TEST_F(WriteFailure, AReadErrorIsNotTheEndOfTheFile)
         count = 0;
         return std::make_error_code(std::errc::io_error);
     };
-    EXPECT_EQ(ErrorOf([&] { ReadFile(path); })->Number, 57);
+    EXPECT_EQ(ErrorNumberOf([&] { ReadFile(path); }), 57);
 }
 
 TEST_F(WriteFailure, ATableThatIsCutShortByAReadErrorIsNotLoaded)

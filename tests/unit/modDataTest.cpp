@@ -69,6 +69,14 @@ TEST_F(DataStore, ConvertsEveryMarkedFileToWindows1250BeforeItIsRead)
     EXPECT_EQ(LinesOf(modData::Nastavnici).at(1), "2;Šarić Žarko;;2");
 }
 
+TEST_F(DataStore, AMissingFileIsNoReasonForACopy)
+{
+    SmallCatalogue().WriteTo(Folder.Data());
+    fs::remove(Folder.Data() / "db_zavod.csv");
+    EXPECT_TRUE(LoadFailure().ends_with(": " + Folder.DataPath("db_zavod.csv"))) << LoadFailure();
+    EXPECT_FALSE(fs::exists(Folder.Data() / "kopije"));
+}
+
 TEST_F(DataStore, EachFileFillsItsOwnTable)
 {
     SmallCatalogue().WriteTo(Folder.Data());
@@ -80,6 +88,33 @@ TEST_F(DataStore, EachFileFillsItsOwnTable)
     EXPECT_EQ(LinesOf(modData::Kolegiji).front(), "1;Uvod u lov;2;1;0;5;obvezni;1;1");
     EXPECT_EQ(LinesOf(modData::KolegijSmjerovi).front(), "1;1");
     EXPECT_EQ(LinesOf(modData::KolegijNastavnici).front(), "1;1;Nositelj;1");
+}
+
+TEST_F(DataStore, EachTableIsLoadedFromAndSavedToItsOwnFileAlone)
+{
+    constexpr struct
+    {
+        void (*Load)();
+        void (*Save)();
+    } operations[] = {{modData::LoadZavodi, modData::SaveZavodi},
+                      {modData::LoadNastavnici, modData::SaveNastavnici},
+                      {modData::LoadStudiji, modData::SaveStudiji},
+                      {modData::LoadSmjerovi, modData::SaveSmjerovi},
+                      {modData::LoadKolegiji, modData::SaveKolegiji},
+                      {modData::LoadKolegijSmjerovi, modData::SaveKolegijSmjerovi},
+                      {modData::LoadKolegijNastavnici, modData::SaveKolegijNastavnici}};
+    SmallCatalogue().WriteTo(Folder.Data());
+    for (std::size_t i = 0; i < std::size(operations); ++i)
+    {
+        Catalogue().Use();
+        operations[i].Load();
+        for (std::size_t other = 0; other < std::size(operations); ++other)
+            EXPECT_EQ(modData::AllTables()[other]->RowCount() > 0, other == i) << FilesInOrder[i];
+        const std::string content = Content(FilesInOrder[i]);
+        fs::remove(Folder.Data() / FilesInOrder[i]);
+        operations[i].Save();
+        EXPECT_EQ(Content(FilesInOrder[i]), content);
+    }
 }
 
 TEST_F(DataStore, LoadingAgainReplacesTheRows)
