@@ -145,7 +145,7 @@ std::string WithCsvEnding(std::string path)
     return path;
 }
 
-std::string WithoutBlanksAround(std::string path)
+std::string WithoutBlanksAround(const std::string& path)
 {
     return std::string(TrimBlanks(path));
 }
