@@ -105,11 +105,11 @@ private:
             AddMendable(Group::Note, place, "redak ima samo razdjelnike, bez podataka");
         if (!m_written.HasMark && m_written.In == Letters::Mixed && IsUtf8Text(line.Text))
             Add(Group::Danger, line.Number, WordsOfUtf8Line);
-        if (!m_written.HasMark && m_written.In == Letters::Utf8 && !m_isUtf8Told &&
+        if (!m_written.HasMark && m_written.In == Letters::Utf8 && !m_isUtf8Reported &&
             IsBeyondAsciiUtf8(line.Text))
         {
             AddMendable(Group::Danger, place, std::string(WordsOfUtf8));
-            m_isUtf8Told = true;
+            m_isUtf8Reported = true;
         }
         const bool hasQuote = m_hasQuotes && line.Text.find('"') != std::string_view::npos;
         if (hasQuote || m_hasNuls || m_written.In == Letters::Utf8) // false for most files
@@ -159,7 +159,7 @@ private:
     Writing m_written;
     std::size_t m_loneLFs = 0;
     std::size_t m_firstLoneLF = 0;
-    bool m_isUtf8Told = false;
+    bool m_isUtf8Reported = false;
     bool m_hasQuotes = false;
     bool m_hasNuls = false;
 };

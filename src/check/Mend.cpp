@@ -75,12 +75,12 @@ public:
             begin = end;
         }
         if (m_loneLFs > 0)
-            Tell(m_result.Changes, m_firstLoneLF, {},
-                 "krajevi redaka LF zamijenjeni su s CR LF (takvih: " + std::to_string(m_loneLFs) + ")");
+            Report(m_result.Changes, m_firstLoneLF, {},
+                   "krajevi redaka LF zamijenjeni su s CR LF (takvih: " + std::to_string(m_loneLFs) + ")");
     }
 
 private:
-    void Tell(std::vector<Change>& changes, std::size_t line, std::string_view column, std::string text)
+    void Report(std::vector<Change>& changes, std::size_t line, std::string_view column, std::string text)
     {
         changes.push_back({{m_layout.FileName, line, column}, std::move(text)});
     }
@@ -98,8 +98,8 @@ private:
                              std::ranges::all_of(records, [this](const FileLine& record)
                                                  { return IsWholeRow(record, m_columns); });
         if (!isClear)
-            Tell(m_result.Left, records.front().Number, {},
-                 "LF usred retka nije zamijenjen, jer nije jasno gdje redak završava");
+            Report(m_result.Left, records.front().Number, {},
+                   "LF usred retka nije zamijenjen, jer nije jasno gdje redak završava");
         for (const FileLine& record : records)
             if (isClear)
                 MendRecord(record);
@@ -111,7 +111,7 @@ private:
     {
         const bool isHeader = record.Number == 1;
         if (!isHeader && IsSeparatorsOnly(record.Text))
-            return Tell(m_result.Changes, record.Number, {}, "uklonjen je redak samih razdjelnika");
+            return Report(m_result.Changes, record.Number, {}, "uklonjen je redak samih razdjelnika");
         if (record.End == LoneLF && m_loneLFs++ == 0)
             m_firstLoneLF = record.Number;
         MendQuotes(record);
@@ -121,8 +121,8 @@ private:
     void MendQuotes(const FileLine& record)
     {
         if (QuotedRecordSize(record.Text, m_columns) > 0)
-            Tell(m_result.Left, record.Number, {},
-                 "navodnici oko točke-zareza ili prijeloma retka nisu uklonjeni: " + Quoted(record.Text));
+            Report(m_result.Left, record.Number, {},
+                   "navodnici oko točke-zareza ili prijeloma retka nisu uklonjeni: " + Quoted(record.Text));
         if (FieldCount(record.Text) != m_columns || QuotedRecordSize(record.Text, m_columns) > 0)
         {
             m_result.Bytes += record.Text;

@@ -123,9 +123,9 @@ void ForEachReadable(const modData::Table& table, const Rule& rule)
         }
 }
 
-/// Calls `tell` with each row whose key an earlier row has.
-template<typename Key, typename Tell>
-void ForEachRepeated(const modData::Table& table, const Key& key, const Tell& tell)
+/// Calls `report` with each row whose key an earlier row has.
+template<typename Key, typename Report>
+void ForEachRepeated(const modData::Table& table, const Key& key, const Report& report)
 {
     std::vector<std::int64_t> keys;
     keys.reserve(table.RowCount());
@@ -138,7 +138,7 @@ void ForEachRepeated(const modData::Table& table, const Key& key, const Tell& te
                     [&](const modData::Row& row)
                     {
                         if (!seen.insert(key(row)).second)
-                            tell(row);
+                            report(row);
                     });
 }
 

@@ -8,7 +8,7 @@
 namespace
 {
 
-TeachingLoad LoadOf(const modData::Row& kolegij)
+TeachingLoad TeachingLoadOf(const modData::Row& kolegij)
 {
     return {.P = ParseWholeOrZero(kolegij.Field(Kolegij::P)),
             .S = ParseWholeOrZero(kolegij.Field(Kolegij::S)),
@@ -33,7 +33,7 @@ std::vector<ListRow> StatistikaRows(const CourseFilter& filter, Search& search, 
         const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), OtherTypes::CountAsElective);
         const std::int32_t weight = CountKolegijSmjerLinks(id, filter.SmjerID);
         if (tip && weight > 0)
-            sums.Add(semestar, *tip, LoadOf(kolegij).Times(weight));
+            sums.Add(semestar, *tip, TeachingLoadOf(kolegij).Times(weight));
     }
     return TeachingLoadRows(sums, FlaggingStyle, {.Last = last, .Only = filter.Semestar});
 }

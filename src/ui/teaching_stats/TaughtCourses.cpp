@@ -12,7 +12,7 @@ namespace
 {
 
 /// What a course adds to the sums.
-struct CourseLoad
+struct CourseTeachingLoad
 {
     std::int32_t Semestar;
     Tip Type;
@@ -20,8 +20,8 @@ struct CourseLoad
 };
 
 /// What a course adds to the sums; nothing if it does not count. @throws DataError
-std::optional<CourseLoad> LoadOf(const modData::Row& kolegij, const TeachingStatistic& statistic,
-                                 Conversion hours)
+std::optional<CourseTeachingLoad> TeachingLoadOf(const modData::Row& kolegij,
+                                                 const TeachingStatistic& statistic, Conversion hours)
 {
     if (!statistic.Passes(kolegij))
         return std::nullopt;
@@ -31,24 +31,26 @@ std::optional<CourseLoad> LoadOf(const modData::Row& kolegij, const TeachingStat
     const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), statistic.Others);
     if (!tip)
         return std::nullopt;
-    return CourseLoad{semestar,
-                      *tip,
-                      {.P = kolegij.Number(Kolegij::P, hours),
-                       .S = kolegij.Number(Kolegij::S, hours),
-                       .V = kolegij.Number(Kolegij::V, hours),
-                       .ECTS = kolegij.Number(Kolegij::ECTS, hours),
-                       .Kolegija = 1}};
+    return CourseTeachingLoad{semestar,
+                              *tip,
+                              {.P = kolegij.Number(Kolegij::P, hours),
+                               .S = kolegij.Number(Kolegij::S, hours),
+                               .V = kolegij.Number(Kolegij::V, hours),
+                               .ECTS = kolegij.Number(Kolegij::ECTS, hours),
+                               .Kolegija = 1}};
 }
 
-/// The sums of one lecturer or department; `loadOf` returns what the course at a position adds.
+/// The sums of one lecturer or department; `teachingLoadOf` returns what the course at a position adds.
 template<typename LoadOfPosition>
-TeachingLoadSums SumsOf(const TeachingStatistic& statistic, std::int32_t id, const LoadOfPosition& loadOf)
+TeachingLoadSums SumsOf(const TeachingStatistic& statistic, std::int32_t id,
+                        const LoadOfPosition& teachingLoadOf)
 {
     TeachingLoadSums sums;
     statistic.ForEachTaughtCourse(id,
                                   [&](std::size_t position)
                                   {
-                                      if (const std::optional<CourseLoad> load = loadOf(position))
+                                      if (const std::optional<CourseTeachingLoad> load =
+                                              teachingLoadOf(position))
                                           sums.Add(load->Semestar, load->Type, load->Adds);
                                   });
     return sums;
@@ -56,16 +58,16 @@ TeachingLoadSums SumsOf(const TeachingStatistic& statistic, std::int32_t id, con
 
 /// Each course's contribution to the exported sums, computed once and in table order: an export meets a
 /// course once for each of its lecturers, and out of order.
-class ExportedLoads
+class ExportedTeachingLoads
 {
 public:
-    explicit ExportedLoads(const TeachingStatistic& statistic) : m_statistic(statistic)
+    explicit ExportedTeachingLoads(const TeachingStatistic& statistic) : m_statistic(statistic)
     {
-        m_loads.reserve(modData::Kolegiji.RowCount());
+        m_teachingLoads.reserve(modData::Kolegiji.RowCount());
         try
         {
             for (const modData::Row& kolegij : modData::Kolegiji)
-                m_loads.push_back(LoadOf(kolegij, statistic, statistic.ExportedHours));
+                m_teachingLoads.push_back(TeachingLoadOf(kolegij, statistic, statistic.ExportedHours));
         }
         catch (const DataError&)
         {
@@ -73,16 +75,17 @@ public:
         }
     }
 
-    std::optional<CourseLoad> operator()(std::size_t position) const
+    std::optional<CourseTeachingLoad> operator()(std::size_t position) const
     {
-        return position < m_loads.size()
-                   ? m_loads[position]
-                   : LoadOf(modData::Kolegiji[position], m_statistic, m_statistic.ExportedHours);
+        return position < m_teachingLoads.size()
+                   ? m_teachingLoads[position]
+                   : TeachingLoadOf(modData::Kolegiji[position], m_statistic, m_statistic.ExportedHours);
     }
 
 private:
     const TeachingStatistic& m_statistic;
-    std::vector<std::optional<CourseLoad>> m_loads; // by position, up to the first that cannot be read
+    std::vector<std::optional<CourseTeachingLoad>>
+        m_teachingLoads; // by position, up to the first that cannot be read
 };
 
 ListRow TaughtCourseRow(const modData::Row& kolegij, Conversion conversion)
@@ -126,16 +129,16 @@ std::vector<ListRow> TaughtCourseRows(const TeachingStatistic& statistic, std::i
 
 std::vector<ListRow> TeachingLoadRows(const TeachingStatistic& statistic, std::int32_t id)
 {
-    const auto loadOf = [&](std::size_t position)
-    { return LoadOf(modData::Kolegiji[position], statistic, statistic.ShownHours); };
-    return TeachingLoadRows(SumsOf(statistic, id, loadOf), statistic.Style);
+    const auto teachingLoadOf = [&](std::size_t position)
+    { return TeachingLoadOf(modData::Kolegiji[position], statistic, statistic.ShownHours); };
+    return TeachingLoadRows(SumsOf(statistic, id, teachingLoadOf), statistic.Style);
 }
 
 void ExportTeachingLoad(const TeachingStatistic& statistic, std::string_view path)
 {
     TextFile file;
     file.AddLine(std::string(statistic.OwnerTitle) + ";Semestar;Tip;P;S;V;ECTS;Broj kolegija");
-    const ExportedLoads loads(statistic);
+    const ExportedTeachingLoads loads(statistic);
     std::string text;
     for (const modData::Row& owner : *statistic.Owners)
     {
