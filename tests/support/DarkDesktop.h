@@ -46,7 +46,7 @@ private:
     {
         void* settings = NativeFunction<void* (*)()>("gtk_settings_get_default")();
         NativeFunction<void (*)(void*, const char*, ...)>("g_object_set")(
-            settings, "gtk-application-prefer-dark-theme", dark ? 1 : 0, nullptr);
+            settings, "gtk-theme-name", dark ? "HighContrastInverse" : "Adwaita", nullptr);
         Settle();
     }
 #endif

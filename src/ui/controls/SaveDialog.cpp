@@ -145,7 +145,9 @@ std::string WithCsvEnding(std::string path)
     return path;
 }
 
-std::string WithoutBlanksAround(const std::string& path)
+// Its type is that of the option.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+std::string WithoutBlanksAround(std::string path)
 {
     return std::string(TrimBlanks(path));
 }

@@ -37,4 +37,4 @@ void SetSaveDialogChooser(SaveDialogChooser chooser);
 std::string WithCsvEnding(std::string path);
 
 /// The path without blanks at both ends.
-std::string WithoutBlanksAround(const std::string& path);
+std::string WithoutBlanksAround(std::string path);
