@@ -15,15 +15,30 @@
 
 #ifdef _WIN32
 #include <process.h>
-#else // devices, and limits on the size of files
+#else // devices, limits on the size of files, and a disk that fails
+#include <cerrno>
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
 #endif
 
 namespace fs = std::filesystem;
+
+#ifndef _WIN32
+
+static int FlushError = 0;
+
+/// Takes the place of the system's own, so that a disk can fail.
+extern "C" int fsync(int file)
+{
+    errno = FlushError;
+    return FlushError == 0 ? static_cast<int>(::syscall(SYS_fsync, file)) : -1;
+}
+
+#endif
 
 namespace
 {
@@ -440,6 +455,29 @@ TEST_F(Files, ARenameThatTheSystemRefusesSaysSo)
 }
 
 #ifndef _WIN32 // a handle that is no longer open is a number like any other there
+
+TEST_F(Files, AFlushFailsWhereTheDiskDoesAndNotWhereThereIsNothingToFlush)
+{
+    constexpr struct
+    {
+        int Error;
+        bool FailsForFile;
+        bool FailsForFolder;
+    } errors[] = {{0, false, false},    {EIO, true, true},      {ENOSPC, true, true},
+                  {EDQUOT, true, true}, {EINVAL, false, false}, {EROFS, true, false}};
+    FileOperations::Handle handle = 0;
+    ASSERT_FALSE(System::OwnFiles.Open(File, OpenFor::NewFile, handle));
+    for (const auto& [error, failsForFile, failsForFolder] : errors)
+    {
+        const std::error_code failure(error, std::generic_category());
+        FlushError = error;
+        EXPECT_EQ(System::OwnFiles.Flush(handle), failsForFile ? failure : std::error_code()) << failure;
+        EXPECT_EQ(System::OwnFiles.FlushFolder(Folder.Path()), failsForFolder ? failure : std::error_code())
+            << failure;
+        FlushError = 0;
+    }
+    System::OwnFiles.Close(handle);
+}
 
 TEST_F(Files, ALockOfAMissingFolderSaysSo)
 {
