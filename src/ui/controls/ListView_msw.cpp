@@ -250,8 +250,8 @@ private:
 
     ListView& m_view;
     Listener m_toView;
-    mutable wxItemAttr
-        m_attributes; // of the cell asked for last: the list takes it over before it asks again
+    // Of the cell asked for last: the list takes it over before it asks again.
+    mutable wxItemAttr m_attributes;
 };
 
 } // namespace
