@@ -79,7 +79,6 @@ void frmECTSCalc::OnLostFocus(std::span<wxTextCtrl* const> boxes, const std::fun
 void frmECTSCalc::Form_Load()
 {
     CenterForm(*this);
-    lblUpozorenje->SetForegroundColour(ReadableColour(wxColour(ListColours::Red), wxSYS_COLOUR_BTNFACE));
     for (const std::string_view hours : HoursPerEctsChoices)
         cbo1ECTS->Append(ToWx(hours));
     cbo1ECTS->SetSelection(InitialHoursPerEcts);
