@@ -7,7 +7,7 @@
 
 #include <array>
 #else
-#include "ui/controls/NativeFunction_gtk.h"
+#include "support/GtkSetting.h"
 #endif
 
 /// While it lives, windows and lists have light text on a dark background, like a user's setting for the
@@ -44,10 +44,7 @@ private:
 #else
     static void Set(bool dark)
     {
-        void* settings = NativeFunction<void* (*)()>("gtk_settings_get_default")();
-        NativeFunction<void (*)(void*, const char*, ...)>("g_object_set")(
-            settings, "gtk-theme-name", dark ? "HighContrastInverse" : "Adwaita", nullptr);
-        Settle();
+        SetGtkSetting("gtk-theme-name", dark ? "HighContrastInverse" : "Adwaita");
     }
 #endif
 };

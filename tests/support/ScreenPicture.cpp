@@ -13,7 +13,7 @@ namespace
 
 #ifdef __WXGTK__
 
-/// Cairo caches what it has read from the screen until it is told of a change.
+/// Cairo keeps its copy of the screen until the surface is marked as changed.
 void DropFormerPicture(const wxScreenDC& screen)
 {
     const auto target = NativeFunction<void* (*)(void*)>("cairo_get_target");

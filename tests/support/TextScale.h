@@ -3,7 +3,7 @@
 #include "support/Windows.h"
 
 #ifndef _WIN32
-#include "ui/controls/NativeFunction_gtk.h"
+#include "support/GtkSetting.h"
 #endif
 
 /// While it lives, this program's text has that many per cent of the usual size, like a user's setting for
@@ -25,10 +25,7 @@ private:
     {
         constexpr int usualDotsToTheInch = 96;
         constexpr int unitsOfADot = 1024;
-        void* settings = NativeFunction<void* (*)()>("gtk_settings_get_default")();
-        NativeFunction<void (*)(void*, const char*, ...)>("g_object_set")(
-            settings, "gtk-xft-dpi", usualDotsToTheInch * unitsOfADot * percent / 100, nullptr);
-        Settle();
+        SetGtkSetting("gtk-xft-dpi", usualDotsToTheInch * unitsOfADot * percent / 100);
     }
 #endif
 };
