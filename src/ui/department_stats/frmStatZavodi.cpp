@@ -4,14 +4,8 @@
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
-#include "ui/controls/ExportCommand.h"
-#include "ui/controls/ListPairSizer.h"
-#include "ui/controls/ListView.h"
-#include "ui/controls/SortMemory.h"
-#include "ui/controls/Strings.h"
 #include "ui/teaching_stats/TaughtCourses.h"
 
-#include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/listbox.h>
 #include <wx/panel.h>
@@ -21,40 +15,35 @@
 namespace
 {
 
-constexpr std::string_view Caption = "Zavodi";
-
 constexpr ListColumn StatColumns[] = {
     {"Semestar", 1400}, {"Tip", 1400}, {"P", 900}, {"S", 900}, {"V", 900}, {"ECTS", 1000}, {"Kolegija", 1400},
 };
 
-constexpr ExportTexts AllStatTexts = {.DialogTitle = "Spremi statistiku zavoda",
-                                      .Success = "Statistika za sve zavode je eksportirana u:",
-                                      .MessageTitle = "Izvoz završen"};
-
-const wxSize InitialSize = {980, 740}; // at 96 dots to the inch
-const wxSize SmallestSize = {680, 480};
-
 } // namespace
 
 frmStatZavodi::frmStatZavodi(wxWindow* parent)
+    : TeachingLoadWindow(parent, {.Name = "frmStatZavodi",
+                                  .Caption = "Zavodi",
+                                  .SumsName = "lvwStatZavod",
+                                  .SumsColumns = StatColumns,
+                                  .Export = {.DialogTitle = "Spremi statistiku zavoda",
+                                             .Success = "Statistika za sve zavode je eksportirana u:",
+                                             .MessageTitle = "Izvoz završen"},
+                                  .ExportName = "statistika_svi_zavodi.csv"})
 {
-    Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
-           "frmStatZavodi");
-    ApplyAppStyle(*this);
-    Panel = new wxPanel(this);
+    auto* controls = new wxBoxSizer(wxVERTICAL);
+    controls->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
+    auto* lists = new wxBoxSizer(wxHORIZONTAL);
+    lists->Add(SemestriColumn(), wxSizerFlags().Expand().Border(wxRIGHT, 2 * Gap(this)));
+    lists->Add(NewLists(), wxSizerFlags(1).Expand());
+    controls->Add(lists, wxSizerFlags(1).Expand().Border(wxBOTTOM, Gap(this)));
+    controls->Add(NewButtons(), wxSizerFlags().Expand());
+    SetLayout(controls);
 
-    // The controls are made in tab order: filters, lists, buttons.
-    auto* content = new wxBoxSizer(wxVERTICAL);
-    content->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
-    content->Add(Grids(), wxSizerFlags(1).Expand().Border(wxBOTTOM, Gap(this)));
-    content->Add(Buttons(), wxSizerFlags().Expand());
-    auto* margin = new wxBoxSizer(wxVERTICAL);
-    margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap(this)));
-    Panel->SetSizer(margin);
-    UseClientSizes(*this, *margin, InitialSize, SmallestSize);
-
+    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ShowSelected(); });
+    cboZavodi->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ShowSelected(); });
+    lstSemestri->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { ShowSelected(); });
     ReportEveryChoice(*lstSemestri);
-    BindEvents();
     Form_Load();
 }
 
@@ -68,48 +57,17 @@ wxSizer* frmStatZavodi::FilterRow()
     return row;
 }
 
-wxSizer* frmStatZavodi::Grids()
+wxSizer* frmStatZavodi::SemestriColumn()
 {
-    auto* semesters = new wxBoxSizer(wxVERTICAL);
-    semesters->Add(Label3 = NewLabel(Panel, "Label3", "Semestar"),
-                   wxSizerFlags().Border(wxBOTTOM, Gap(this)));
-    semesters->Add(lstSemestri = NewListBox(Panel, "lstSemestri"), wxSizerFlags(1).Expand());
-
-    lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji");
-    lvwStatZavod = new ListView(Panel, "lvwStatZavod", "Statistika");
-
-    auto* row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(semesters, wxSizerFlags().Expand().Border(wxRIGHT, 2 * Gap(this)));
-    row->Add(new ListPairSizer(lvwKolegiji, lvwStatZavod), wxSizerFlags(1).Expand());
-    return row;
-}
-
-wxSizer* frmStatZavodi::Buttons()
-{
-    auto* row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(cmdExportAllStat = NewButton(Panel, "cmdExportAllStat", "E&xport"));
-    row->AddStretchSpacer();
-    row->Add(cmdClose = NewButton(Panel, "cmdClose", "&Zatvori"));
-    return row;
-}
-
-void frmStatZavodi::BindEvents()
-{
-    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboRazina_Click(); });
-    cboZavodi->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboZavodi_Click(); });
-    lstSemestri->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { lstSemestri_Click(); });
-    lvwKolegiji->OnColumnClick([this](int column) { lvwKolegiji_ColumnClick(column); });
-    lvwStatZavod->OnColumnClick([this](int column) { lvwStatZavod_ColumnClick(column); });
-    cmdExportAllStat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportAllStat_Click(); });
-    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdClose_Click(); });
-    CloseByEscape(*this);
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(Label3 = NewLabel(Panel, "Label3", "Semestar"), wxSizerFlags().Border(wxBOTTOM, Gap(this)));
+    column->Add(lstSemestri = NewListBox(Panel, "lstSemestri"), wxSizerFlags(1).Expand());
+    return column;
 }
 
 void frmStatZavodi::Form_Load()
 {
-    lvwStatZavod->SetColumns(StatColumns);
-    lvwKolegiji->SetColumns(TaughtCourseColumns);
-    lvwKolegiji->SetEmptyText(NoCourses);
+    SetEmptyText(NoCourses);
     FillChoices(*cboRazina, WithSvi(RazinaChoices()));
     FillChoices(*cboZavodi, ZavodChoices());
     FillChoices(*lstSemestri, WithSvi({{"Zimski"}, {"Ljetni"}, {"1"}, {"2"}, {"3"}, {"4"}, {"5"}, {"6"}}));
@@ -136,44 +94,11 @@ void frmStatZavodi::ShowSelected()
         if (box->GetSelection() == wxNOT_FOUND)
             return;
     const std::int32_t zavodID = SelectedData(*cboZavodi);
-    lvwKolegiji->ShowRows(DepartmentCourseRows(zavodID, CurrentFilter()));
-    lvwStatZavod->ShowRows(DepartmentTeachingLoadRows(zavodID, CurrentFilter()));
-    Panel->Layout(); // the sums are as high as their rows
+    ShowCourses(DepartmentCourseRows(zavodID, CurrentFilter()));
+    ShowSums(DepartmentTeachingLoadRows(zavodID, CurrentFilter()));
 }
 
-void frmStatZavodi::cboRazina_Click()
+void frmStatZavodi::ExportAll(const std::string& path) const
 {
-    ShowSelected();
-}
-
-void frmStatZavodi::cboZavodi_Click()
-{
-    ShowSelected();
-}
-
-void frmStatZavodi::lstSemestri_Click()
-{
-    ShowSelected();
-}
-
-void frmStatZavodi::lvwKolegiji_ColumnClick(int column)
-{
-    SortListViewByColumn(*lvwKolegiji, column);
-}
-
-void frmStatZavodi::lvwStatZavod_ColumnClick(int column)
-{
-    SortListViewByColumn(*lvwStatZavod, column);
-}
-
-void frmStatZavodi::cmdExportAllStat_Click()
-{
-    RunExport(
-        this, cdlSave, AllStatTexts, [] { return "statistika_svi_zavodi.csv"; },
-        [this](const std::string& path) { ExportAllDepartments(path, CurrentFilter()); });
-}
-
-void frmStatZavodi::cmdClose_Click()
-{
-    Close();
+    ExportAllDepartments(path, CurrentFilter());
 }

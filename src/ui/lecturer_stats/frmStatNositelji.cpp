@@ -4,14 +4,8 @@
 #include "ui/controls/CenterForm.h"
 #include "ui/controls/Choices.h"
 #include "ui/controls/Controls.h"
-#include "ui/controls/ExportCommand.h"
-#include "ui/controls/ListPairSizer.h"
-#include "ui/controls/ListView.h"
-#include "ui/controls/SortMemory.h"
-#include "ui/controls/Strings.h"
 #include "ui/teaching_stats/TaughtCourses.h"
 
-#include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/listbox.h>
 #include <wx/panel.h>
@@ -21,47 +15,36 @@
 namespace
 {
 
-// The misspelling is the window's own.
-constexpr std::string_view Caption = "Nostielji";
-
 constexpr ListColumn StatColumns[] = {
     {"Semestar", 900}, {"Tip", 1200},           {"P", 700}, {"S", 700}, {"V", 700},
     {"ECTS", 900},     {"Broj kolegija", 1200},
 };
 
-constexpr ExportTexts AllStatTexts = {.DialogTitle = "Spremi statistiku nastavnika",
-                                      .Success = "Statistika za sve nastavnike je eksportirana u:",
-                                      .MessageTitle = "Izvoz završen"};
-
-const wxSize InitialSize = {980, 740}; // at 96 dots to the inch
-const wxSize SmallestSize = {680, 480};
-
 } // namespace
 
 frmStatNositelji::frmStatNositelji(wxWindow* parent)
+    : TeachingLoadWindow(parent, {.Name = "frmStatNositelji",
+                                  .Caption = "Nostielji", // the misspelling is the window's own
+                                  .SumsName = "lvwStat",
+                                  .SumsColumns = StatColumns,
+                                  .Export = {.DialogTitle = "Spremi statistiku nastavnika",
+                                             .Success = "Statistika za sve nastavnike je eksportirana u:",
+                                             .MessageTitle = "Izvoz završen"},
+                                  .ExportName = "statistika_svi_nastavnici.csv"})
 {
-    Create(parent, wxID_ANY, ToWx(Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
-           "frmStatNositelji");
-    ApplyAppStyle(*this);
-    Panel = new wxPanel(this);
-
-    // The controls are made in tab order: lecturers, filters, lists, buttons.
-    auto* content = new wxBoxSizer(wxHORIZONTAL);
-    content->Add(NastavniciColumn(), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * Gap(this)));
+    auto* controls = new wxBoxSizer(wxHORIZONTAL);
+    controls->Add(NastavniciColumn(), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * Gap(this)));
     auto* right = new wxBoxSizer(wxVERTICAL);
     right->Add(FilterRow(), wxSizerFlags().Expand().Border(wxBOTTOM, Gap(this)));
-    lvwKolegiji = new ListView(Panel, "lvwKolegiji", "Kolegiji");
-    lvwStat = new ListView(Panel, "lvwStat", "Statistika");
-    right->Add(new ListPairSizer(lvwKolegiji, lvwStat), wxSizerFlags(1).Expand());
-    right->Add(Buttons(), wxSizerFlags().Expand().Border(wxTOP, Gap(this)));
-    content->Add(right, wxSizerFlags(4).Expand());
-    auto* margin = new wxBoxSizer(wxVERTICAL);
-    margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap(this)));
-    Panel->SetSizer(margin);
-    UseClientSizes(*this, *margin, InitialSize, SmallestSize);
+    right->Add(NewLists(), wxSizerFlags(1).Expand());
+    right->Add(NewButtons(), wxSizerFlags().Expand().Border(wxTOP, Gap(this)));
+    controls->Add(right, wxSizerFlags(4).Expand());
+    SetLayout(controls);
 
+    lstNastavnici->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { ShowSelected(); });
+    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ShowSelected(); });
+    cboProgram->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ShowSelected(); });
     ReportEveryChoice(*lstNastavnici);
-    BindEvents();
     Form_Load();
 }
 
@@ -83,27 +66,6 @@ wxSizer* frmStatNositelji::FilterRow()
     return row;
 }
 
-wxSizer* frmStatNositelji::Buttons()
-{
-    auto* row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(cmdExportAllStat = NewButton(Panel, "cmdExportAllStat", "E&xport"));
-    row->AddStretchSpacer();
-    row->Add(cmdClose = NewButton(Panel, "cmdClose", "&Zatvori"));
-    return row;
-}
-
-void frmStatNositelji::BindEvents()
-{
-    lstNastavnici->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { lstNastavnici_Click(); });
-    cboRazina->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboRazina_Click(); });
-    cboProgram->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { cboProgram_Click(); });
-    lvwKolegiji->OnColumnClick([this](int column) { lvwKolegiji_ColumnClick(column); });
-    lvwStat->OnColumnClick([this](int column) { lvwStat_ColumnClick(column); });
-    cmdExportAllStat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdExportAllStat_Click(); });
-    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { cmdClose_Click(); });
-    CloseByEscape(*this);
-}
-
 void frmStatNositelji::Form_Load()
 {
     FillChoices(*cboRazina, WithSvi(RazinaChoices()));
@@ -112,10 +74,7 @@ void frmStatNositelji::Form_Load()
     SelectFirst(*cboProgram);
     FillChoices(*lstNastavnici, NastavnikChoices());
     LetFocusSelectNothing(*lstNastavnici);
-    lvwKolegiji->SetColumns(TaughtCourseColumns);
-    lvwKolegiji->SetEmptyText("Odaberite nastavnika.");
-    lvwStat->SetColumns(StatColumns);
-    Panel->Layout(); // the lists have headers now
+    SetEmptyText("Odaberite nastavnika.");
     CenterForm(*this);
     Show();
     lstNastavnici->SetFocus();
@@ -128,48 +87,15 @@ LecturerFilter frmStatNositelji::CurrentFilter() const
 
 void frmStatNositelji::ShowSelected()
 {
-    lvwKolegiji->SetEmptyText(NoCourses);
-    lvwKolegiji->ShowRows(LecturerCourseRows(m_selectedNastavnikID, CurrentFilter()));
-    lvwStat->ShowRows(LecturerTeachingLoadRows(m_selectedNastavnikID, CurrentFilter()));
-    Panel->Layout(); // the sums are as high as their rows
-}
-
-void frmStatNositelji::lstNastavnici_Click()
-{
     if (lstNastavnici->GetSelection() == wxNOT_FOUND)
         return;
-    m_selectedNastavnikID = SelectedData(*lstNastavnici);
-    ShowSelected();
+    const std::int32_t nastavnikID = SelectedData(*lstNastavnici);
+    SetEmptyText(NoCourses);
+    ShowCourses(LecturerCourseRows(nastavnikID, CurrentFilter()));
+    ShowSums(LecturerTeachingLoadRows(nastavnikID, CurrentFilter()));
 }
 
-void frmStatNositelji::cboRazina_Click()
+void frmStatNositelji::ExportAll(const std::string& path) const
 {
-    lstNastavnici_Click(); // shows the selected lecturer by the new filter
-}
-
-void frmStatNositelji::cboProgram_Click()
-{
-    lstNastavnici_Click();
-}
-
-void frmStatNositelji::lvwKolegiji_ColumnClick(int column)
-{
-    SortListViewByColumn(*lvwKolegiji, column);
-}
-
-void frmStatNositelji::lvwStat_ColumnClick(int column)
-{
-    SortListViewByColumn(*lvwStat, column);
-}
-
-void frmStatNositelji::cmdExportAllStat_Click()
-{
-    RunExport(
-        this, cdlSave, AllStatTexts, [] { return "statistika_svi_nastavnici.csv"; },
-        [this](const std::string& path) { ExportAllLecturers(path, CurrentFilter()); });
-}
-
-void frmStatNositelji::cmdClose_Click()
-{
-    Close();
+    ExportAllLecturers(path, CurrentFilter());
 }
