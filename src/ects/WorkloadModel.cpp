@@ -145,7 +145,7 @@ void WorkloadModel::UpdateWarnings()
 {
     const std::string_view warning = FirstWarning();
     m_fields.Upozorenje = warning.empty() ? NoWarning : warning;
-    m_fields.BojaUpozorenja = warning.empty() ? ListColours::Blue : ListColours::Red;
+    m_fields.BojaUpozorenja = warning.empty() ? TextColours::Blue : TextColours::Red;
 }
 
 std::string_view WorkloadModel::FirstWarning() const

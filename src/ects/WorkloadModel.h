@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/controls/ListModel.h"
+#include "ui/controls/TextColour.h"
 
 #include <array>
 #include <cstddef>
@@ -97,7 +97,7 @@ struct WorkloadFields
     std::string SatiPoEcts; ///< The chosen hours per point; empty when none is chosen.
 
     std::string_view Upozorenje;
-    ListColour BojaUpozorenja = ListColours::Red;
+    TextColour BojaUpozorenja = TextColours::Red;
 };
 
 /// Estimates a student's workload for a course in hours per semester, and converts it to ECTS points. Every

@@ -106,9 +106,9 @@ std::vector<ListRow> TeachingLoadRows(const TeachingLoadSums& sums, const Teachi
         std::vector<std::string> texts = {std::string(line.First), std::string(line.Second)};
         for (const std::int32_t number : line.Sums.Numbers())
             texts.push_back(std::to_string(number));
-        rows.push_back(UniformRow(texts, ListColours::Black, line.IsTotal));
+        rows.push_back(UniformRow(texts, TextColours::Black, line.IsTotal));
         if (style.FlagsOverfull && line.IsOverfull)
-            rows.back()[EctsColumn].Colour = ListColours::Red;
+            rows.back()[EctsColumn].Colour = TextColours::Red;
     }
     return rows;
 }

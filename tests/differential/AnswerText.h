@@ -56,7 +56,7 @@ inline std::string Shown(const std::vector<ListRow>& rows)
     {
         for (const ListCell& cell : row)
             text += "[" + cell.Text + (cell.Bold ? "*" : "") +
-                    (cell.Colour == ListColours::Black ? "" : "#" + std::to_string(cell.Colour)) + "]";
+                    (cell.Colour == TextColours::Black ? "" : "#" + std::to_string(cell.Colour)) + "]";
         text += "\n";
     }
     return text;

@@ -8,6 +8,7 @@
 #include <wx/textbuf.h>
 #include <wx/timer.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -82,20 +83,23 @@ void RightClick(const ListView* list, int row)
 }
 
 /// The shown texts of a row, in the form of the copy.
+/// The texts of a list's columns, with tabs between.
+std::string Line(const ListView* list, const std::function<wxString(int column)>& text)
+{
+    wxString line = text(0);
+    for (int column = 1; column < list->ColumnCount(); ++column)
+        line << "\t" << text(column);
+    return line.utf8_string();
+}
+
 std::string RowLine(const ListView* list, int row)
 {
-    std::string line = list->Text(row, 0);
-    for (int column = 1; column < list->ColumnCount(); ++column)
-        line += "\t" + list->Text(row, column);
-    return line;
+    return Line(list, [=](int column) { return list->CellText(row, column); });
 }
 
 std::string CaptionLine(const ListView* list)
 {
-    std::string line = list->ColumnCaption(0).utf8_string();
-    for (int column = 1; column < list->ColumnCount(); ++column)
-        line += "\t" + list->ColumnCaption(column).utf8_string();
-    return line;
+    return Line(list, [=](int column) { return list->ColumnCaption(column); });
 }
 
 class CourseListMenu : public CourseEditor

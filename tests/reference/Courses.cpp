@@ -87,8 +87,8 @@ ListRow CourseRow(const Catalogue& catalogue, const TextRow& kolegij)
     texts.push_back(SmjeroviString(catalogue, id));
     texts.push_back(NastavniciString(catalogue, id));
 
-    const ListColour colour =
-        Reads(Field(kolegiji, kolegij, Kolegij::Tip), "IZBORNI") ? ListColours::Blue : ListColours::Black;
+    const TextColour colour =
+        Reads(Field(kolegiji, kolegij, Kolegij::Tip), "IZBORNI") ? TextColours::Blue : TextColours::Black;
     ListRow row;
     for (const std::string& text : texts)
         row.push_back({text, colour, false});

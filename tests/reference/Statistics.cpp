@@ -41,9 +41,9 @@ void AddTo(Sums& sums, const Sums& more)
 
 ListRow SumRow(const std::string& first, const std::string& second, const Sums& sums, bool bold)
 {
-    ListRow row = {{first, ListColours::Black, bold}, {second, ListColours::Black, bold}};
+    ListRow row = {{first, TextColours::Black, bold}, {second, TextColours::Black, bold}};
     for (const std::int32_t sum : sums)
-        row.push_back({std::to_string(sum), ListColours::Black, bold});
+        row.push_back({std::to_string(sum), TextColours::Black, bold});
     return row;
 }
 
@@ -69,7 +69,7 @@ std::vector<ListRow> SumRows(const Table& table, const Wording& wording, std::si
             const Sums& sums = table[type][s - 1];
             rows.push_back(SumRow(std::to_string(s), names[type], sums, false));
             if (wording.RedAbove30 && sums[EctsValue] > 30)
-                rows.back()[5].Colour = ListColours::Red;
+                rows.back()[5].Colour = TextColours::Red;
         }
     }
 
@@ -156,8 +156,8 @@ ListRow TaughtRow(const Catalogue& catalogue, const TextRow& kolegij, Reading re
     texts.push_back(TextOfID(catalogue.Studiji, studijID, Studij::Kratica));
     texts.push_back(GetNositeljiString(catalogue, kolegijID));
 
-    const ListColour colour =
-        Reads(Field(kolegiji, kolegij, Kolegij::Tip), "IZBORNI") ? ListColours::Blue : ListColours::Black;
+    const TextColour colour =
+        Reads(Field(kolegiji, kolegij, Kolegij::Tip), "IZBORNI") ? TextColours::Blue : TextColours::Black;
     ListRow row;
     for (const std::string& text : texts)
         row.push_back({text, colour, false});

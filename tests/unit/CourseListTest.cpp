@@ -205,7 +205,7 @@ TEST(CourseList, AnElectiveIsBlueInEveryColumnAndAnyOtherCourseBlack)
     {
         ASSERT_EQ(rows[row].size(), 11U);
         for (const ListCell& cell : rows[row])
-            EXPECT_EQ(cell.Colour, row == 1 ? ListColours::Blue : ListColours::Black) << row;
+            EXPECT_EQ(cell.Colour, row == 1 ? TextColours::Blue : TextColours::Black) << row;
     }
 }
 

@@ -82,7 +82,7 @@ TEST(DepartmentStatistics, DrawsElectivesBlueInEveryCellAndTheOthersBlack)
     {
         EXPECT_EQ(rows[i].size(), 9U);
         for (const ListCell& cell : rows[i])
-            EXPECT_EQ(cell.Colour, i == 0 ? ListColours::Blue : ListColours::Black) << i;
+            EXPECT_EQ(cell.Colour, i == 0 ? TextColours::Blue : TextColours::Black) << i;
     }
 }
 
@@ -254,7 +254,7 @@ TEST(DepartmentStatistics, NothingIsRedAndOnlyTheTotalsAreBold)
     for (std::size_t row = 0; row < rows.size(); ++row)
         for (const ListCell& cell : rows[row])
         {
-            EXPECT_EQ(cell.Colour, ListColours::Black) << row;
+            EXPECT_EQ(cell.Colour, TextColours::Black) << row;
             EXPECT_EQ(cell.Bold, row >= 12) << row;
         }
 }

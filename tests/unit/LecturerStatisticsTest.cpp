@@ -82,7 +82,7 @@ TEST(LecturerStatistics, DrawsElectivesBlueInEveryCellAndTheOthersBlack)
         EXPECT_EQ(rows[i].size(), 9U);
         for (const ListCell& cell : rows[i])
         {
-            EXPECT_EQ(cell.Colour, i < 2 ? ListColours::Blue : ListColours::Black) << i;
+            EXPECT_EQ(cell.Colour, i < 2 ? TextColours::Blue : TextColours::Black) << i;
             EXPECT_FALSE(cell.Bold) << i;
         }
     }
@@ -220,7 +220,7 @@ TEST(LecturerStatistics, MoreThan30EctsAreRedInOneSemesterAndTypeAlone)
         for (std::size_t column = 0; column < rows[row].size(); ++column)
         {
             const bool overfull = column == 5 && (row == 3 || row == 10);
-            EXPECT_EQ(rows[row][column].Colour, overfull ? ListColours::Red : ListColours::Black)
+            EXPECT_EQ(rows[row][column].Colour, overfull ? TextColours::Red : TextColours::Black)
                 << row << ", " << column;
             EXPECT_EQ(rows[row][column].Bold, row >= 12) << row << ", " << column;
         }

@@ -19,7 +19,7 @@ TEST(ListModel, EveryOtherTypeIsBlack)
 
 TEST(ListModel, TheCellsOfAUniformRowLookAlike)
 {
-    const ListRow row = UniformRow({"a", "", "b"}, ListColours::Red, true);
+    const ListRow row = UniformRow({"a", "", "b"}, TextColours::Red, true);
     ASSERT_EQ(row.size(), 3U);
     EXPECT_EQ(row[0].Text + row[1].Text + row[2].Text, "ab");
     for (const ListCell& cell : row)
@@ -31,12 +31,12 @@ TEST(ListModel, TheCellsOfAUniformRowLookAlike)
 
 TEST(ListModel, KeptRowsAnswerForTheirCells)
 {
-    const KeptRows rows({{{"a"}, {"b", ListColours::Red, true}}, {{"c", ListColours::Blue}, {""}}});
+    const KeptRows rows({{{"a"}, {"b", TextColours::Red, true}}, {{"c", TextColours::Blue}, {""}}});
     ASSERT_EQ(rows.RowCount(), 2U);
     EXPECT_EQ(rows.Text(0, 0) + rows.Text(0, 1) + rows.Text(1, 0) + rows.Text(1, 1), "abc");
     EXPECT_EQ(rows.Style(0, 0), CellStyle());
-    EXPECT_EQ(rows.Style(0, 1), (CellStyle{ListColours::Red, true}));
-    EXPECT_EQ(rows.Style(1, 0), (CellStyle{ListColours::Blue, false}));
+    EXPECT_EQ(rows.Style(0, 1), (CellStyle{TextColours::Red, true}));
+    EXPECT_EQ(rows.Style(1, 0), (CellStyle{TextColours::Blue, false}));
 }
 
 } // namespace

@@ -179,7 +179,7 @@ TEST(SemesterStatistics, MoreThan30EctsOfASemestersTypeAreRedInTheirCellAlone)
         {
             const bool overfull = (row[0].Text == "2" && row[1].Text == "Obvezni") ||
                                   (row[0].Text == "3" && row[1].Text == "Izborni");
-            EXPECT_EQ(row[column].Colour, overfull && column == 5 ? ListColours::Red : ListColours::Black)
+            EXPECT_EQ(row[column].Colour, overfull && column == 5 ? TextColours::Red : TextColours::Black)
                 << row[0].Text << " " << row[1].Text << " column " << column;
         }
 }

@@ -19,7 +19,7 @@ std::string Shown(const ListRow& row)
     for (const ListCell& cell : row)
     {
         shown += shown.empty() ? "" : "|";
-        shown += (cell.Bold ? "*" : "") + std::string(cell.Colour == ListColours::Red ? "!" : "") + cell.Text;
+        shown += (cell.Bold ? "*" : "") + std::string(cell.Colour == TextColours::Red ? "!" : "") + cell.Text;
     }
     return shown;
 }

@@ -33,7 +33,7 @@ TEST(WorkloadModel, ShowsZerosForAnEmptyForm)
         EXPECT_EQ(fields.OstaleMetodeUkupno, zero);
         EXPECT_EQ(fields.UkupnoOpter, (std::array{zero, zero, zero, zero + "0", zero + "0"}));
         EXPECT_EQ(fields.Upozorenje, NoPages);
-        EXPECT_EQ(fields.BojaUpozorenja, ListColours::Red);
+        EXPECT_EQ(fields.BojaUpozorenja, TextColours::Red);
         EXPECT_EQ(fields.KontaktniSati, (std::array<std::string, 3>{})) << "entries stay as they are";
     }
 }
@@ -234,7 +234,7 @@ TEST(WorkloadModel, WarnsOfTheFirstThingThatIsWrong)
     {
         fields = Recalculated(fields);
         EXPECT_EQ(fields.BojaUpozorenja,
-                  fields.Upozorenje == NoWarning ? ListColours::Blue : ListColours::Red);
+                  fields.Upozorenje == NoWarning ? TextColours::Blue : TextColours::Red);
         return fields.Upozorenje;
     };
 

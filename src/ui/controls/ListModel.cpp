@@ -6,12 +6,12 @@
 #include <algorithm>
 #include <numeric>
 
-ListColour ElectiveColour(std::string_view tip)
+TextColour ElectiveColour(std::string_view tip)
 {
-    return EqualsIgnoreCase(tip, "IZBORNI") ? ListColours::Blue : ListColours::Black;
+    return EqualsIgnoreCase(tip, "IZBORNI") ? TextColours::Blue : TextColours::Black;
 }
 
-ListRow UniformRow(const std::vector<std::string>& texts, ListColour colour, bool bold)
+ListRow UniformRow(const std::vector<std::string>& texts, TextColour colour, bool bold)
 {
     ListRow row;
     for (const std::string& text : texts)

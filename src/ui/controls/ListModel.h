@@ -1,24 +1,15 @@
 #pragma once
 
+#include "ui/controls/TextColour.h"
+
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-/// A colour in the platform's form: 0xBBGGRR.
-using ListColour = std::uint32_t;
-
-namespace ListColours
-{
-inline constexpr ListColour Black = 0x000000;
-inline constexpr ListColour Red = 0x0000FF;
-inline constexpr ListColour Blue = 0xFF0000;
-} // namespace ListColours
-
 /// The colour of a course's row in every course list, by the text of its type: blue for an elective.
-ListColour ElectiveColour(std::string_view tip);
+TextColour ElectiveColour(std::string_view tip);
 
 /// A column of a list: its caption (UTF-8) and its width in twips (1440 to the inch) for text of the usual
 /// size. The column gets wider for larger text, and for a caption that would not fit.
@@ -31,7 +22,7 @@ struct ListColumn
 /// The look of a cell.
 struct CellStyle
 {
-    ListColour Colour = ListColours::Black;
+    TextColour Colour = TextColours::Black;
     bool Bold = false;
 
     bool operator==(const CellStyle&) const = default;
@@ -56,7 +47,7 @@ public:
 struct ListCell
 {
     std::string Text;
-    ListColour Colour = ListColours::Black;
+    TextColour Colour = TextColours::Black;
     bool Bold = false;
 };
 
@@ -64,7 +55,7 @@ struct ListCell
 using ListRow = std::vector<ListCell>;
 
 /// A row whose cells all have the same look.
-ListRow UniformRow(const std::vector<std::string>& texts, ListColour colour, bool bold = false);
+ListRow UniformRow(const std::vector<std::string>& texts, TextColour colour, bool bold = false);
 
 /// Rows with texts of their own: they stay when the tables change.
 class KeptRows : public ListModel

@@ -41,7 +41,7 @@ public:
             return false;
         const CellStyle style = m_view.Style(static_cast<int>(row), static_cast<int>(column));
         // Black is the theme's text colour, which may be light on dark.
-        if (style.Colour != ListColours::Black)
+        if (style.Colour != TextColours::Black)
             attr.SetColour(ReadableColour(wxColour(style.Colour), wxSYS_COLOUR_LISTBOX));
         attr.SetBold(style.Bold);
         return style != CellStyle();

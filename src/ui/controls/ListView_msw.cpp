@@ -30,6 +30,8 @@ public:
           m_view(view),
           m_toView(std::move(listener))
     {
+        // The system's own tips show the first column alone.
+        ListView_SetExtendedListViewStyleEx(GetHWND(), LVS_EX_LABELTIP, 0);
         Bind(wxEVT_LIST_COL_CLICK,
              [this](wxListEvent& event)
              {
@@ -47,12 +49,6 @@ public:
     void AddColumn(const wxString& caption, int pixels) override
     {
         AppendColumn(caption, wxLIST_FORMAT_LEFT, pixels);
-    }
-
-    void ColumnsComplete() override
-    {
-        // The system's own tips show the first column alone.
-        ListView_SetExtendedListViewStyleEx(GetHWND(), LVS_EX_LABELTIP, 0);
     }
 
     int CaptionWidth(const wxString& caption) const override
@@ -184,7 +180,7 @@ protected:
         if (!IsShown(row))
             return &m_attributes;
         const CellStyle style = m_view.Style(static_cast<int>(row), static_cast<int>(column));
-        if (style.Colour != ListColours::Black)
+        if (style.Colour != TextColours::Black)
             m_attributes.SetTextColour(ReadableColour(wxColour(style.Colour), wxSYS_COLOUR_LISTBOX));
         if (style.Bold)
             m_attributes.SetFont(GetFont().Bold());

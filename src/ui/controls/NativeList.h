@@ -29,7 +29,10 @@ public:
 
     virtual wxWindow* Window() = 0;
     virtual void AddColumn(const wxString& caption, int pixels) = 0;
-    virtual void ColumnsComplete() = 0;
+
+    /// Called after the last column was added.
+    virtual void ColumnsComplete() {}
+
     virtual int ColumnWidth(int column) const = 0;
 
     /// The smallest width in pixels in which a column shows this caption whole.
