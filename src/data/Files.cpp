@@ -194,7 +194,7 @@ void MakeFolders(std::string_view path)
     const fs::path folder = ToPath(path);
     if (FactsOf(folder, path).Type == FileType::Folder)
         return;
-    if (folder.has_relative_path() && folder.parent_path() != folder)
+    if (folder.has_relative_path())
         MakeFolders(ToText(folder.parent_path()));
     Require(Files.MakeFolder(folder), path);
 }

@@ -40,10 +40,9 @@ constexpr std::array<std::uint8_t, ByteTableSize> ByteTable = []
     return table;
 }();
 
+/// The byte of a character beyond ASCII.
 char ByteOf(char32_t character)
 {
-    if (character < 0x80)
-        return static_cast<char>(character);
     const std::uint8_t byte = character < ByteTableSize ? ByteTable[character] : 0;
     return byte == 0 ? '?' : static_cast<char>(byte);
 }
