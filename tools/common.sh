@@ -94,9 +94,10 @@ settle() {
 # Runs a command on a separate virtual display.
 on_virtual_display() {
     # Without the accessibility bus there would only be warnings. The windows must not go to a Wayland desktop. Two
-    # displays that start at once could get the same number, so begin at a random one.
+    # displays that start at once could get the same number, so begin at a random one. Without -noreset the display
+    # starts afresh when its last client leaves, and refuses a client that comes just then.
     env -u WAYLAND_DISPLAY NO_AT_BRIDGE=1 xvfb-run -a -n $((100 + RANDOM % 900)) \
-        -s "-screen 0 1280x800x24 -nolisten tcp" "$@"
+        -s "-screen 0 1280x800x24 -nolisten tcp -noreset" "$@"
 }
 
 # use_wine FOLDER: sets up a new Wine folder and silences Wine's own messages.
