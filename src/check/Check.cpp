@@ -30,7 +30,8 @@ FileContent ReadContent(const std::string& folder, std::string_view name)
         if (TypeOf(path) != FileType::Missing)
             content.Bytes = ReadFile(path);
         if (!content.Bytes || content.Bytes->empty() || content.Bytes == modData::Utf8Mark)
-            content.Failure = InputPastEnd(path); // at its start the program creates a missing file, empty
+            content.Failure =
+                InputPastEnd(path); // the program's start creates a missing file empty, and then fails on it
     }
     catch (const FileError& error)
     {
@@ -88,7 +89,8 @@ void Validate(Findings& findings)
         }
 }
 
-/// Leaves out repeated findings: an error that many rows cause at one place, and a danger at the same place.
+/// Leaves out repeated findings: an error that many rows cause at one place, and every danger or note at the
+/// place of an error. The errors must come first.
 void RemoveRepeated(Findings& findings)
 {
     std::set<std::pair<Position, std::string>> errors;
@@ -107,7 +109,7 @@ void RemoveRepeated(Findings& findings)
 Findings FindInTables(const Contents& contents)
 {
     Findings findings;
-    Validate(findings); // first: a danger at the place of an error is left out later
+    Validate(findings); // first, for RemoveRepeated
     FindInRows(findings);
     const auto tables = modData::AllTables();
     std::vector<EditorLines> lines;

@@ -26,12 +26,6 @@ CatalogueLock::~CatalogueLock()
         Files.Unlock(m_lock);
 }
 
-void RequireDone(std::error_code failure, std::string_view path)
-{
-    if (failure)
-        throw FileError(failure, path);
-}
-
 void MakeWholeFolder(const CatalogueOnDisk& files, const std::string& folder, const FillFolder& fill)
 {
     const std::string unfinished = folder + ".dio";

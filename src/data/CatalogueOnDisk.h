@@ -34,11 +34,8 @@ private:
     bool m_held = false;
 };
 
-/// Throws if an operation failed; `path` is its file or folder. @throws FileError
-void RequireDone(std::error_code failure, std::string_view path);
-
-/// Makes a folder that is filled by `fill`. It appears under its name whole and durable, or not at all: until
-/// it is filled, its name ends in ".dio". @throws FileError, and what `fill` throws
+/// Makes a folder that is filled by `fill`. It appears under its name whole, or not at all: until it is
+/// filled and flushed, its name ends in ".dio". @throws FileError, and what `fill` throws
 void MakeWholeFolder(const CatalogueOnDisk& files, const std::string& folder, const FillFolder& fill);
 
 /// Removes the files of a catalogue from a folder, and the folder if nothing else is in it. Best effort.

@@ -30,8 +30,8 @@ bool IsSetComplete(const CatalogueOnDisk& files)
     return TypeOf(MarkOf(files)) == FileType::File;
 }
 
-/// Throws for a folder that is read-only, even for root.
-void RequireWritable(const std::string& folder)
+/// Throws for a folder that is marked read-only, also for root, who could write all the same.
+void RequireWritableFolder(const std::string& folder)
 {
     FileFacts facts;
     RequireDone(Files.Inspect(ToPath(folder), facts), folder);
@@ -159,7 +159,7 @@ void Save(const CatalogueOnDisk& files, const FillFolder& fill)
 {
     try
     {
-        RequireWritable(files.Folder);
+        RequireWritableFolder(files.Folder);
         RemoveSet(files);
         MakeFolders(SetOf(files));
         fill(SetOf(files));

@@ -80,7 +80,7 @@ public:
 };
 
 /// A file or folder could not be found, read or written. A function that writes a file leaves the old file
-/// whole when it throws this.
+/// or the new one when it throws this, never a part.
 class FileError : public RuntimeError
 {
 public:

@@ -19,7 +19,7 @@ enum class FileType
 struct FileFacts
 {
     FileType Type = FileType::Missing;
-    bool Writable = false; ///< False if read-only, even for root.
+    bool Writable = false; ///< False if marked read-only; also for root, who could write all the same.
 };
 
 enum class OpenFor

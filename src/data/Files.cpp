@@ -15,19 +15,12 @@ using System::Files;
 namespace
 {
 
-/// Throws the failure of an operation; `path` is the name that the error shows.
-void Require(std::error_code failure, std::string_view path)
-{
-    if (failure)
-        throw FileError(failure, path);
-}
-
 class OpenFile
 {
 public:
     OpenFile(const fs::path& file, OpenFor purpose, std::string_view path) : m_path(path)
     {
-        Require(Files.Open(file, purpose, m_handle), path);
+        RequireDone(Files.Open(file, purpose, m_handle), path);
     }
     ~OpenFile()
     {
@@ -45,12 +38,12 @@ public:
         for (std::size_t count = 1; count > 0 && content.size() < limit; content.append(buffer.data(), count))
         {
             const std::size_t wanted = std::min(buffer.size(), limit - content.size());
-            Require(Files.Read(m_handle, {buffer.data(), wanted}, count), m_path);
+            RequireDone(Files.Read(m_handle, {buffer.data(), wanted}, count), m_path);
         }
         return content;
     }
 
-    void Write(std::string_view content) { Require(Files.Write(m_handle, content), m_path); }
+    void Write(std::string_view content) { RequireDone(Files.Write(m_handle, content), m_path); }
 
     /// Copies the mode and owner of another file, where the file system has them.
     void TakeAccess(const fs::path& model) { Files.TakeAccess(m_handle, model); }
@@ -58,9 +51,9 @@ public:
     /// Flushes to disk and closes.
     void Finish()
     {
-        Require(Files.Flush(m_handle), m_path);
+        RequireDone(Files.Flush(m_handle), m_path);
         m_isOpen = false;
-        Require(Files.Close(m_handle), m_path);
+        RequireDone(Files.Close(m_handle), m_path);
     }
 
 private:
@@ -72,7 +65,7 @@ private:
 FileFacts FactsOf(const fs::path& file, std::string_view path)
 {
     FileFacts facts;
-    Require(Files.Inspect(file, facts), path);
+    RequireDone(Files.Inspect(file, facts), path);
     return facts;
 }
 
@@ -135,7 +128,7 @@ enum class Unused
 void WriteBesideAndReplace(const fs::path& file, const fs::path& temporary, std::string_view content,
                            std::string_view path, Unused unused)
 {
-    Require(Files.RemoveFile(temporary), path); // of an earlier run
+    RequireDone(Files.RemoveFile(temporary), path); // of an earlier run
     WriteNew(temporary, content, file, path);
     if (const std::error_code failure = Files.Rename(temporary, file))
     {
@@ -143,10 +136,16 @@ void WriteBesideAndReplace(const fs::path& file, const fs::path& temporary, std:
             Files.RemoveFile(temporary);
         throw FileError(failure, path);
     }
-    Require(Files.FlushFolder(FolderOf(file)), path);
+    RequireDone(Files.FlushFolder(FolderOf(file)), path);
 }
 
 } // namespace
+
+void RequireDone(std::error_code failure, std::string_view path)
+{
+    if (failure)
+        throw FileError(failure, path);
+}
 
 fs::path ToPath(std::string_view path)
 {
@@ -196,7 +195,7 @@ void MakeFolders(std::string_view path)
         return;
     if (folder.has_relative_path())
         MakeFolders(ToText(folder.parent_path()));
-    Require(Files.MakeFolder(folder), path);
+    RequireDone(Files.MakeFolder(folder), path);
 }
 
 void ReplaceFile(std::string_view path, std::string_view content)
@@ -226,7 +225,7 @@ void CheckWritable(std::string_view path)
     if (facts.Type == FileType::Other)
         return;
     const fs::path temporary = TemporaryNameFor(file);
-    Require(Files.RemoveFile(temporary), path); // of an earlier run
+    RequireDone(Files.RemoveFile(temporary), path); // of an earlier run
     WriteNew(temporary, "", file, path);
     Files.RemoveFile(temporary);
 }

@@ -4,12 +4,16 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 /// The path that a UTF-8 text names.
 std::filesystem::path ToPath(std::string_view path);
 
 /// A path as UTF-8 text.
 std::string ToText(const std::filesystem::path& path);
+
+/// Throws if an operation failed; `path` is its file or folder. @throws FileError
+void RequireDone(std::error_code failure, std::string_view path);
 
 /// The path of a file or folder in a folder.
 std::string PathIn(std::string_view folder, std::string_view name);
@@ -24,7 +28,8 @@ void CreateFileIfMissing(std::string_view path);
 void MakeFolders(std::string_view path);
 
 /// Replaces the content of a file; creates the file if missing. The content goes to a temporary file beside
-/// it, which is flushed to disk and renamed to the file: a failure leaves the old file whole.
+/// it, which is flushed to disk and renamed to the file: a failure leaves the old file or, if only the last
+/// flush fails, the new one.
 /// @throws FileError, also for a file or folder that is read-only
 void ReplaceFile(std::string_view path, std::string_view content);
 
@@ -32,7 +37,8 @@ void ReplaceFile(std::string_view path, std::string_view content);
 void CheckWritable(std::string_view path);
 
 /// The temporary file of ReplaceFile. Its name contains the process ID, so that two copies of the program do
-/// not share one. Never longer than the file's own name, which the system accepts.
+/// not share one. A name of more than 100 characters is shortened, so that the system accepts the temporary
+/// one too.
 std::filesystem::path TemporaryNameFor(std::filesystem::path file);
 
 /// As ReplaceFile, but the temporary file is `path` with ".tmp" at its end. If it is whole and cannot replace

@@ -66,9 +66,8 @@ private:
     std::uint32_t m_lineNumber = 0; // in the file; 0 if no file holds the row yet
 };
 
-/// The rows of a table that hold a number in a column, in table order, for a loop. The loop gives what a scan
-/// of all rows would give, errors included: if a row cannot be compared, the step after the last match before
-/// it throws its DataError.
+/// The rows of a table that hold a number in a column, in table order, for a loop. If a row cannot be
+/// compared, the loop throws that row's DataError after the last match before it, as a scan would.
 class Matches
 {
 public:

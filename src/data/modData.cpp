@@ -49,9 +49,9 @@ constexpr TableLayout KolegijSmjerLayout = {"db_kolegij_smjer.csv", KolegijSmjer
 constexpr TableLayout KolegijNastavnikLayout = {"db_kolegij_nastavnik.csv", KolegijNastavnikColumns};
 
 /// The folder that the Save functions write into; if empty, each replaces its own file.
-std::string SetFolder;
+std::string TargetFolder;
 
-/// Held once a whole catalogue is loaded; other copies of the program see it.
+/// Held once a whole catalogue is loaded: the check of a catalogue mends nothing meanwhile.
 std::unique_ptr<CatalogueLock> Running;
 
 std::string FilePath(const Table& table)
@@ -111,10 +111,10 @@ TextFile FileOf(const Table& table)
 void Save(const Table& table)
 {
     const std::string path = FilePath(table);
-    if (SetFolder.empty())
+    if (TargetFolder.empty())
         SaveTable(path, table.Layout().Header(), table);
     else
-        WriteNewFile(PathIn(SetFolder, table.Layout().FileName), FileOf(table).Content(), path);
+        WriteNewFile(PathIn(TargetFolder, table.Layout().FileName), FileOf(table).Content(), path);
 }
 
 void SaveEach()
@@ -128,10 +128,10 @@ void SaveEachInto(const std::string& folder)
 {
     struct Restore
     {
-        ~Restore() { SetFolder.clear(); }
+        ~Restore() { TargetFolder.clear(); }
     };
     const Restore after;
-    SetFolder = folder;
+    TargetFolder = folder;
     SaveEach();
 }
 
@@ -209,7 +209,7 @@ std::string DataFolderPath()
     if (base.empty())
         base = System::EnvironmentVariable("USERPROFILE") + separator + "Local Settings" + separator +
                "Application Data";
-    if (base.empty())
+    if (base.empty()) // cannot happen: the path above is never empty
         return System::ProgramFolder();
     return base + separator + "Varlostudiji";
 }

@@ -159,13 +159,13 @@ void SaveKolegijSmjerovi();
 void SaveKolegijNastavnici();
 
 /// Finishes an interrupted save, then loads the seven tables. If a conversion to windows-1250 would lose
-/// letters, the catalogue is copied first. Another copy of the program waits meanwhile; from then on it sees
-/// that this one runs.
+/// letters, the catalogue is copied first. Another copy of the program waits meanwhile. From then on the
+/// check of a catalogue sees that a program runs, and mends nothing.
 /// @throws FileError, InputPastEnd; SaveNotFinished before anything is loaded
 void LoadAllTables();
 
 /// Saves the seven tables, all or none (data/CatalogueSave.h). If the files already hold the same, each file
-/// is written by itself.
+/// is written by itself: no copy is needed, and a file that cannot be written is still reported.
 /// @throws FileError; SaveNotFinished if the changes are safe, but not yet in all files
 void SaveAllTables();
 

@@ -176,12 +176,8 @@ void CheckStudiji(Messages& messages)
 Messages AllMessages()
 {
     Messages messages;
-    CheckNastavnici(messages);
-    CheckKolegiji(messages);
-    CheckKolegijNastavnici(messages);
-    CheckKolegijSmjerovi(messages);
-    CheckSmjerovi(messages);
-    CheckStudiji(messages);
+    for (const RowCheck& check : RowChecks)
+        CheckEach(check.Rows, check.Check, messages);
     return messages;
 }
 

@@ -82,7 +82,6 @@ void RightClick(const ListView* list, int row)
     Settle();
 }
 
-/// The shown texts of a row, in the form of the copy.
 /// The texts of a list's columns, with tabs between.
 std::string Line(const ListView* list, const std::function<wxString(int column)>& text)
 {

@@ -22,7 +22,8 @@ public:
         std::function<void(int column)> ColumnClicked;
         std::function<void(int row)> Activated;
         std::function<bool(const wxKeyEvent& key)> KeyPressed;
-        std::function<void(const wxPoint& pointer)> MenuWanted; ///< A point of the screen; none for a key.
+        std::function<void(const wxPoint& pointer)>
+            MenuWanted; ///< On the screen; wxDefaultPosition for a key.
     };
 
     virtual ~NativeList() = default;

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// A colour of text in the platform's form: 0xBBGGRR.
+/// A colour of text as wxColour takes it: 0xBBGGRR.
 using TextColour = std::uint32_t;
 
 namespace TextColours

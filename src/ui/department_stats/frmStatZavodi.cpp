@@ -12,6 +12,8 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
+#include <initializer_list>
+
 namespace
 {
 
@@ -89,8 +91,7 @@ DepartmentFilter frmStatZavodi::CurrentFilter() const
 void frmStatZavodi::ShowSelected()
 {
     for (const wxItemContainer* box :
-         {static_cast<const wxItemContainer*>(cboZavodi), static_cast<const wxItemContainer*>(lstSemestri),
-          static_cast<const wxItemContainer*>(cboRazina)})
+         std::initializer_list<const wxItemContainer*>{cboZavodi, lstSemestri, cboRazina})
         if (box->GetSelection() == wxNOT_FOUND)
             return;
     const std::int32_t zavodID = SelectedData(*cboZavodi);

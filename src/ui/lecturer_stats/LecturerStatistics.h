@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-// The teaching load of lecturers. Everything here throws DataError.
+// The teaching load of lecturers. Unless stated otherwise, everything here throws DataError.
 
 /// The values of the two filter boxes; "Svi" means all. They are compared exactly; a course without a study
 /// passes only "Svi".

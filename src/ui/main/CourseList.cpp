@@ -39,8 +39,8 @@ std::string CellText(const modData::Row& kolegij, std::size_t column)
     }
 }
 
-/// Throws if a cell of the course cannot be shown. Look up the study first: if several cells are wrong, its
-/// error is the one to report. A search has already read the lecturers. @throws DataError
+/// Throws if a cell of the course cannot be shown. The study comes first: of several wrong cells, its error
+/// is reported. A search has already read the lecturers. @throws DataError
 void RequireCells(const modData::Row& kolegij, bool isSearched)
 {
     static_cast<void>(CellText(kolegij, StudijColumn));
@@ -94,7 +94,7 @@ bool MatchesSearch(const modData::Row& kolegij, std::string_view search)
     return searched.find(search) != std::string::npos;
 }
 
-bool PassesBoxes(const modData::Row& kolegij, const CourseFilter& filter)
+bool PassesStudijAndSemestar(const modData::Row& kolegij, const CourseFilter& filter)
 {
     return (filter.StudijID == 0 || kolegij.Number(Kolegij::StudijID) == filter.StudijID) &&
            (filter.Semestar == 0 || kolegij.Number(Kolegij::Semestar) == filter.Semestar);
@@ -106,7 +106,7 @@ std::vector<std::uint32_t> CoursesThatPass(const CourseFilter& filter, Search& s
     for (std::uint32_t position = 0; position < modData::Kolegiji.RowCount(); ++position)
     {
         const modData::Row& kolegij = modData::Kolegiji[position];
-        if (!PassesBoxes(kolegij, filter) || !search.Matches(position) ||
+        if (!PassesStudijAndSemestar(kolegij, filter) || !search.Matches(position) ||
             (filter.SmjerID != 0 && !KolegijHasSmjer(kolegij.Number(Kolegij::ID), filter.SmjerID)))
             continue;
         RequireCells(kolegij, !search.MatchesAll());

@@ -19,7 +19,8 @@ inline constexpr ListColumn CourseListColumns[] = {
     {"Studij", 1200}, {"Smjerovi", 2000}, {"Nastavnici", 2500},
 };
 
-/// The values of the filter boxes and the search box; 0, or a blank search text, means "all".
+/// The values of the filter boxes and the search box; 0, or a blank search text, means "all". The level is
+/// not among them: the box of programs offers only its studies.
 struct CourseFilter
 {
     std::int32_t StudijID = 0;
@@ -52,7 +53,7 @@ bool MatchesSearch(const modData::Row& kolegij, std::string_view search);
 
 /// True if a course passes the boxes of study and semester. The caller applies the direction: the list asks
 /// for a link to it, the sums count the links.
-bool PassesBoxes(const modData::Row& kolegij, const CourseFilter& filter);
+bool PassesStudijAndSemestar(const modData::Row& kolegij, const CourseFilter& filter);
 
 /// The positions of the courses that pass the filter. Throws also for a number that the cells of these
 /// courses need: an error must end the refresh, never the painting.

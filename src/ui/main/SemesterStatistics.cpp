@@ -28,7 +28,8 @@ std::vector<ListRow> StatistikaRows(const CourseFilter& filter, Search& search, 
         const modData::Row& kolegij = modData::Kolegiji[position];
         const std::int32_t id = kolegij.Number(Kolegij::ID);
         const std::int32_t semestar = kolegij.Number(Kolegij::Semestar);
-        if (!PassesBoxes(kolegij, filter) || !search.Matches(position) || semestar < 1 || semestar > last)
+        if (!PassesStudijAndSemestar(kolegij, filter) || !search.Matches(position) || semestar < 1 ||
+            semestar > last)
             continue;
         const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), OtherTypes::CountAsElective);
         const std::int32_t weight = CountKolegijSmjerLinks(id, filter.SmjerID);

@@ -370,7 +370,7 @@ bool frmMain::txtSearch_KeyDown(const wxKeyEvent& key)
     switch (key.GetKeyCode())
     {
     case WXK_ESCAPE:
-        txtSearch->SetValue("");
+        txtSearch->ChangeValue("");
         RefreshGrids();
         return true;
     case WXK_DOWN:
@@ -566,7 +566,7 @@ void frmMain::cmdExit_Click()
     modData::SaveAllTables();
     UnloadOtherWindows();
     if (!m_unloading)
-        Close(true);
+        Close(true); // Form_Unload saves the same once more
 }
 
 void frmMain::Form_Unload()
