@@ -1,6 +1,5 @@
 #include "ui/department_stats/frmStatZavodi.h"
 
-#include "data/System.h"
 #include "data/modData.h"
 #include "support/TeachingLoadWindows.h"
 #include "ui/lecturer_stats/frmStatNositelji.h"
@@ -15,11 +14,9 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-class DepartmentWindow : public TeachingLoadWindowTest<frmStatZavodi>
+class DepartmentWindow : public TeachingLoadWindowTest<DepartmentsLoad>
 {
 protected:
-    DepartmentWindow() : TeachingLoadWindowTest("cmdStatZavodi") {}
-
     wxListBox* Semestri() { return Find<wxListBox>(Stat, "lstSemestri"); }
     ListView* Kolegiji() { return List("lvwKolegiji"); }
     ListView* Table() { return List("lvwStatZavod"); }
@@ -34,23 +31,7 @@ protected:
         EXPECT_EQ(Names(), (Texts{"Uvod u lov", "Kolegij bez smjera", "Uvod u lov", "Napredni lov"}));
         EXPECT_EQ(Total(), "Ukupno;Total;8;2;1;22;4");
     }
-
-    void ExpectWritten(const std::string& path, const std::string& written)
-    {
-        ExpectExported(path, "Statistika za sve zavode je eksportirana u:", written);
-    }
 };
-
-/// The courses given, each linked once to the only lecturer of "Zavod za kemiju", which comes first.
-Catalogue CoursesOfKemija(Catalogue::Lines kolegiji)
-{
-    Catalogue catalogue = SmallCatalogue();
-    catalogue.Zavodi = {"2;Zavod za kemiju;KEM", "1;Zavod za povijest;POV"};
-    catalogue.Kolegiji = std::move(kolegiji);
-    catalogue.KolegijSmjerovi = {};
-    catalogue.KolegijNastavnici = {"1;2;Nositelj;1", "2;2;Nositelj;1", "3;2;Nositelj;1", "4;2;Nositelj;1"};
-    return catalogue;
-}
 
 // Opening
 
@@ -91,17 +72,6 @@ TEST_F(DepartmentWindow, OpensWithTheFirstDepartmentAndNothingFiltered)
                "3;Obvezni;0;0;0;0;0", "3;Izborni;1;0;0;2;1", "4;Obvezni;0;0;0;0;0", "4;Izborni;0;0;0;0;0",
                "5;Obvezni;0;0;0;0;0", "5;Izborni;0;0;0;0;0", "6;Obvezni;0;0;0;0;0", "6;Izborni;0;0;0;0;0",
                "Ukupno;Obvezni;7;2;1;20;3", "Ukupno;Izborni;1;0;0;2;1", "Ukupno;Total;8;2;1;22;4"}));
-}
-
-TEST_F(DepartmentWindow, IsCentredOnTheScreenAndLeavesTheMainWindowUsable)
-{
-    Open();
-    const wxRect window = Stat->GetRect();
-    const wxSize screen = wxGetDisplaySize();
-    EXPECT_NEAR(window.x, (screen.x - window.width) / 2, 2);
-    EXPECT_NEAR(window.y, (screen.y - window.height) / 2, 2);
-    EXPECT_TRUE(Stat->IsShown());
-    EXPECT_TRUE(Main->IsEnabled());
 }
 
 TEST_F(DepartmentWindow, WithoutDepartmentsNothingIsSelectedAndNothingShown)
@@ -151,8 +121,8 @@ TEST_F(DepartmentWindow, DistinguishesDepartmentsOfOneName)
 
 TEST_F(DepartmentWindow, TheSemesterFiltersTheCoursesAndTheTable)
 {
-    Open(CoursesOfKemija({"1;K3;1;0;0;1;obvezni;3;1", "2;K4;2;0;0;2;obvezni;4;1", "3;K7;4;0;0;4;obvezni;7;1",
-                          "4;K-1;8;0;0;8;obvezni;-1;1"}));
+    Open(CoursesOfAna({"1;K3;1;0;0;1;obvezni;3;1", "2;K4;2;0;0;2;obvezni;4;1", "3;K7;4;0;0;4;obvezni;7;1",
+                       "4;K-1;8;0;0;8;obvezni;-1;1"}));
     EXPECT_EQ(Names(), (Texts{"K3", "K4", "K7", "K-1"}));
     EXPECT_EQ(Total(), "Ukupno;Total;3;0;0;3;2");
     Click(Semestri(), "Zimski");
@@ -187,7 +157,7 @@ TEST_F(DepartmentWindow, TheLevelFiltersTheCoursesAndTheTable)
 
 TEST_F(DepartmentWindow, DrawsElectivesBlueTheTotalsBoldAndNothingRed)
 {
-    Open(CoursesOfKemija(
+    Open(CoursesOfAna(
         {"1;A;1;0;0;99;obvezni;1;1", "2;B;1;0;0;99; Izborni ;1;1", "3;C;1;0;0;1;fakultativni;1;1"}));
     const wxColour blue(0, 0, 255);
     ASSERT_EQ(Kolegiji()->RowCount(), 3);
@@ -271,15 +241,6 @@ TEST_F(DepartmentWindow, StaysOpenWhenTheLecturersWindowCloses)
     Press(FindOpen<frmStatNositelji>(), "cmdClose");
     EXPECT_EQ(FindOpen<frmStatZavodi>(), Stat);
     EXPECT_EQ(Semestri()->GetStringSelection(), "Zimski");
-}
-
-TEST_F(DepartmentWindow, TheMainWindowsCloseBoxClosesItToo)
-{
-    Open();
-    Main->Close();
-    Settle();
-    EXPECT_TRUE(wxTopLevelWindows.empty());
-    EXPECT_EQ(TakeUncaughtError(), "");
 }
 
 // After an edit in the main window
@@ -387,46 +348,6 @@ TEST_F(DepartmentWindow, ALookupThatFailsOrARowThatIsTooShortGoesUncaught)
 
 // The export
 
-TEST_F(DepartmentWindow, AsksWhereToSave)
-{
-    Open();
-    const SaveAnswers save(std::nullopt);
-    const MessageAnswers answers;
-    Press(Stat, "cmdExportAllStat");
-    ASSERT_EQ(save.Shown().size(), 1U);
-    const SaveDialogOptions& options = save.Shown().front();
-    EXPECT_EQ(options.Title, "Spremi statistiku zavoda");
-    EXPECT_EQ(options.Filter, "CSV datoteke (*.csv)|*.csv|Sve datoteke (*.*)|*.*");
-    EXPECT_EQ(options.FilterIndex, 1);
-    EXPECT_EQ(options.DefaultExtension, "csv");
-    EXPECT_EQ(options.InitialFolder, System::ProgramFolder());
-    EXPECT_EQ(options.ProposedName, "statistika_svi_zavodi.csv");
-    EXPECT_TRUE(options.OverwritePrompt);
-    EXPECT_TRUE(options.PathMustExist);
-    EXPECT_TRUE(answers.Shown().empty()) << "cancelling is silent";
-    EXPECT_EQ(FilesWritten(), Texts{});
-}
-
-TEST_F(DepartmentWindow, AnEmptyNameWritesNothingAndSaysNothing)
-{
-    Open();
-    const MessageAnswers answers;
-    PressExport("");
-    EXPECT_TRUE(answers.Shown().empty());
-    EXPECT_EQ(TakeUncaughtError(), "");
-    EXPECT_EQ(FilesWritten(), Texts{});
-}
-
-TEST_F(DepartmentWindow, AddsTheEndingAndSaysWhereTheFileIs)
-{
-    Open();
-    ExpectWritten(Folder.PathOf("šć.CSV"), Folder.PathOf("šć.CSV"));
-    ExpectWritten(Folder.PathOf("a.txt"), Folder.PathOf("a.txt.csv"));
-    EXPECT_EQ(FilesWritten().size(), 2U);
-    EXPECT_EQ(ReadBytes(Folder.Path() / u8"šć.CSV"), ReadBytes(Folder.Path() / "a.txt.csv"));
-    EXPECT_EQ(FileLines(ReadBytes(Folder.Path() / "a.txt.csv")).size(), 1U + 2 * 16);
-}
-
 TEST_F(DepartmentWindow, TheExportFollowsTheFiltersNotTheSelectionOrTheOrder)
 {
     Open();
@@ -443,37 +364,7 @@ TEST_F(DepartmentWindow, TheExportFollowsTheFiltersNotTheSelectionOrTheOrder)
     EXPECT_EQ(ShownRows(Table()), shown);
 }
 
-TEST_F(DepartmentWindow, AnErrorInWritingGoesUncaughtAndTheOlderFileStays)
-{
-    Open();
-    const MessageAnswers answers;
-    WriteBytes(Folder.Path() / "older.csv", "older");
-    {
-        const ReadOnly marked(Folder.Path() / "older.csv");
-        PressExport(Folder.PathOf("older.csv"));
-        EXPECT_EQ(TakeUncaughtError(),
-                  "70: Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u "
-                  "drugom programu: " +
-                      Folder.PathOf("older.csv"));
-    }
-    PressExport(Folder.PathOf("missing/z.csv"));
-    EXPECT_EQ(TakeUncaughtError().substr(0, 4), "53: ");
-    modData::Nastavnici.Append({"9", "Bez zavoda", ""});
-    PressExport(Folder.PathOf("older.csv"));
-    EXPECT_EQ(TakeUncaughtError().substr(0, 3), "9: ");
-    EXPECT_TRUE(answers.Shown().empty()) << "neither of success nor of failure";
-    EXPECT_EQ(ReadBytes(Folder.Path() / "older.csv"), "older");
-    EXPECT_EQ(FilesWritten(), Texts{"older.csv"});
-}
-
 // The demo catalogue
-
-TEST_F(DepartmentWindow, TheExportOfTheDemoCatalogueIsTheExpectedFile)
-{
-    OpenDemo();
-    ExpectWritten(Folder.PathOf("z.csv"), Folder.PathOf("z.csv"));
-    EXPECT_EQ(ReadBytes(Folder.Path() / "z.csv"), ExpectedFile("statistika_svi_zavodi.csv"));
-}
 
 TEST_F(DepartmentWindow, EveryTableOfTheDemoCatalogueIsTheDepartmentsBlockInTheExport)
 {

@@ -1,7 +1,5 @@
 #include "ui/lecturer_stats/frmStatNositelji.h"
 
-#include "data/Files.h"
-#include "data/System.h"
 #include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/FolderState.h"
@@ -17,11 +15,9 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-class LecturerWindow : public TeachingLoadWindowTest<frmStatNositelji>
+class LecturerWindow : public TeachingLoadWindowTest<LecturersLoad>
 {
 protected:
-    LecturerWindow() : TeachingLoadWindowTest("cmdStatNositelji") {}
-
     wxListBox* Nastavnici() { return Find<wxListBox>(Stat, "lstNastavnici"); }
     ListView* Kolegiji() { return List("lvwKolegiji"); }
     ListView* Table() { return List("lvwStat"); }
@@ -34,22 +30,7 @@ protected:
         EXPECT_EQ(Kolegiji()->RowCount(), 0);
         EXPECT_EQ(Table()->RowCount(), 0);
     }
-
-    void ExpectWritten(const std::string& path, const std::string& written)
-    {
-        ExpectExported(path, "Statistika za sve nastavnike je eksportirana u:", written);
-    }
 };
-
-/// Ana with the courses given, each linked to her once.
-Catalogue CoursesOfAna(Catalogue::Lines kolegiji)
-{
-    Catalogue catalogue = SmallCatalogue();
-    catalogue.Kolegiji = std::move(kolegiji);
-    catalogue.KolegijSmjerovi = {};
-    catalogue.KolegijNastavnici = {"1;1;Nositelj;1", "2;1;Nositelj;1", "3;1;Nositelj;1"};
-    return catalogue;
-}
 
 // Opening
 
@@ -83,19 +64,6 @@ TEST_F(LecturerWindow, OpensWithTheLecturersInTableOrderAndNothingShown)
     EXPECT_EQ(Chosen("cboRazina"), "Svi");
     EXPECT_EQ(Chosen("cboProgram"), "Svi");
     ExpectEmpty();
-}
-
-TEST_F(LecturerWindow, IsCentredOnTheScreenAndLeavesTheMainWindowUsable)
-{
-    Open();
-    const wxRect window = Stat->GetRect();
-    const wxSize screen = wxGetDisplaySize();
-    EXPECT_NEAR(window.x, (screen.x - window.width) / 2, 2);
-    EXPECT_NEAR(window.y, (screen.y - window.height) / 2, 2);
-    EXPECT_TRUE(Stat->IsShown());
-    EXPECT_TRUE(Main->IsEnabled());
-    Choose(Find<wxChoice>(Main, "cboProgram"), "BEV");
-    EXPECT_EQ(Find<ListView>(Main, "lvwKolegiji")->RowCount(), 1);
 }
 
 TEST_F(LecturerWindow, WithoutLecturersItIsEmpty)
@@ -324,14 +292,6 @@ TEST_F(LecturerWindow, TheExitButtonClosesBothWindowsOfLoad)
     EXPECT_EQ(TakeUncaughtError(), "");
 }
 
-TEST_F(LecturerWindow, TheMainWindowsCloseBoxClosesItToo)
-{
-    Open();
-    Main->Close();
-    Settle();
-    EXPECT_TRUE(wxTopLevelWindows.empty());
-}
-
 TEST_F(LecturerWindow, TheFocusAndTheTabKeySelectNoLecturer)
 {
     Open();
@@ -463,50 +423,6 @@ TEST_F(LecturerWindow, ALecturersIDThatIsNoNumberGoesUncaught)
 
 // The export
 
-TEST_F(LecturerWindow, AsksWhereToSave)
-{
-    Open();
-    const SaveAnswers save(std::nullopt);
-    const MessageAnswers answers;
-    Press(Stat, "cmdExportAllStat");
-    ASSERT_EQ(save.Shown().size(), 1U);
-    const SaveDialogOptions& options = save.Shown().front();
-    EXPECT_EQ(options.Title, "Spremi statistiku nastavnika");
-    EXPECT_EQ(options.Filter, "CSV datoteke (*.csv)|*.csv|Sve datoteke (*.*)|*.*");
-    EXPECT_EQ(options.FilterIndex, 1);
-    EXPECT_EQ(options.DefaultExtension, "csv");
-    EXPECT_EQ(options.InitialFolder, System::ProgramFolder());
-    EXPECT_TRUE(std::filesystem::is_directory(ToPath(options.InitialFolder)));
-    EXPECT_EQ(options.ProposedName, "statistika_svi_nastavnici.csv");
-    EXPECT_TRUE(options.OverwritePrompt);
-    EXPECT_TRUE(options.PathMustExist);
-    EXPECT_TRUE(answers.Shown().empty()) << "cancelling is silent";
-    EXPECT_EQ(FilesWritten(), Texts{});
-}
-
-TEST_F(LecturerWindow, AnEmptyNameWritesNothingAndSaysNothing)
-{
-    Open();
-    const MessageAnswers answers;
-    PressExport("");
-    EXPECT_TRUE(answers.Shown().empty());
-    EXPECT_EQ(TakeUncaughtError(), "");
-    EXPECT_EQ(FilesWritten(), Texts{});
-}
-
-TEST_F(LecturerWindow, AddsTheEndingAndSaysWhereTheFileIs)
-{
-    Open();
-    ExpectWritten(Folder.PathOf("šć.CSV"), Folder.PathOf("šć.CSV"));
-    ExpectWritten(Folder.PathOf("a.txt"), Folder.PathOf("a.txt.csv"));
-    ExpectWritten(Folder.PathOf("b"), Folder.PathOf("b.csv"));
-    EXPECT_EQ(FilesWritten().size(), 3U);
-    const std::string bytes = ReadBytes(Folder.Path() / "b.csv");
-    EXPECT_EQ(FileLines(bytes).size(), 1U + 3 * 16);
-    EXPECT_EQ(ReadBytes(Folder.Path() / u8"šć.CSV"), bytes);
-    EXPECT_EQ(ReadBytes(Folder.Path() / "a.txt.csv"), bytes);
-}
-
 TEST_F(LecturerWindow, TheExportFollowsTheFiltersNotTheSelectionOrTheOrder)
 {
     Open();
@@ -533,38 +449,7 @@ TEST_F(LecturerWindow, CountsAnHourThatIsNoNumberAsZeroInTheExport)
     EXPECT_EQ(BlockOf(FileLines(ReadBytes(Folder.Path() / "n.csv")), 0).back(), "TOTAL;Sve;3;1;0;8;3");
 }
 
-TEST_F(LecturerWindow, AnErrorInWritingGoesUncaughtAndTheOlderFileStays)
-{
-    Open();
-    const MessageAnswers answers;
-    WriteBytes(Folder.Path() / "older.csv", "older");
-    {
-        const ReadOnly marked(Folder.Path() / "older.csv");
-        PressExport(Folder.PathOf("older.csv"));
-        EXPECT_EQ(TakeUncaughtError(),
-                  "70: Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u "
-                  "drugom programu: " +
-                      Folder.PathOf("older.csv"));
-    }
-    PressExport(Folder.PathOf("missing/n.csv"));
-    EXPECT_EQ(TakeUncaughtError().substr(0, 4), "53: ");
-    modData::Kolegiji.Append({"6", "Loš", "1", "0", "0", "1", "obvezni", "prvi", "1"});
-    modData::KolegijNastavnici.Append({"6", "1", "Nositelj", "1"});
-    PressExport(Folder.PathOf("older.csv"));
-    EXPECT_NE(TakeUncaughtError().find("13: Vrijednost \"prvi\" nije broj"), std::string::npos);
-    EXPECT_TRUE(answers.Shown().empty()) << "neither of success nor of failure";
-    EXPECT_EQ(ReadBytes(Folder.Path() / "older.csv"), "older");
-    EXPECT_EQ(FilesWritten(), Texts{"older.csv"});
-}
-
 // The demo catalogue
-
-TEST_F(LecturerWindow, TheExportOfTheDemoCatalogueIsTheExpectedFile)
-{
-    OpenDemo();
-    ExpectWritten(Folder.PathOf("n.csv"), Folder.PathOf("n.csv"));
-    EXPECT_EQ(ReadBytes(Folder.Path() / "n.csv"), ExpectedFile("statistika_svi_nastavnici.csv"));
-}
 
 TEST_F(LecturerWindow, EveryTableOfTheDemoCatalogueIsTheLecturersBlockInTheExport)
 {

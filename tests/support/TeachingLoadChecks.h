@@ -1,16 +1,32 @@
 #pragma once
 
+#include "support/Catalogue.h"
 #include "support/TestFolder.h"
 #include "ui/controls/ListModel.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-// What the tests of teaching load share: rows and files as lines.
+// What the tests of teaching load share: a catalogue, and rows and files as lines.
+
+/// The small catalogue with these courses alone, whose IDs count from 1. Each is linked once to Ana (lecturer
+/// 1, of department 1).
+inline Catalogue CoursesOfAna(Catalogue::Lines kolegiji)
+{
+    static constexpr std::array<std::string_view, 8> links = {
+        "1;1;Nositelj;1", "2;1;Nositelj;1", "3;1;Nositelj;1", "4;1;Nositelj;1",
+        "5;1;Nositelj;1", "6;1;Nositelj;1", "7;1;Nositelj;1", "8;1;Nositelj;1"};
+    Catalogue catalogue = SmallCatalogue();
+    catalogue.Kolegiji = std::move(kolegiji);
+    catalogue.KolegijSmjerovi = {};
+    catalogue.KolegijNastavnici = {links.begin(), links.begin() + catalogue.Kolegiji.size()};
+    return catalogue;
+}
 
 /// The rows of a list as lines, the cells joined by ";".
 inline std::vector<std::string> LinesOfRows(const std::vector<ListRow>& rows)
@@ -23,6 +39,13 @@ inline std::vector<std::string> LinesOfRows(const std::vector<ListRow>& rows)
             line.append(";").append(row[i].Text);
         lines.push_back(line);
     }
+    return lines;
+}
+
+/// The lines of a table of sums that count a course.
+inline std::vector<std::string> LinesThatCount(std::vector<std::string> lines)
+{
+    std::erase_if(lines, [](const std::string& line) { return line.ends_with(";0"); });
     return lines;
 }
 

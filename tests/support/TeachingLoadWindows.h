@@ -4,6 +4,8 @@
 #include "support/ListWindow.h"
 #include "support/TeachingLoadChecks.h"
 #include "support/Windows.h"
+#include "ui/department_stats/frmStatZavodi.h"
+#include "ui/lecturer_stats/frmStatNositelji.h"
 #include "ui/main/frmMain.h"
 
 #include <wx/button.h>
@@ -45,12 +47,32 @@ inline void GoDown(wxControlWithItems* box)
     WaitUntil([&] { return box->GetSelection() == next; });
 }
 
+// What tells the two windows apart.
+
+struct LecturersLoad
+{
+    using Window = frmStatNositelji;
+    static constexpr const char* Button = "cmdStatNositelji";
+    static constexpr const char* DialogTitle = "Spremi statistiku nastavnika";
+    static constexpr const char* ExportName = "statistika_svi_nastavnici.csv";
+    static constexpr const char* Success = "Statistika za sve nastavnike je eksportirana u:";
+};
+
+struct DepartmentsLoad
+{
+    using Window = frmStatZavodi;
+    static constexpr const char* Button = "cmdStatZavodi";
+    static constexpr const char* DialogTitle = "Spremi statistiku zavoda";
+    static constexpr const char* ExportName = "statistika_svi_zavodi.csv";
+    static constexpr const char* Success = "Statistika za sve zavode je eksportirana u:";
+};
+
 /// A main window with a test's data, and the window of teaching load that a button opens.
-template<typename Window>
+template<typename Load>
 class TeachingLoadWindowTest : public testing::Test
 {
 protected:
-    explicit TeachingLoadWindowTest(const char* button) : Button(button) {}
+    using Window = typename Load::Window;
 
     void TearDown() override { CloseAllWindows(); }
 
@@ -79,7 +101,7 @@ protected:
 
     void PressOpen()
     {
-        Press(Main, Button);
+        Press(Main, Load::Button);
         Stat = FindOpen<Window>();
         if (Stat == nullptr)
             throw std::runtime_error("no window of load is open");
@@ -108,12 +130,12 @@ protected:
     }
 
     /// Exports to a path; checks that the message says so and names `written`.
-    void ExpectExported(const std::string& path, const std::string& text, const std::string& written)
+    void ExpectWritten(const std::string& path, const std::string& written)
     {
         MessageAnswers answers;
         PressExport(path);
         const MessageShown message = answers.TakeOnly();
-        EXPECT_EQ(message.Text, text + "\r\n" + written);
+        EXPECT_EQ(message.Text, Load::Success + ("\r\n" + written));
         EXPECT_EQ(message.Title, "Izvoz završen");
         EXPECT_TRUE(message.Has(wxICON_INFORMATION | wxOK));
         EXPECT_FALSE(message.Has(wxCANCEL));
@@ -136,7 +158,6 @@ protected:
         return names;
     }
 
-    const char* Button;
     TestFolder Folder;
     frmMain* Main = nullptr;
     Window* Stat = nullptr;

@@ -8,8 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <utility>
 
 namespace
 {
@@ -31,26 +29,9 @@ Texts TeachingLoadTable(std::int32_t nastavnikID, const LecturerFilter& filter =
     return LinesOfRows(LecturerTeachingLoadRows(nastavnikID, filter));
 }
 
-/// The rows of the table that count a course.
 Texts Counted(std::int32_t nastavnikID, const LecturerFilter& filter = All)
 {
-    Texts lines = TeachingLoadTable(nastavnikID, filter);
-    std::erase_if(lines, [](const std::string& line) { return line.ends_with(";0"); });
-    return lines;
-}
-
-/// Only Ana, with these courses, each linked to her once. Their study is 1, "LOR" on the lower level, unless
-/// the line has another one.
-Catalogue CoursesOfAna(Catalogue::Lines kolegiji)
-{
-    Catalogue catalogue = SmallCatalogue();
-    catalogue.Kolegiji = std::move(kolegiji);
-    catalogue.KolegijSmjerovi = {};
-    static constexpr std::array<std::string_view, 6> links = {"1;1;Nositelj;1", "2;1;Nositelj;1",
-                                                              "3;1;Nositelj;1", "4;1;Nositelj;1",
-                                                              "5;1;Nositelj;1", "6;1;Nositelj;1"};
-    catalogue.KolegijNastavnici = {links.begin(), links.begin() + catalogue.Kolegiji.size()};
-    return catalogue;
+    return LinesThatCount(TeachingLoadTable(nastavnikID, filter));
 }
 
 // The course list
