@@ -62,7 +62,7 @@ struct WatchedOperations
     {
         const bool reading = purpose == OpenFor::Reading;
         if (Fails({FileOperation::Open, path, {}, reading, !reading}))
-            return FailureOf(InUse->m_error);
+            return FailureOf(InUse->m_fault.Error);
         const Result result = System::OwnFiles.Open(path, purpose, file);
         if (!result)
             InUse->m_openFiles[file] = {FileOperation::Open, path, {}, reading, false};
@@ -79,7 +79,7 @@ struct WatchedOperations
 
     static Result Write(Handle file, std::string_view bytes)
     {
-        const bool isEnded = InUse->m_then == WatchedFiles::After::NothingWorks && HasFailed();
+        const bool isEnded = InUse->m_fault.Then == After::NothingWorks && HasFailed();
         if (!FailsOnOpen(FileOperation::Write, file, true))
             return System::OwnFiles.Write(file, bytes);
         if (!isEnded)
@@ -109,7 +109,7 @@ struct WatchedOperations
     static Result Rename(const Path& from, const Path& to)
     {
         if (Fails({FileOperation::Rename, from, to, false, true}))
-            return FailureOf(InUse->m_error);
+            return FailureOf(InUse->m_fault.Error);
         // Some file systems delay a rename over a file until the new content is on the disk.
         std::error_code failure;
         if (fs::is_regular_file(to, failure))
@@ -133,7 +133,7 @@ struct WatchedOperations
 
     static Result MakeFolder(const Path& path)
     {
-        return Fails({FileOperation::MakeFolder, path, {}, false, true}) ? FailureOf(InUse->m_error)
+        return Fails({FileOperation::MakeFolder, path, {}, false, true}) ? FailureOf(InUse->m_fault.Error)
                                                                          : System::OwnFiles.MakeFolder(path);
     }
 
@@ -173,17 +173,21 @@ const char* NameOf(FileOperation::Kind what)
 
 std::size_t FailingStep([[maybe_unused]] std::size_t count)
 {
-#ifdef _WIN32
+#if defined(_WIN32) || defined(__SANITIZE_ADDRESS__)
     return count / 40 + 1;
 #else
     return 1;
 #endif
 }
 
-WatchedFiles::WatchedFiles(std::size_t failing, After after, int error)
-    : m_failing(failing),
-      m_then(after),
-      m_error(error == 0 ? EACCES : error)
+std::string Describe(std::size_t number, const FileOperation& operation, const Fault& fault)
+{
+    return "operation " + std::to_string(number) + ", " + NameOf(operation.What) + " " +
+           operation.File.string() + ", then " + std::to_string(static_cast<int>(fault.Then)) + ", errno " +
+           std::to_string(fault.Error);
+}
+
+WatchedFiles::WatchedFiles(std::size_t failing, Fault fault) : m_failing(failing), m_fault(fault)
 {
     if (InUse != nullptr)
         throw std::logic_error("files are watched already");
@@ -221,8 +225,8 @@ bool WatchedFiles::Fails(FileOperation operation)
     m_operations.push_back(std::move(operation));
     if (m_failing == 0)
         return false;
-    return m_operations.size() == m_failing || (m_then == After::NothingIsGone && isRemoval) ||
-           (m_then == After::NothingWorks && m_operations.size() > m_failing);
+    return m_operations.size() == m_failing || (m_fault.Then == After::NothingIsGone && isRemoval) ||
+           (m_fault.Then == After::NothingWorks && m_operations.size() > m_failing);
 }
 
 std::vector<std::string> WatchedFiles::Effects(const fs::path& folder) const

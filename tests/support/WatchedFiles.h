@@ -2,6 +2,7 @@
 
 #include "data/FileOperations.h"
 
+#include <cerrno>
 #include <cstddef>
 #include <filesystem>
 #include <map>
@@ -36,11 +37,39 @@ struct FileOperation
     bool HasEffect = false; ///< It changes the disk, or makes a change durable.
 };
 
+/// What happens after an operation that fails.
+enum class After
+{
+    AllIsWell,     ///< No other operation fails.
+    NothingIsGone, ///< Every removal fails as well.
+    NothingWorks   ///< No later operation does anything, as after the end of the program.
+};
+
+/// A way for an operation to fail.
+struct Fault
+{
+    After Then = After::AllIsWell;
+    int Error = EACCES; ///< The error of an open or a rename.
+};
+
+/// The ways that the tests try. Windows has the same operations, slow under an emulator: two ways do there.
+inline constexpr Fault Faults[] = {
+    {After::AllIsWell, EACCES},
+    {After::NothingWorks, EACCES},
+#ifndef _WIN32
+    {After::AllIsWell, ENOSPC},
+    {After::NothingIsGone, ENOSPC},
+#endif
+};
+
+/// The operation with this number and its fault, for a failed test's message.
+std::string Describe(std::size_t number, const FileOperation& operation, const Fault& fault);
+
 /// "write", "flush folder" and so on.
 const char* NameOf(FileOperation::Kind what);
 
 /// A test that makes each of `count` operations fail in turn goes on by this many. Natively it is one. Under
-/// an emulator, where operations are slow, only about forty of the same operations fail.
+/// an emulator and with sanitizers, where the same operations are slow, only about forty of them fail.
 std::size_t FailingStep(std::size_t count);
 
 /// While it lives, it records the program's operations on files, and makes one of them fail after half of the
@@ -48,16 +77,8 @@ std::size_t FailingStep(std::size_t count);
 class WatchedFiles
 {
 public:
-    enum class After
-    {
-        AllIsWell,     ///< The one operation fails.
-        NothingIsGone, ///< Every removal fails as well.
-        NothingWorks   ///< No later operation does anything, as after the end of the program.
-    };
-
-    /// Makes the operation with this number, from 1, fail; 0 makes none fail. `error` is the error of an open
-    /// or a rename.
-    explicit WatchedFiles(std::size_t failing = 0, After after = After::AllIsWell, int error = 0);
+    /// Makes the operation with this number, from 1, fail; 0 makes none fail.
+    explicit WatchedFiles(std::size_t failing = 0, Fault fault = {});
     ~WatchedFiles();
     WatchedFiles(const WatchedFiles&) = delete;
     WatchedFiles& operator=(const WatchedFiles&) = delete;
@@ -76,8 +97,7 @@ private:
     bool Fails(FileOperation operation);
 
     std::size_t m_failing;
-    After m_then;
-    int m_error;
+    Fault m_fault;
     std::vector<FileOperation> m_operations;
     std::map<FileOperations::Handle, FileOperation> m_openFiles;
 };

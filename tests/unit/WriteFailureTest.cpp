@@ -30,26 +30,9 @@ namespace
 {
 
 using Contents = std::map<std::string, std::string>;
-using After = WatchedFiles::After;
-
 constexpr const char* TableFiles[] = {
     "db_zavod.csv",   "db_nastavnici.csv",    "db_studij.csv",           "db_smjer.csv",
     "db_kolegij.csv", "db_kolegij_smjer.csv", "db_kolegij_nastavnik.csv"};
-
-/// A way for a call to fail.
-struct Fault
-{
-    After Then;
-    int Error;
-};
-constexpr Fault Faults[] = {
-    {After::AllIsWell, EACCES},
-#ifndef _WIN32 // There the calls are the same, and slow under an emulator.
-    {After::AllIsWell, ENOSPC},
-    {After::NothingIsGone, ENOSPC},
-    {After::NothingWorks, EACCES},
-#endif
-};
 
 /// The number and the path that an error names.
 struct Told
@@ -106,18 +89,6 @@ bool IsHindrance(const FileOperation& operation, After then)
     return !isSpare || then == After::NothingWorks;
 }
 
-std::string FileName(const FileOperation& call)
-{
-    return call.File.filename().string();
-}
-
-std::string Describe(std::size_t number, const Fault& fault, const FileOperation& call)
-{
-    return "operation " + std::to_string(number) + ", " + NameOf(call.What) + " " + FileName(call) +
-           ", then " + std::to_string(static_cast<int>(fault.Then)) + ", errno " +
-           std::to_string(fault.Error);
-}
-
 /// Runs an action with each of its calls failing in turn, in each way. `prepare` runs before each run;
 /// `check` runs after it, with the calls of a run without failures and the position of the failed one among
 /// them.
@@ -136,11 +107,11 @@ void FailEachCall(const std::function<void()>& prepare, const std::function<void
     for (const Fault& fault : Faults)
         for (std::size_t place = 0; place < good.size(); place += FailingStep(good.size()))
         {
-            SCOPED_TRACE(Describe(place + 1, fault, good[place]));
+            SCOPED_TRACE(Describe(place + 1, good[place], fault));
             prepare();
             std::optional<Told> told;
             {
-                const WatchedFiles failing(place + 1, fault.Then, fault.Error);
+                const WatchedFiles failing(place + 1, fault);
                 told = ErrorOf(action);
             }
             check(good, place, fault, told);
