@@ -36,17 +36,17 @@ public:
         : m_bytes(bytes),
           m_layout(layout),
           m_found(findings),
-          m_written(WritingOf(bytes))
+          m_encoding(EncodingOf(bytes))
     {
     }
 
     void Run()
     {
-        if (m_written.In == Letters::Utf16)
+        if (m_encoding.In == Letters::Utf16)
             return Add(Group::Danger, 0, WordsOfUtf16);
-        if (m_written.HasMark)
+        if (m_encoding.HasMark)
             m_bytes.remove_prefix(modData::Utf8Mark.size());
-        if (m_written.HasMark && m_written.In != Letters::Utf8)
+        if (m_encoding.HasMark && m_encoding.In != Letters::Utf8)
             AddMendable(Group::Danger, {m_layout.FileName, 1, {}}, std::string(WordsOfMark));
         m_hasQuotes = m_bytes.find('"') != std::string_view::npos;
         m_hasNuls = m_bytes.find('\0') != std::string_view::npos;
@@ -74,7 +74,7 @@ private:
     /// Bytes of the file as text.
     std::string Decoded(std::string_view bytes) const
     {
-        return m_written.In == Letters::Utf8 ? std::string(bytes) : FromWindows1250(bytes);
+        return m_encoding.In == Letters::Utf8 ? std::string(bytes) : FromWindows1250(bytes);
     }
 
     void FindHeader()
@@ -103,16 +103,16 @@ private:
         const FieldPlace place = {m_layout.FileName, line.Number, {}};
         if (line.Number > 1 && IsSeparatorsOnly(line.Text))
             AddMendable(Group::Note, place, "redak ima samo razdjelnike, bez podataka");
-        if (!m_written.HasMark && m_written.In == Letters::Mixed && IsUtf8Text(line.Text))
+        if (!m_encoding.HasMark && m_encoding.In == Letters::Mixed && IsUtf8Text(line.Text))
             Add(Group::Danger, line.Number, WordsOfUtf8Line);
-        if (!m_written.HasMark && m_written.In == Letters::Utf8 && !m_isUtf8Reported &&
+        if (!m_encoding.HasMark && m_encoding.In == Letters::Utf8 && !m_isUtf8Reported &&
             IsBeyondAsciiUtf8(line.Text))
         {
             AddMendable(Group::Danger, place, std::string(WordsOfUtf8));
             m_isUtf8Reported = true;
         }
         const bool hasQuote = m_hasQuotes && line.Text.find('"') != std::string_view::npos;
-        if (hasQuote || m_hasNuls || m_written.In == Letters::Utf8) // false for most files
+        if (hasQuote || m_hasNuls || m_encoding.In == Letters::Utf8) // false for most files
             ForEachField(line.Text,
                          [&](std::string_view field, std::size_t position) {
                              FindInField(field, {m_layout.FileName, line.Number, ColumnAt(position)});
@@ -125,7 +125,7 @@ private:
     {
         if (field.find('\0') != std::string_view::npos)
             m_found.push_back({Group::Danger, place, "polje sadrži znak NUL: " + InQuotes(Decoded(field))});
-        if (m_written.In == Letters::Utf8)
+        if (m_encoding.In == Letters::Utf8)
             if (const std::string lost = LettersLost(field); !lost.empty())
                 m_found.push_back({Group::Danger, place,
                                    "u zapisu windows-1250 nema ovih znakova, program bi ih zamijenio "
@@ -156,7 +156,7 @@ private:
     std::string_view m_bytes;
     const modData::TableLayout& m_layout;
     Findings& m_found;
-    Writing m_written;
+    Encoding m_encoding;
     std::size_t m_loneLFs = 0;
     std::size_t m_firstLoneLF = 0;
     bool m_isUtf8Reported = false;

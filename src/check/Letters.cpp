@@ -80,7 +80,7 @@ std::string LettersLost(std::string_view text)
     return lost;
 }
 
-Writing WritingOf(std::string_view bytes)
+Encoding EncodingOf(std::string_view bytes)
 {
     if (IsUtf16(bytes))
         return {false, Letters::Utf16};

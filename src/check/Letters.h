@@ -15,13 +15,13 @@ enum class Letters
     Utf16
 };
 
-struct Writing
+struct Encoding
 {
     bool HasMark; ///< The file begins with the UTF-8 mark.
     Letters In;
 };
 
-Writing WritingOf(std::string_view bytes);
+Encoding EncodingOf(std::string_view bytes);
 
 /// True for valid UTF-8 with at least one character beyond ASCII.
 bool IsBeyondAsciiUtf8(std::string_view bytes);

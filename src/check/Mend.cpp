@@ -162,14 +162,14 @@ private:
 };
 
 /// Why the encoding of a file cannot be mended without a decision; empty if it can.
-std::string WhyLettersStay(std::string_view bytes, const Writing& writing)
+std::string WhyLettersStay(std::string_view bytes, const Encoding& encoding)
 {
-    if (writing.In == Letters::Utf16)
+    if (encoding.In == Letters::Utf16)
         return "datoteka u zapisu UTF-16 nije mijenjana";
-    if (writing.In == Letters::Mixed)
+    if (encoding.In == Letters::Mixed)
         return "datoteka nije mijenjana, jer su slova jednog dijela redaka u zapisu UTF-8, a drugih u "
                "windows-1250";
-    if (writing.In == Letters::Utf8)
+    if (encoding.In == Letters::Utf8)
         if (const std::string lost = LettersLost(bytes); !lost.empty())
             return "datoteka nije mijenjana, jer windows-1250 nema ovih znakova: " + Shown(lost);
     return {};
@@ -180,19 +180,19 @@ Mended MendOnce(std::string_view bytes, const modData::TableLayout& layout)
     const auto told = [&](std::string text) {
         return std::vector<Change>{{{layout.FileName, 0, {}}, std::move(text)}};
     };
-    const Writing writing = WritingOf(bytes);
-    const std::string_view unmarked = bytes.substr(writing.HasMark ? modData::Utf8Mark.size() : 0);
-    if (std::string reason = WhyLettersStay(unmarked, writing); !reason.empty())
+    const Encoding encoding = EncodingOf(bytes);
+    const std::string_view unmarked = bytes.substr(encoding.HasMark ? modData::Utf8Mark.size() : 0);
+    if (std::string reason = WhyLettersStay(unmarked, encoding); !reason.empty())
         return {std::string(bytes), {}, told(std::move(reason))};
 
     Mended result;
     std::string text(unmarked);
-    const bool staysUtf8 = writing.HasMark && writing.In == Letters::Utf8; // the program converts it
+    const bool staysUtf8 = encoding.HasMark && encoding.In == Letters::Utf8; // the program converts it
     if (staysUtf8)
         result.Bytes = modData::Utf8Mark;
-    else if (writing.HasMark)
+    else if (encoding.HasMark)
         result.Changes = told("uklonjena je oznaka UTF-8 ispred slova u zapisu windows-1250");
-    else if (writing.In == Letters::Utf8)
+    else if (encoding.In == Letters::Utf8)
     {
         text = ToWindows1250(text);
         result.Changes = told("zapis UTF-8 bez oznake pretvoren je u windows-1250");
