@@ -176,8 +176,12 @@ void CheckStudiji(Messages& messages)
 Messages AllMessages()
 {
     Messages messages;
-    for (const RowCheck& check : RowChecks)
-        CheckEach(check.Rows, check.Check, messages);
+    CheckNastavnici(messages);
+    CheckKolegiji(messages);
+    CheckKolegijNastavnici(messages);
+    CheckKolegijSmjerovi(messages);
+    CheckSmjerovi(messages);
+    CheckStudiji(messages);
     return messages;
 }
 
