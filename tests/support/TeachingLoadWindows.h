@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/modData.h"
 #include "support/Catalogue.h"
 #include "support/ListWindow.h"
 #include "support/TeachingLoadChecks.h"
@@ -56,6 +57,15 @@ struct LecturersLoad
     static constexpr const char* DialogTitle = "Spremi statistiku nastavnika";
     static constexpr const char* ExportName = "statistika_svi_nastavnici.csv";
     static constexpr const char* Success = "Statistika za sve nastavnike je eksportirana u:";
+    static constexpr std::size_t Count = 3; ///< Of lecturers in the small catalogue.
+
+    /// Makes the export of the small catalogue fail with the error given.
+    static void SpoilTables()
+    {
+        modData::Kolegiji.Append({"6", "Loš", "1", "0", "0", "1", "obvezni", "prvi", "1"});
+        modData::KolegijNastavnici.Append({"6", "1", "Nositelj", "1"});
+    }
+    static constexpr const char* Error = "13: Vrijednost \"prvi\" nije broj";
 };
 
 struct DepartmentsLoad
@@ -65,6 +75,11 @@ struct DepartmentsLoad
     static constexpr const char* DialogTitle = "Spremi statistiku zavoda";
     static constexpr const char* ExportName = "statistika_svi_zavodi.csv";
     static constexpr const char* Success = "Statistika za sve zavode je eksportirana u:";
+    static constexpr std::size_t Count = 2; ///< Of departments in the small catalogue.
+
+    /// Makes the export of the small catalogue fail with the error given.
+    static void SpoilTables() { modData::Nastavnici.Append({"9", "Bez zavoda", ""}); }
+    static constexpr const char* Error = "9: ";
 };
 
 /// A main window with a test's data, and the window of teaching load that a button opens.
