@@ -30,8 +30,8 @@ FileContent ReadContent(const std::string& folder, std::string_view name)
         if (TypeOf(path) != FileType::Missing)
             content.Bytes = ReadFile(path);
         if (!content.Bytes || content.Bytes->empty() || content.Bytes == modData::Utf8Mark)
-            content.Failure =
-                InputPastEnd(path); // the program's start creates a missing file empty, and then fails on it
+            // The program's start creates a missing file empty, and then fails on it.
+            content.Failure = InputPastEnd(path);
     }
     catch (const FileError& error)
     {

@@ -22,8 +22,8 @@ public:
         std::function<void(int column)> ColumnClicked;
         std::function<void(int row)> Activated;
         std::function<bool(const wxKeyEvent& key)> KeyPressed;
-        std::function<void(const wxPoint& pointer)>
-            MenuWanted; ///< On the screen; wxDefaultPosition for a key.
+        /// The pointer is a point of the screen; wxDefaultPosition for a key.
+        std::function<void(const wxPoint& pointer)> MenuWanted;
     };
 
     virtual ~NativeList() = default;
