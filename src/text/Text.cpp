@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -116,8 +117,11 @@ std::string_view TakeAsciiPrefix(std::string_view& text)
     for (std::uint64_t word = 0; size + sizeof word <= text.size(); size += sizeof word)
     {
         std::memcpy(&word, text.data() + size, sizeof word);
-        if ((word & highBits) != 0)
+        if (const std::uint64_t high = word & highBits; high != 0)
+        {
+            size += static_cast<std::size_t>(std::countr_zero(high)) / 8; // the lowest byte is the first
             break;
+        }
     }
     while (size < text.size() && (text[size] & 0x80) == 0)
         ++size;
