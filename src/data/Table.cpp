@@ -99,16 +99,21 @@ Matches Table::Matching(std::size_t column, std::int32_t number, Conversion conv
 
 const Row* Table::FindFirst(std::size_t column, std::int32_t number, Conversion conversion) const
 {
-    const Matches matches = Matching(column, number, conversion);
-    const auto first = matches.begin();
-    return first == matches.end() ? nullptr : &*first;
+    const std::optional<std::size_t> position = FindPosition(column, number, conversion);
+    return position ? &m_rows[*position] : nullptr;
 }
 
-std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t number) const
+std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t number,
+                                               Conversion conversion) const
 {
-    const Matches matches = Matching(column, number);
-    const auto first = matches.begin();
-    return first == matches.end() ? std::nullopt : std::optional(first.Position());
+    const IndexedColumn& indexed = Indexed(column);
+    const std::size_t end = indexed.End(conversion);
+    const std::span<const std::uint32_t> positions = indexed.Index.Positions(number);
+    if (!positions.empty() && positions.front() < end)
+        return positions.front();
+    if (end < m_rows.size())
+        m_rows[end].Number(column); // throws
+    return std::nullopt;
 }
 
 std::int32_t Table::NumberAt(std::size_t position, std::size_t column, Conversion conversion) const

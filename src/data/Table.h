@@ -158,7 +158,8 @@ public:
                          Conversion conversion = Conversion::Strict) const;
 
     /// The position of that row. @throws as FindFirst
-    std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number) const;
+    std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number,
+                                            Conversion conversion = Conversion::Strict) const;
 
     /// Row::Number for the row at a position, from the column's index: faster for many rows out of order.
     /// @throws as Row::Number
