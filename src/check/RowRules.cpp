@@ -145,11 +145,11 @@ void ForEachRepeated(const modData::Table& table, const Key& key, const Report& 
 void FindRepeatedIDs(const modData::Table& table, Findings& findings)
 {
     ForEachRepeated(
-        table, [](const modData::Row& row) { return std::int64_t{row.Number(0)}; },
+        table, [](const modData::Row& row) { return std::int64_t{row.Number(modData::IDColumn)}; },
         [&](const modData::Row& row)
         {
-            findings.push_back({Group::Note, row.Place(0),
-                                "ID " + std::to_string(row.Number(0)) +
+            findings.push_back({Group::Note, row.Place(modData::IDColumn),
+                                "ID " + std::to_string(row.Number(modData::IDColumn)) +
                                     " ima i jedan od prethodnih redaka, a program uvijek uzima prvi"});
         });
 }
@@ -199,8 +199,8 @@ void FindLastID(const modData::Row& row, Findings& findings)
 void FindMissingLink(const modData::Row& row, const modData::Table& links, std::string_view text,
                      Findings& findings)
 {
-    constexpr std::size_t kolegijColumn = 0; // of both tables of links
-    if (links.FindFirst(kolegijColumn, row.Number(Kolegij::ID)) == nullptr)
+    static_assert(KolegijSmjer::KolegijID == std::size_t{KolegijNastavnik::KolegijID});
+    if (links.FindFirst(KolegijSmjer::KolegijID, row.Number(Kolegij::ID)) == nullptr)
         findings.push_back(
             {Group::Note, LinePlace(row), std::string(text) + ": " + InQuotes(row.Field(Kolegij::Naziv))});
 }
