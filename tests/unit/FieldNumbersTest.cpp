@@ -110,6 +110,7 @@ TEST(FormatFixed, IgnoresBinaryRoundingNoise)
     EXPECT_EQ(Shown(0.3 - 0.1 - 0.2), "0,0");
     EXPECT_EQ(Shown2(0.7 / 28), "0,03");
     EXPECT_EQ(Shown(4.35 * 100 / 100 + 1e6), "1000004,4");
+    EXPECT_EQ(Shown2(1e13 + 0.045), "10000000000000,05"); // in binary 0.0449 after the point
 }
 
 TEST(FormatFixed, ShowsNoMinusOnAZero)
