@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <iostream>
 #include <map>
+#include <ranges>
 #include <string>
 #include <utility>
 #include <vector>
@@ -111,7 +112,7 @@ std::string AsTold(std::string bytes, const std::vector<Check::Change>& changes,
     { return change.Text.starts_with(text); };
     for (const Check::Change& change : changes)
         if (is(change, "zapis UTF-8"))
-            bytes = modData::NormalizedContent(std::string(modData::Utf8Mark) + bytes);
+            bytes = modData::NormalizedContent(bytes.insert(0, modData::Utf8Mark));
         else if (is(change, "uklonjena je oznaka"))
             bytes.erase(0, modData::Utf8Mark.size());
 
@@ -120,15 +121,15 @@ std::string AsTold(std::string bytes, const std::vector<Check::Change>& changes,
         LinesOf(std::string_view(bytes).substr(isMarked ? modData::Utf8Mark.size() : 0));
     std::vector<std::size_t> removed;
     std::size_t loneLFs = 0;
-    for (auto change = changes.rbegin(); change != changes.rend(); ++change) // later fields of a line first
-        if (is(*change, "uklonjen je redak"))
-            removed.push_back(change->Place.Line);
-        else if (is(*change, "uklonjeni su navodnici"))
-            RemoveQuotes(lines[change->Place.Line - 1].Text,
-                         static_cast<std::size_t>(std::ranges::find(layout.Columns, change->Place.Column) -
+    for (const Check::Change& change : std::views::reverse(changes)) // later fields of a line first
+        if (is(change, "uklonjen je redak"))
+            removed.push_back(change.Place.Line);
+        else if (is(change, "uklonjeni su navodnici"))
+            RemoveQuotes(lines[change.Place.Line - 1].Text,
+                         static_cast<std::size_t>(std::ranges::find(layout.Columns, change.Place.Column) -
                                                   layout.Columns.begin()));
-        else if (is(*change, "krajevi redaka"))
-            loneLFs = std::stoull(change->Text.substr(change->Text.find(": ") + 2));
+        else if (is(change, "krajevi redaka"))
+            loneLFs = std::stoull(change.Text.substr(change.Text.find(": ") + 2));
 
     std::string told = isMarked ? std::string(modData::Utf8Mark) : std::string();
     for (const std::size_t number : removed)

@@ -5,6 +5,7 @@
 #include "support/TestFolder.h"
 
 #include <algorithm>
+#include <cctype>
 #include <set>
 #include <utility>
 #include <vector>
@@ -131,7 +132,7 @@ private:
 
     std::string Number(int number)
     {
-        const std::string plain = std::to_string(number);
+        std::string plain = std::to_string(number);
         if (m_has.Strikes(Fault::OddlyWrittenNumber))
         {
             const std::string odd[] = {
@@ -268,9 +269,7 @@ std::string Escaped(std::string_view bytes)
     {
         const auto code = static_cast<unsigned char>(byte);
         const bool plain = code >= ' ' && code < 0x7F;
-        if (plain && afterHex && digits.find(static_cast<char>(code & ~0x20U)) != std::string_view::npos)
-            text += "\" \"";
-        else if (plain && afterHex && code >= '0' && code <= '9')
+        if (plain && afterHex && std::isxdigit(code) != 0)
             text += "\" \"";
         afterHex = !plain && byte != '\r' && byte != '\n' && byte != '\t';
         if (byte == '\r')

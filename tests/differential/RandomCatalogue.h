@@ -25,7 +25,7 @@ public:
     /// A number from `least` to `most`.
     int Between(int least, int most)
     {
-        return least + static_cast<int>(Below(static_cast<std::size_t>(most - least + 1)));
+        return least + static_cast<int>(Below(static_cast<std::size_t>(most - least) + 1));
     }
 
     /// True in `share` of a thousand cases.
