@@ -133,8 +133,8 @@ save_into_exports() {
     key Return
 }
 
-# told TITLE WHAT PICTURE [EXCEPT]: a message must be shown; Return closes it.
-told() {
+# expect_message TITLE WHAT PICTURE [EXCEPT]: a message must be shown; Return closes it.
+expect_message() {
     shows "$2" "$1" "${4:-}"
     picture "$3"
     key Return
@@ -170,7 +170,7 @@ add_a_course() {
     local editor=$window
     picture empty-editor
     key Return
-    told '^Kolegij$' "a course without a name is refused" empty-name-refused "$editor"
+    expect_message '^Kolegij$' "a course without a name is refused" empty-name-refused "$editor"
     window=$editor
     focus "$editor"
     type_text "$course"
@@ -238,7 +238,7 @@ export_the_catalogue() {
     back_to_search
     key alt+k
     save_into_exports 'Spremi export (CSV)' catalogue
-    told '^Varlostudiji$' "the program says where the catalogue is" catalogue-exported
+    expect_message '^Varlostudiji$' "the program says where the catalogue is" catalogue-exported
     check "the catalogue has a header and a line per course" is_export "$file" \
         'ID_kolegij;Nositelj1;Nositelj2;Nositelj3;Kolegij;P;S;V;ECTS;Smjer;O_I;Program;Semestar;P_D' \
         $((courses_before + 1))
@@ -265,7 +265,7 @@ export_the_semesters() {
     key shift+Tab shift+Tab Down Tab Tab
     key alt+s
     save_into_exports 'Spremi statistiku (CSV)' semesters
-    told '^Varlostudiji$' "the program says where the sums are" semesters-exported
+    expect_message '^Varlostudiji$' "the program says where the sums are" semesters-exported
     check "the sums bear the filters in their name and hold every row" is_export "$file" 'sep=;' 22
     check "the chosen direction is in the file" has_line "$file" 'Smjer;TL'
     check "their total is that of the catalogue" has_line "$file" "TOTAL;Sve;$(
@@ -284,7 +284,7 @@ lecturers() {
     picture lecturer-statistics
     key alt+x
     save_into_exports 'Spremi statistiku nastavnika' lecturers
-    told '^Izvoz završen$' "the program says where the load is" lecturers-exported
+    expect_message '^Izvoz završen$' "the program says where the load is" lecturers-exported
     check "sixteen lines a lecturer after the header" is_export "$file" \
         'Nastavnik;Semestar;Tip;P;S;V;ECTS;Broj kolegija' $((16 * ($(wc -l <demo/db_nastavnici.csv) - 1) + 1))
     check "the new course counts for its holder" has_line "$file" "Cindrek Lucija;TOTAL;Sve;$(
@@ -306,7 +306,7 @@ departments() {
     picture winter-semesters
     key alt+x
     save_into_exports 'Spremi statistiku zavoda' departments
-    told '^Izvoz završen$' "the program says where the load is" departments-exported
+    expect_message '^Izvoz završen$' "the program says where the load is" departments-exported
     check "sixteen lines a department after the header" is_export "$file" \
         'Zavod;Semestar;Tip;P;S;V;ECTS;Broj kolegija' $((16 * ($(wc -l <demo/db_zavod.csv) - 1) + 1))
     check "the winter's export has no summer" has_no_line "$file" '[^;]*;[246];(Obvezni|Izborni);.*[1-9].*'
@@ -341,7 +341,7 @@ calculator() {
     picture filled-calculator
     key alt+x
     save_into_exports 'Spremi CSV izvještaj' calculator
-    told '^Export$' "the program says that the report is there" report-saved
+    expect_message '^Export$' "the program says that the report is there" report-saved
     check "the report has fifty lines" is_export "$file" 'ECTS račun' 50
     check "a field with a semicolon is quoted" has_line "$file" \
         'Nositelj(i);"Šarić-Žužul Đurđica; Anić Marija"'

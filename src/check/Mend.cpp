@@ -177,13 +177,13 @@ std::string WhyLettersStay(std::string_view bytes, const Encoding& encoding)
 
 Mended MendOnce(std::string_view bytes, const modData::TableLayout& layout)
 {
-    const auto told = [&](std::string text) {
+    const auto reported = [&](std::string text) {
         return std::vector<Change>{{{layout.FileName, 0, {}}, std::move(text)}};
     };
     const Encoding encoding = EncodingOf(bytes);
     const std::string_view unmarked = bytes.substr(encoding.HasMark ? modData::Utf8Mark.size() : 0);
     if (std::string reason = WhyLettersStay(unmarked, encoding); !reason.empty())
-        return {std::string(bytes), {}, told(std::move(reason))};
+        return {std::string(bytes), {}, reported(std::move(reason))};
 
     Mended result;
     std::string text(unmarked);
@@ -191,11 +191,11 @@ Mended MendOnce(std::string_view bytes, const modData::TableLayout& layout)
     if (staysUtf8)
         result.Bytes = modData::Utf8Mark;
     else if (encoding.HasMark)
-        result.Changes = told("uklonjena je oznaka UTF-8 ispred slova u zapisu windows-1250");
+        result.Changes = reported("uklonjena je oznaka UTF-8 ispred slova u zapisu windows-1250");
     else if (encoding.In == Letters::Utf8)
     {
         text = ToWindows1250(text);
-        result.Changes = told("zapis UTF-8 bez oznake pretvoren je u windows-1250");
+        result.Changes = reported("zapis UTF-8 bez oznake pretvoren je u windows-1250");
     }
     RecordMender(layout, staysUtf8, result).Run(text);
     return result;

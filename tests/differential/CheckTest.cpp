@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <iostream>
 #include <map>
-#include <ranges>
 #include <string>
 #include <utility>
 #include <vector>
@@ -105,8 +104,8 @@ void RemoveQuotes(std::string& line, std::size_t position)
 }
 
 /// A file after the reported changes.
-std::string AsTold(std::string bytes, const std::vector<Check::Change>& changes,
-                   const modData::TableLayout& layout)
+std::string AsReported(std::string bytes, const std::vector<Check::Change>& changes,
+                       const modData::TableLayout& layout)
 {
     const auto is = [](const Check::Change& change, std::string_view text)
     { return change.Text.starts_with(text); };
@@ -121,23 +120,23 @@ std::string AsTold(std::string bytes, const std::vector<Check::Change>& changes,
         LinesOf(std::string_view(bytes).substr(isMarked ? modData::Utf8Mark.size() : 0));
     std::vector<std::size_t> removed;
     std::size_t loneLFs = 0;
-    for (const Check::Change& change : std::views::reverse(changes)) // later fields of a line first
-        if (is(change, "uklonjen je redak"))
-            removed.push_back(change.Place.Line);
-        else if (is(change, "uklonjeni su navodnici"))
-            RemoveQuotes(lines[change.Place.Line - 1].Text,
-                         static_cast<std::size_t>(std::ranges::find(layout.Columns, change.Place.Column) -
+    for (auto change = changes.rbegin(); change != changes.rend(); ++change) // later fields of a line first
+        if (is(*change, "uklonjen je redak"))
+            removed.push_back(change->Place.Line);
+        else if (is(*change, "uklonjeni su navodnici"))
+            RemoveQuotes(lines[change->Place.Line - 1].Text,
+                         static_cast<std::size_t>(std::ranges::find(layout.Columns, change->Place.Column) -
                                                   layout.Columns.begin()));
-        else if (is(change, "krajevi redaka"))
-            loneLFs = std::stoull(change.Text.substr(change.Text.find(": ") + 2));
+        else if (is(*change, "krajevi redaka"))
+            loneLFs = std::stoull(change->Text.substr(change->Text.find(": ") + 2));
 
-    std::string told = isMarked ? std::string(modData::Utf8Mark) : std::string();
+    std::string text = isMarked ? std::string(modData::Utf8Mark) : std::string();
     for (const std::size_t number : removed)
         lines[number - 1] = {};
     const bool everyLF = std::cmp_equal(std::ranges::count(lines, "\n", &Line::End), loneLFs);
     for (const Line& line : lines)
-        told += line.Text + (everyLF && line.End == "\n" ? "\r\n" : line.End);
-    return told;
+        text += line.Text + (everyLF && line.End == "\n" ? "\r\n" : line.End);
+    return text;
 }
 
 } // namespace
@@ -167,7 +166,7 @@ TEST(RandomCheck, TheExitCodeIsOneExactlyWhenTheProgramFailsAndNothingIsChanged)
 
 TEST(RandomCheck, MendingDoesWhatItReportsAndOnlyOnce)
 {
-    std::map<std::string, std::size_t> told;
+    std::map<std::string, std::size_t> reported;
     ForEachCatalogue(
         [&](const CatalogueFiles& files)
         {
@@ -178,20 +177,20 @@ TEST(RandomCheck, MendingDoesWhatItReportsAndOnlyOnce)
                 EXPECT_TRUE(Check::Mend(mended.Bytes, layout).Changes.empty()) << layout.FileName;
                 EXPECT_TRUE(!mended.Changes.empty() || mended.Bytes == files[i]) << layout.FileName;
                 for (const Check::Change& change : mended.Changes)
-                    ++told[change.Text.substr(0, 20)];
+                    ++reported[change.Text.substr(0, 20)];
                 for (const Check::Change& change : mended.Left)
-                    ++told["(left) " + change.Text.substr(0, 20)];
+                    ++reported["(left) " + change.Text.substr(0, 20)];
                 // A LF that is left is part of a field; the report does not say of which.
                 const bool someLeft = std::ranges::any_of(
                     mended.Left, [](const Check::Change& change)
                     { return change.Text.starts_with("LF") || change.Text.starts_with("navodnici"); });
-                EXPECT_TRUE(someLeft || mended.Bytes == AsTold(files[i], mended.Changes, layout))
+                EXPECT_TRUE(someLeft || mended.Bytes == AsReported(files[i], mended.Changes, layout))
                     << layout.FileName;
             }
         });
-    for (const auto& [text, count] : told)
+    for (const auto& [text, count] : reported)
         std::cout << text << ": " << count << std::endl;
-    EXPECT_GE(told.size(), 8U);
+    EXPECT_GE(reported.size(), 8U);
 }
 
 TEST(RandomCheck, ARepairDoesWhatMendingReportsAndOnlyOnce)

@@ -117,14 +117,14 @@ class Program:
         self.data = self.base / "Varlostudiji"
         self.mark = self.data / "spremanje" / "gotovo"
 
-    def told(self, path):
+    def shown(self, path):
         """A path below the program's base as the program writes it in a message."""
         if not self.windows:
             return str(path)
         return "\\".join([f"C:\\users\\{getpass.getuser()}\\AppData\\Local",
                           *Path(path).relative_to(self.base).parts])
 
-    def path_told(self, text):
+    def path_shown(self, text):
         """The path of a folder as the program shows it."""
         if not self.windows:
             return Path(text)

@@ -125,9 +125,9 @@ TEST_F(MainWindowPlace, AnExportLeavesTheCourseWhereItWas)
             [&]
             {
                 const SaveAnswers save(Folder.PathOf("export.csv"));
-                MessageAnswers told;
+                MessageAnswers answers;
                 PressKey(Find<wxWindow>(Window, button), WXK_SPACE);
-                WaitUntil([&] { return !told.Shown().empty(); });
+                WaitUntil([&] { return !answers.Shown().empty(); });
             });
 }
 

@@ -622,11 +622,11 @@ TEST_F(Keyboard, AfterAnExportTheFocusIsOnItsButton)
                  [&](wxTopLevelWindow& window)
                  {
                      const SaveAnswers save(Folder.PathOf("export.csv"));
-                     MessageAnswers told;
+                     MessageAnswers answers;
                      PressKey(Find<wxWindow>(&window, button), WXK_SPACE);
-                     for (const wxStopWatch watch; told.Shown().empty() && watch.Time() < 1000;)
+                     for (const wxStopWatch watch; answers.Shown().empty() && watch.Time() < 1000;)
                          Settle();
-                     EXPECT_EQ(told.Shown().size(), 1U) << button;
+                     EXPECT_EQ(answers.Shown().size(), 1U) << button;
                      EXPECT_EQ(FocusName(window), button);
                  });
 }

@@ -169,10 +169,10 @@ TEST_F(Program, SaysWhereItHasPutChangesThatItCouldNotSave)
     std::filesystem::rename(elsewhere.Data(), Folder.Path() / "new");
     SetEnvironment("LOCALAPPDATA", Folder.PathOf(""));
     SetEnvironment("VARLO_EDIT", "new");
-    SetEnvironment("VARLO_EXPORT_LOAD", "cmdStatNositelji");
+    SetEnvironment("VARLO_EXPORT_TEACHING_LOAD", "cmdStatNositelji");
     SetEnvironment("VARLO_EXPORT_TO", Folder.PathOf("missing"));
     const Outcome outcome = Run();
-    for (const char* name : {"VARLO_EDIT", "VARLO_EXPORT_LOAD", "VARLO_EXPORT_TO"})
+    for (const char* name : {"VARLO_EDIT", "VARLO_EXPORT_TEACHING_LOAD", "VARLO_EXPORT_TO"})
         SetEnvironment(name, "");
     EXPECT_EQ(outcome.ExitCode, 1);
     const std::vector<std::string> kept = EntriesOf(Folder.Data() / "kopije");

@@ -19,11 +19,11 @@ protected:
         // A save drops a blank line: this shows whether the program has saved.
         WriteBytes(Folder.Data() / "db_zavod.csv", Unsaved);
     }
-    ~TeachingLoadExportInProgram() override { SetEnvironment("VARLO_EXPORT_LOAD", ""); }
+    ~TeachingLoadExportInProgram() override { SetEnvironment("VARLO_EXPORT_TEACHING_LOAD", ""); }
 
     static Outcome Run()
     {
-        SetEnvironment("VARLO_EXPORT_LOAD", GetParam());
+        SetEnvironment("VARLO_EXPORT_TEACHING_LOAD", GetParam());
         return RunScriptedProgram();
     }
 

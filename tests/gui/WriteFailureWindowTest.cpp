@@ -119,8 +119,8 @@ protected:
     }
 
     /// An export that reports its errors itself and goes on.
-    void ExpectTold(wxWindow* window, const char* button, const std::string& prefix, const char* title,
-                    long icon)
+    void ExpectMessage(wxWindow* window, const char* button, const std::string& prefix, const char* title,
+                       long icon)
     {
         FailExports(window, button,
                     [&](const WriteFault& fault, MessageAnswers& answers)
@@ -205,15 +205,15 @@ TEST_F(WriteFailureWindow, AMissingDataFolderIsMadeAndEverythingSaved)
 TEST_F(WriteFailureWindow, TheExportsOfTheMainWindow)
 {
     Open();
-    ExpectTold(Main, "cmdExport", "Greška pri izvozu: ", "Varlostudiji", wxICON_ERROR);
-    ExpectTold(Main, "cmdExportVarlo", "Greška pri exportu: ", "Varlostudiji", wxICON_ERROR);
+    ExpectMessage(Main, "cmdExport", "Greška pri izvozu: ", "Varlostudiji", wxICON_ERROR);
+    ExpectMessage(Main, "cmdExportVarlo", "Greška pri exportu: ", "Varlostudiji", wxICON_ERROR);
 }
 
 TEST_F(WriteFailureWindow, TheReportOfTheCalculator)
 {
     Open();
     Press(Main, "cmdECTSCalc");
-    ExpectTold(FindOpen<frmECTSCalc>(), "cmdExport", "Greška kod izvoza: ", "Export", wxICON_EXCLAMATION);
+    ExpectMessage(FindOpen<frmECTSCalc>(), "cmdExport", "Greška kod izvoza: ", "Export", wxICON_EXCLAMATION);
 }
 
 TEST_F(WriteFailureWindow, TheExportOfAllLecturers)

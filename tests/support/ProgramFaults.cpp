@@ -95,7 +95,7 @@ void EditTables()
                                     table->Layout());
 }
 
-void WaitUntilTold()
+void WaitForLeaveFile()
 {
     const std::string name = System::EnvironmentVariable("VARLO_WAIT");
     if (name.empty())

@@ -14,7 +14,7 @@ void EditTables();
 
 /// VARLO_WAIT=TEXT: writes a file "loaded.TEXT" after the program has loaded its tables, then waits for a
 /// file "leave".
-void WaitUntilTold();
+void WaitForLeaveFile();
 
 /// VARLO_HOLD=NAME: on Windows, opens this file of the data folder so that others can only read it, writes a
 /// file "held", waits for a file "release", and returns true.

@@ -18,7 +18,7 @@ int main()
     {
         modData::LoadAllTables();
         EditTables();
-        WaitUntilTold();
+        WaitForLeaveFile();
         if (!modCSVValidator::ValidateAll())
         {
             std::puts("invalid data");

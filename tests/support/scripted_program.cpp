@@ -3,8 +3,8 @@
 // button, by its "close" box, or "not" at all. More variables:
 //
 // VARLO_ASK: shows a question in the system's own box, prints its buttons, and how numbers are formatted and
-// texts sorted, and ends. VARLO_EXPORT_LOAD=NAME: opens a window of teaching load by this button of the main
-// window, and exports to load.csv in VARLO_EXPORT_TO, or else in LOCALAPPDATA. For the others see
+// texts sorted, and ends. VARLO_EXPORT_TEACHING_LOAD=NAME: opens a window of teaching load by this button of
+// the main window, and exports to load.csv in VARLO_EXPORT_TO, or else in LOCALAPPDATA. For the others see
 // support/ProgramFaults.h.
 
 #include "data/Files.h"
@@ -122,8 +122,8 @@ private:
         FindOpen<frmSplash>()->CloseSplash();
         auto* window = FindOpen<frmMain>();
         EditTables();
-        WaitUntilTold();
-        const std::string load = System::EnvironmentVariable("VARLO_EXPORT_LOAD");
+        WaitForLeaveFile();
+        const std::string load = System::EnvironmentVariable("VARLO_EXPORT_TEACHING_LOAD");
         if (!load.empty())
             ExportLoad(window, load);
         const std::string leaveBy = System::EnvironmentVariable("VARLO_LEAVE_BY");

@@ -35,13 +35,13 @@ constexpr const char* TableFiles[] = {
     "db_kolegij.csv", "db_kolegij_smjer.csv", "db_kolegij_nastavnik.csv"};
 
 /// The number and the path that an error names.
-struct Told
+struct ReportedError
 {
     int Number;
     std::string Description;
 };
 
-std::optional<Told> ErrorOf(const std::function<void()>& action)
+std::optional<ReportedError> ErrorOf(const std::function<void()>& action)
 {
     try
     {
@@ -49,7 +49,7 @@ std::optional<Told> ErrorOf(const std::function<void()>& action)
     }
     catch (const FileError& error)
     {
-        return Told{error.Number(), error.what()};
+        return ReportedError{error.Number(), error.what()};
     }
     return std::nullopt;
 }
@@ -57,8 +57,8 @@ std::optional<Told> ErrorOf(const std::function<void()>& action)
 /// The number of the error that an action ends in; 0 if it ends in none.
 int ErrorNumberOf(const std::function<void()>& action)
 {
-    const std::optional<Told> told = ErrorOf(action);
-    return told ? told->Number : 0;
+    const std::optional<ReportedError> reported = ErrorOf(action);
+    return reported ? reported->Number : 0;
 }
 
 /// The number of the error for a failed operation.
@@ -94,7 +94,7 @@ bool IsHindrance(const FileOperation& operation, After then)
 /// them.
 void FailEachCall(const std::function<void()>& prepare, const std::function<void()>& action,
                   const std::function<void(const std::vector<FileOperation>&, std::size_t place, const Fault&,
-                                           const std::optional<Told>&)>& check)
+                                           const std::optional<ReportedError>&)>& check)
 {
     prepare();
     std::vector<FileOperation> good;
@@ -109,12 +109,12 @@ void FailEachCall(const std::function<void()>& prepare, const std::function<void
         {
             SCOPED_TRACE(Describe(place + 1, good[place], fault));
             prepare();
-            std::optional<Told> told;
+            std::optional<ReportedError> reported;
             {
                 const WatchedFiles failing(place + 1, fault);
-                told = ErrorOf(action);
+                reported = ErrorOf(action);
             }
-            check(good, place, fault, told);
+            check(good, place, fault, reported);
             if (testing::Test::HasFailure())
                 return; // one failure is enough
         }
@@ -255,16 +255,16 @@ TEST_F(EncodingFailure, LeavesTheFileMarkedOrConverted)
         },
         [&] { modData::NormalizeFileEncoding(Folder.DataPath(name)); },
         [&](const std::vector<FileOperation>& good, std::size_t place, const Fault& fault,
-            const std::optional<Told>& told)
+            const std::optional<ReportedError>& reported)
         {
             const bool hinders = IsHindrance(good[place], fault.Then);
-            ASSERT_EQ(told.has_value(), hinders);
+            ASSERT_EQ(reported.has_value(), hinders);
             if (hinders)
             {
-                EXPECT_TRUE(told->Description.ends_with(": " + Folder.DataPath(name)));
-                EXPECT_TRUE(told->Number == NumberOf(good[place].What, fault.Error) ||
+                EXPECT_TRUE(reported->Description.ends_with(": " + Folder.DataPath(name)));
+                EXPECT_TRUE(reported->Number == NumberOf(good[place].What, fault.Error) ||
                             !IsHindrance(good[place], After::AllIsWell))
-                    << told->Number;
+                    << reported->Number;
             }
             const bool isReplaced = !hinders || good[place].What == FileOperation::FlushFolder;
             EXPECT_EQ(ReadBytes(Folder.Data() / name), isReplaced ? Plain[name] : Marked[name]);
@@ -293,20 +293,21 @@ TEST_F(EncodingFailure, AWholeTemporaryFileStaysWhereItCannotReplaceTheFile)
 
 TEST_F(EncodingFailure, WhileTheTablesAreLoadedLeavesEachFileMarkedOrConverted)
 {
-    FailEachCall(
-        [&] { Restore(Folder.Data(), Marked); }, modData::LoadAllTables,
-        [&](const std::vector<FileOperation>&, std::size_t, const Fault&, const std::optional<Told>& told)
-        {
-            for (const char* name : TableFiles)
-            {
-                const std::string content = ReadBytes(Folder.Data() / name);
-                EXPECT_TRUE(content == Plain[name] || (told && content == Marked[name])) << content;
-            }
-            EXPECT_TRUE(told || modData::Zavodi.RowCount() == 1);
-            const WatchedFiles none;
-            EXPECT_NO_THROW(modData::LoadAllTables());
-            EXPECT_EQ(DataFiles()["db_zavod.csv"], Plain["db_zavod.csv"]);
-        });
+    FailEachCall([&] { Restore(Folder.Data(), Marked); }, modData::LoadAllTables,
+                 [&](const std::vector<FileOperation>&, std::size_t, const Fault&,
+                     const std::optional<ReportedError>& reported)
+                 {
+                     for (const char* name : TableFiles)
+                     {
+                         const std::string content = ReadBytes(Folder.Data() / name);
+                         EXPECT_TRUE(content == Plain[name] || (reported && content == Marked[name]))
+                             << content;
+                     }
+                     EXPECT_TRUE(reported || modData::Zavodi.RowCount() == 1);
+                     const WatchedFiles none;
+                     EXPECT_NO_THROW(modData::LoadAllTables());
+                     EXPECT_EQ(DataFiles()["db_zavod.csv"], Plain["db_zavod.csv"]);
+                 });
 }
 
 TEST_F(EncodingFailure, WhileAMissingFileIsMadeLeavesNone)
@@ -315,10 +316,10 @@ TEST_F(EncodingFailure, WhileAMissingFileIsMadeLeavesNone)
     const WatchedFiles watched;
     System::Files.Open = [](const fs::path&, OpenFor, FileOperations::Handle&)
     { return std::make_error_code(std::errc::no_space_on_device); };
-    const std::optional<Told> told =
+    const std::optional<ReportedError> reported =
         ErrorOf([&] { modData::NormalizeFileEncoding(Folder.DataPath("db_zavod.csv")); });
-    ASSERT_TRUE(told.has_value());
-    EXPECT_EQ(told->Number, 61);
+    ASSERT_TRUE(reported.has_value());
+    EXPECT_EQ(reported->Number, 61);
     EXPECT_FALSE(fs::exists(file));
 }
 
@@ -433,18 +434,18 @@ protected:
         const std::string written = ReadBytes(Folder.Path() / "export.csv");
         FailEachCall([&] { Restore(Folder.Path(), old); }, [&] { GetParam().Write(path); },
                      [&](const std::vector<FileOperation>& good, std::size_t place, const Fault& fault,
-                         const std::optional<Told>& told)
+                         const std::optional<ReportedError>& reported)
                      {
                          if (!IsHindrance(good[place], fault.Then))
                          {
-                             EXPECT_FALSE(told.has_value());
+                             EXPECT_FALSE(reported.has_value());
                              return;
                          }
-                         ASSERT_TRUE(told.has_value());
-                         EXPECT_TRUE(told->Number == NumberOf(good[place].What, fault.Error) ||
+                         ASSERT_TRUE(reported.has_value());
+                         EXPECT_TRUE(reported->Number == NumberOf(good[place].What, fault.Error) ||
                                      !IsHindrance(good[place], After::AllIsWell))
-                             << told->Number;
-                         EXPECT_TRUE(told->Description.ends_with(": " + path)) << told->Description;
+                             << reported->Number;
+                         EXPECT_TRUE(reported->Description.ends_with(": " + path)) << reported->Description;
                          Contents left = FilesIn(Folder.Path());
                          std::erase_if(left, [](const auto& file) { return file.first.ends_with(".tmp"); });
                          const bool isReplaced = good[place].What == FileOperation::FlushFolder;
