@@ -75,7 +75,8 @@ TEST_F(CutCells, ShowTheWholeTextWhereThePointerIs)
     const auto isDifferent = [before = ScreenPicture(below), below]
     {
         const wxImage now = ScreenPicture(below);
-        return !std::equal(now.GetData(), now.GetData() + 3 * below.width * below.height, before.GetData());
+        return !std::equal(now.GetData(), now.GetData() + std::ptrdiff_t{3} * below.width * below.height,
+                           before.GetData());
     };
     EXPECT_EQ(Tip(), Wide);
     WaitUntil(isDifferent); // the tip is on the screen
