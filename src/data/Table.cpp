@@ -116,6 +116,14 @@ std::optional<std::size_t> Table::FindPosition(std::size_t column, std::int32_t 
     return std::nullopt;
 }
 
+std::int32_t Table::LargestNumber(std::size_t column) const
+{
+    const IndexedColumn& indexed = Indexed(column);
+    if (indexed.NumbersEnd < m_rows.size())
+        m_rows[indexed.NumbersEnd].Number(column); // throws
+    return indexed.Largest;
+}
+
 std::int32_t Table::NumberAt(std::size_t position, std::size_t column, Conversion conversion) const
 {
     const IndexedColumn& indexed = Indexed(column);
@@ -159,6 +167,7 @@ Table::IndexedColumn Table::MakeIndex(std::size_t column) const
     std::vector<std::int32_t> numbers;
     numbers.reserve(m_rows.size());
     std::optional<std::size_t> numbersEnd;
+    std::int32_t largest = 0;
     for (const Row& row : m_rows)
     {
         if (column >= row.FieldCount())
@@ -167,10 +176,11 @@ Table::IndexedColumn Table::MakeIndex(std::size_t column) const
         if (ParseLong(row.Field(column), number) != NumberKind::Whole && !numbersEnd)
             numbersEnd = numbers.size();
         numbers.push_back(number);
+        largest = std::max(largest, number);
     }
     const std::size_t end = numbersEnd.value_or(numbers.size());
     ColumnIndex index(numbers);
-    return {std::move(numbers), end, std::move(index)};
+    return {std::move(numbers), end, largest, std::move(index)};
 }
 
 const Table::IndexedColumn& Table::Indexed(std::size_t column) const

@@ -161,6 +161,10 @@ public:
     std::optional<std::size_t> FindPosition(std::size_t column, std::int32_t number,
                                             Conversion conversion = Conversion::Strict) const;
 
+    /// The largest number in the column, or 0 if none is larger.
+    /// @throws DataError for the first row that holds no number
+    std::int32_t LargestNumber(std::size_t column) const;
+
     /// Row::Number for the row at a position, from the column's index: faster for many rows out of order.
     /// @throws as Row::Number
     std::int32_t NumberAt(std::size_t position, std::size_t column, Conversion conversion) const;
@@ -177,6 +181,7 @@ private:
 
         std::vector<std::int32_t> Numbers; // by position, up to the first row that is too short
         std::size_t NumbersEnd;            // the first row that holds no number
+        std::int32_t Largest;              // at least 0
         ColumnIndex Index;
     };
 

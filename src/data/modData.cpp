@@ -380,10 +380,7 @@ UnsavedChanges KeepUnsavedChanges()
 
 std::int32_t NextKolegijID()
 {
-    std::int32_t largest = 0;
-    for (const Row& row : Kolegiji)
-        largest = std::max(largest, row.Number(Kolegij::ID));
-    return CheckedSum(largest, 1);
+    return CheckedSum(Kolegiji.LargestNumber(Kolegij::ID), 1);
 }
 
 } // namespace modData
