@@ -62,11 +62,8 @@ TEST_F(CourseEditor, IsCentredOnTheScreen)
     Add(
         [](frmKolegij* editor)
         {
-            const wxRect place = editor->GetRect();
-            const wxSize screen = wxGetDisplaySize();
-            EXPECT_NEAR(2 * place.x, screen.x - place.width, 4);
-            EXPECT_NEAR(2 * place.y, screen.y - place.height, 4);
-            EXPECT_TRUE(wxRect(screen).Contains(place));
+            ExpectCentredOnScreen(editor);
+            EXPECT_TRUE(wxRect(wxGetDisplaySize()).Contains(editor->GetRect()));
         });
 }
 

@@ -5,6 +5,7 @@
 #include <wx/stopwatch.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 
 // Texts that are wider than their column.

@@ -16,6 +16,7 @@
 #include <wx/uiaction.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 #include <typeinfo>
 
@@ -160,7 +161,7 @@ std::vector<unsigned char> EdgeOf(const wxButton* button)
     constexpr int width = 6;
     const wxRect place = button->GetScreenRect();
     const wxImage pixels = ScreenPicture({place.x, place.y + place.height / 2, width, 1});
-    return {pixels.GetData(), pixels.GetData() + 3 * width};
+    return {pixels.GetData(), pixels.GetData() + std::ptrdiff_t{3} * width};
 }
 
 /// Waits for the focus to come to a control of a window; returns the control that has it at the end.
@@ -619,7 +620,7 @@ TEST_F(Keyboard, AfterAnExportTheFocusIsOnItsButton)
                                                              {CalculatorForm, "cmdExport"}};
     for (const auto& [which, button] : exports)
         InWindow(which,
-                 [&](wxTopLevelWindow& window)
+                 [&, button = button](wxTopLevelWindow& window)
                  {
                      const SaveAnswers save(Folder.PathOf("export.csv"));
                      MessageAnswers answers;
@@ -658,7 +659,7 @@ TEST_F(Keyboard, AfterTheSaveDialogTheFocusIsOnTheButtonThatOpenedIt)
         {MainForm, "cmdExportVarlo"}, {LecturerForm, "cmdExportAllStat"}, {CalculatorForm, "cmdExport"}};
     for (const auto& [which, button] : exports)
         InWindow(which,
-                 [&](wxTopLevelWindow& window)
+                 [&, button = button](wxTopLevelWindow& window)
                  {
                      const SaveDialogKeys cancel({});
                      PressKey(Find<wxWindow>(&window, button), WXK_SPACE);

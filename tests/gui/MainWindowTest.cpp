@@ -69,10 +69,7 @@ TEST_F(MainWindow, OpensWithTheFirstLevelAndStudyAndNothingElseFiltered)
 TEST_F(MainWindow, IsCentredOnTheScreen)
 {
     Open();
-    const wxRect window = Window->GetRect();
-    const wxSize screen = wxGetDisplaySize();
-    EXPECT_NEAR(window.x, (screen.x - window.width) / 2, 2);
-    EXPECT_NEAR(window.y, (screen.y - window.height) / 2, 2);
+    ExpectCentredOnScreen(Window);
 }
 
 TEST_F(MainWindow, WarnsOfInvalidDataAndGoesOn)
@@ -291,7 +288,7 @@ TEST_F(MainWindow, AListThatWasScrolledShowsItsNewRowsFromTheFirst)
     std::vector<std::string> lines;
     for (int id = 6; id <= 100; ++id)
         lines.push_back(std::to_string(id) + ";Dodan;1;1;1;1;obvezni;1;1");
-    lines.push_back("101;Zadnji;1;1;1;1;obvezni;2;1");
+    lines.emplace_back("101;Zadnji;1;1;1;1;obvezni;2;1");
     catalogue.Kolegiji.insert(catalogue.Kolegiji.end(), lines.begin(), lines.end());
     Open(catalogue);
     const wxRect first = CellPlace(Kolegiji(), 0, 0);
@@ -511,7 +508,7 @@ TEST_F(MainWindow, KeepsItsCommandsInViewAtItsSmallestSize)
     const wxRect client = Window->GetClientRect();
     for (const char* name : {"cmdAdd", "cmdExit", "txtSearch", "lvwKolegiji", "lvwStatistika"})
     {
-        wxWindow* control = Find<wxWindow>(Window, name);
+        auto* control = Find<wxWindow>(Window, name);
         const wxRect place(Window->ScreenToClient(control->GetScreenPosition()), control->GetSize());
         EXPECT_TRUE(client.Contains(place)) << name;
         EXPECT_GE(place.width, 40) << name;

@@ -123,7 +123,7 @@ TEST_F(Startup, TheMainWindowOpensOnceForSeveralEventsAtOnce)
 TEST_F(Startup, TheMainWindowOpensOnceWhenAClickAndEscapeAndTheSecondComeTogether)
 {
     frmSplash* splash = ShowSplash(new frmSplash);
-    wxWindow* picture = Find<wxWindow>(splash, "Picture1");
+    auto* picture = Find<wxWindow>(splash, "Picture1");
     Focus(picture);
     wxMilliSleep(1100); // the timer is due, and no event has been handled
     wxUIActionSimulator simulator;

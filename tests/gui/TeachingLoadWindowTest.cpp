@@ -20,10 +20,7 @@ TYPED_TEST_SUITE(TeachingLoadWindows, BothLoads);
 TYPED_TEST(TeachingLoadWindows, IsCentredOnTheScreenAndLeavesTheMainWindowUsable)
 {
     this->Open();
-    const wxRect window = this->Stat->GetRect();
-    const wxSize screen = wxGetDisplaySize();
-    EXPECT_NEAR(window.x, (screen.x - window.width) / 2, 2);
-    EXPECT_NEAR(window.y, (screen.y - window.height) / 2, 2);
+    ExpectCentredOnScreen(this->Stat);
     EXPECT_TRUE(this->Stat->IsShown());
     EXPECT_TRUE(this->Main->IsEnabled());
     Choose(Find<wxChoice>(this->Main, "cboProgram"), "BEV");

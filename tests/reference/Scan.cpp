@@ -53,7 +53,7 @@ struct Place
     int Order;
 
     bool operator==(const Place&) const = default;
-    auto operator<=>(const Place&) const = default;
+    auto operator<=>(const Place&) const = default; // NOLINT(modernize-use-nullptr): no pointer is meant
 };
 
 /// Takes the first letter off an upper-case text that is not empty.

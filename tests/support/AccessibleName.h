@@ -108,7 +108,7 @@ inline std::string AccessibleName(wxWindow* control)
     wxWindow* window = SpokenWindow(control);
     for (void* widget :
          {static_cast<void*>(window->GetConnectWidget()), static_cast<void*>(window->m_widget)})
-        if (const std::string labels = LabelsOfWidget(widget); !labels.empty())
+        if (std::string labels = LabelsOfWidget(widget); !labels.empty())
             return labels;
     return NameOfWidget(window->GetConnectWidget());
 }

@@ -107,9 +107,9 @@ void WaitForLeaveFile()
 bool HoldsAFile()
 {
     const std::string name = System::EnvironmentVariable("VARLO_HOLD");
+#ifdef _WIN32
     if (name.empty())
         return false;
-#ifdef _WIN32
     const fs::path path = ToPath(PathIn(modData::GetDataFolder(), name));
     const HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -117,5 +117,5 @@ bool HoldsAFile()
     WaitFor(BaseFolder() / "release");
     CloseHandle(file);
 #endif
-    return true;
+    return !name.empty();
 }

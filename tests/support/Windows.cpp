@@ -9,6 +9,8 @@
 #include <wx/uiaction.h>
 #include <wx/utils.h>
 
+#include <utility>
+
 #ifdef _WIN32
 #include <windows.h>
 #else
@@ -202,6 +204,14 @@ std::vector<std::string> ColumnTexts(const ListView* list, int column)
     return texts;
 }
 
+void ExpectCentredOnScreen(const wxWindow* window)
+{
+    const wxRect place = window->GetRect();
+    const wxSize screen = wxGetDisplaySize();
+    EXPECT_NEAR(2 * place.x, screen.x - place.width, 4);
+    EXPECT_NEAR(2 * place.y, screen.y - place.height, 4);
+}
+
 void CloseAllWindows()
 {
     const std::vector<wxWindow*> open(wxTopLevelWindows.begin(), wxTopLevelWindows.end());
@@ -233,7 +243,7 @@ int MessageAnswers::Enter(wxDialog* dialog)
 SaveAnswers::SaveAnswers(std::optional<std::string> path)
 {
     SetSaveDialogChooser(
-        [this, path](const SaveDialogOptions& options)
+        [this, path = std::move(path)](const SaveDialogOptions& options)
         {
             m_options.push_back(options);
             return path;

@@ -86,6 +86,9 @@ std::vector<std::string> EntriesOfBox(const wxItemContainer* box);
 /// The texts of a column of a list, top to bottom.
 std::vector<std::string> ColumnTexts(const ListView* list, int column);
 
+/// Expects a window in the middle of the screen, to two pixels.
+void ExpectCentredOnScreen(const wxWindow* window);
+
 /// Closes every open window without questions and waits until all are gone.
 void CloseAllWindows();
 
