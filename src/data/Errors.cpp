@@ -44,9 +44,9 @@ struct FileFault
 constexpr FileFault FileFaults[] = {
     {std::errc::no_such_file_or_directory, 53, "Datoteka ili mapa nije pronađena"},
     {std::errc::not_a_directory, 76, "Mapa nije pronađena"},
-    {std::errc::is_a_directory, 75, "Na tom mjestu nije datoteka nego mapa"},
+    {std::errc::is_a_directory, 75, "Umjesto datoteke ondje je mapa istoga imena"},
     {std::errc::permission_denied, 70,
-     "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu"},
+     "Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u drugom programu"},
     {std::errc::operation_not_permitted, 70, "Pristup nije dopušten"},
     {std::errc::read_only_file_system, 70, "Disk je zaštićen od pisanja"},
     {std::errc::device_or_resource_busy, 70, "Datoteku koristi drugi program"},
@@ -109,7 +109,8 @@ SubscriptOutOfRange::SubscriptOutOfRange(const FieldPlace& place)
 }
 
 InputPastEnd::InputPastEnd(std::string_view path)
-    : RuntimeError(62, "Datoteka je prazna, nedostaje joj redak zaglavlja: " + std::string(path))
+    : RuntimeError(62,
+                   "Datoteka s podacima nedostaje ili je prazna (nema retka zaglavlja): " + std::string(path))
 {
 }
 

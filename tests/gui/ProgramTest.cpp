@@ -85,7 +85,7 @@ TEST_F(Program, ReportsARowThatIsTooShort)
 TEST_F(Program, ReportsAnEmptyFile)
 {
     Replace("db_smjer.csv", "");
-    ExpectFailure("Greška 62: Datoteka je prazna, nedostaje joj redak zaglavlja: " +
+    ExpectFailure("Greška 62: Datoteka s podacima nedostaje ili je prazna (nema retka zaglavlja): " +
                   Folder.DataPath("db_smjer.csv"));
 }
 
@@ -94,9 +94,9 @@ TEST_F(Program, ReportsAMissingFileAndLeavesItEmpty)
     std::filesystem::remove(Folder.Data() / "db_studij.csv");
     auto before = Files();
     const Outcome outcome = Run();
-    EXPECT_EQ(outcome.Output,
-              "Varlostudiji|critical|Greška 62: Datoteka je prazna, nedostaje joj redak zaglavlja: " +
-                  Folder.DataPath("db_studij.csv"));
+    EXPECT_EQ(outcome.Output, "Varlostudiji|critical|Greška 62: Datoteka s podacima nedostaje ili je prazna "
+                              "(nema retka zaglavlja): " +
+                                  Folder.DataPath("db_studij.csv"));
     EXPECT_EQ(outcome.ExitCode, 1);
     before["db_studij.csv"] = "";
     EXPECT_EQ(Files(), before);
@@ -108,9 +108,9 @@ TEST_F(Program, ReportsAFileThatMayNotBeWrittenAndKeepsIt)
     const std::filesystem::path file = Folder.Data() / "db_kolegij.csv";
     constexpr perms write = perms::owner_write | perms::group_write | perms::others_write;
     std::filesystem::permissions(file, write, std::filesystem::perm_options::remove);
-    ExpectFailure(
-        "Greška 70: Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu: " +
-        Folder.DataPath("db_kolegij.csv"));
+    ExpectFailure("Greška 70: Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u "
+                  "drugom programu: " +
+                  Folder.DataPath("db_kolegij.csv"));
     std::filesystem::permissions(file, write, std::filesystem::perm_options::add);
 }
 

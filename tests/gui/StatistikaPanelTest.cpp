@@ -465,7 +465,7 @@ TEST_F(FailingExport, APathThatIsAFolder)
 {
     Open();
     const std::string path = Folder.PathOf("Varlostudiji");
-    ExpectFailures(path, "Na tom mjestu nije datoteka nego mapa: " + path);
+    ExpectFailures(path, "Umjesto datoteke ondje je mapa istoga imena: " + path);
     EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
 }
 
@@ -485,7 +485,9 @@ TEST_F(FailingExport, AnOlderFileMarkedReadOnlyStaysAsItIs)
     constexpr perms write = perms::owner_write | perms::group_write | perms::others_write;
     std::filesystem::permissions(Folder.Path() / "older.csv", write, std::filesystem::perm_options::remove);
     ExpectFailures(
-        path, "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu: " + path);
+        path,
+        "Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u drugom programu: " +
+            path);
     std::filesystem::permissions(Folder.Path() / "older.csv", write, std::filesystem::perm_options::add);
     ExpectOlderUnharmed();
 }
@@ -537,7 +539,9 @@ TEST_F(FailingExport, AReadOnlyFolder)
     constexpr perms write = perms::owner_write | perms::group_write | perms::others_write;
     std::filesystem::permissions(Folder.Path(), write, std::filesystem::perm_options::remove);
     ExpectFailures(
-        path, "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu: " + path);
+        path,
+        "Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u drugom programu: " +
+            path);
     std::filesystem::permissions(Folder.Path(), perms::owner_write, std::filesystem::perm_options::add);
     ExpectOlderUnharmed();
 }
@@ -552,7 +556,9 @@ TEST_F(FailingExport, AFileThatAnotherProgramHasLocked)
                               FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(lock, INVALID_HANDLE_VALUE);
     ExpectFailures(
-        path, "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu: " + path);
+        path,
+        "Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u drugom programu: " +
+            path);
     CloseHandle(lock);
     ExpectOlderUnharmed();
 }

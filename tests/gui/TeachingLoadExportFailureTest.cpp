@@ -49,9 +49,10 @@ TEST_P(TeachingLoadExportInProgram, AFileThatMayNotBeWrittenEndsTheProgramAndSta
     WriteBytes(Folder.Path() / "load.csv", "older");
     const ReadOnly marked(Folder.Path() / "load.csv");
     const Outcome outcome = Run();
-    EXPECT_EQ(outcome.Output, "Varlostudiji|critical|Greška 70: Pristup nije dopušten; možda je zaštićeno od "
-                              "pisanja ili otvoreno u drugom programu: " +
-                                  Folder.PathOf("load.csv"));
+    EXPECT_EQ(outcome.Output,
+              "Varlostudiji|critical|Greška 70: Pristup nije dopušten; datoteka je možda zaštićena od "
+              "pisanja ili otvorena u drugom programu: " +
+                  Folder.PathOf("load.csv"));
     EXPECT_EQ(outcome.ExitCode, 1);
     EXPECT_EQ(ReadBytes(Folder.Path() / "load.csv"), "older");
     EXPECT_EQ(EntriesOf(Folder.Path()), (std::vector<std::string>{"Varlostudiji", "load.csv"}));
@@ -62,8 +63,9 @@ TEST_P(TeachingLoadExportInProgram, AFolderInTheFilesPlaceEndsTheProgram)
 {
     std::filesystem::create_directory(Folder.Path() / "load.csv");
     const Outcome outcome = Run();
-    EXPECT_EQ(outcome.Output, "Varlostudiji|critical|Greška 75: Na tom mjestu nije datoteka nego mapa: " +
-                                  Folder.PathOf("load.csv"));
+    EXPECT_EQ(outcome.Output,
+              "Varlostudiji|critical|Greška 75: Umjesto datoteke ondje je mapa istoga imena: " +
+                  Folder.PathOf("load.csv"));
     EXPECT_EQ(outcome.ExitCode, 1);
     EXPECT_FALSE(HasSaved());
 }

@@ -93,7 +93,7 @@ TYPED_TEST(TeachingLoadWindows, AnErrorInWritingGoesUncaughtAndTheOlderFileStays
         const ReadOnly marked(folder.Path() / "older.csv");
         this->PressExport(folder.PathOf("older.csv"));
         EXPECT_EQ(TakeUncaughtError(),
-                  "70: Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u "
+                  "70: Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u "
                   "drugom programu: " +
                       folder.PathOf("older.csv"));
     }

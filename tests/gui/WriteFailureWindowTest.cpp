@@ -27,7 +27,7 @@ struct WriteFault
 };
 
 constexpr const char* NotAllowed =
-    "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu: ";
+    "Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u drugom programu: ";
 constexpr const char* Full = "Na disku nema dovoljno mjesta: ";
 constexpr const char* Failed = "Greška pri čitanju ili pisanju: ";
 

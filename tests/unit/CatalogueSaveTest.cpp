@@ -406,7 +406,7 @@ protected:
 
     fs::path File = Folder.Data() / "db_kolegij_smjer.csv";
     std::string Report =
-        "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu: " +
+        "Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u drugom programu: " +
         Folder.DataPath("db_kolegij_smjer.csv") +
         "\r\n\r\nPromjene su sačuvane, ali još nisu upisane u sve datoteke kataloga. Ne uređujte te "
         "datoteke. Zatvorite druge programe koji ih koriste i ponovno pokrenite Varlostudije: spremanje će "

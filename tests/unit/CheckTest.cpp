@@ -120,7 +120,8 @@ TEST(Check, AFileThatIsMissingOrEmptyEndsTheLoad)
     CleanCatalogue().WriteTo(folder.Data());
     std::filesystem::remove(folder.Data() / "db_zavod.csv");
     WriteBytes(folder.Data() / "db_smjer.csv", "\xEF\xBB\xBF");
-    const std::string text = ": Greška 62: Datoteka je prazna, nedostaje joj redak zaglavlja: ";
+    const std::string text =
+        ": Greška 62: Datoteka s podacima nedostaje ili je prazna (nema retka zaglavlja): ";
     EXPECT_EQ(FindingsIn(folder), (Lines{"G db_zavod.csv" + text + folder.DataPath("db_zavod.csv"),
                                          "G db_smjer.csv" + text + folder.DataPath("db_smjer.csv")}));
     EXPECT_FALSE(std::filesystem::exists(folder.Data() / "db_zavod.csv"));

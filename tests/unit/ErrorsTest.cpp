@@ -19,9 +19,9 @@ TEST(Errors, AFileErrorNamesItsCauseAndThePathAndHasItsNumber)
     } causes[] = {
         {std::errc::no_such_file_or_directory, 53, "Datoteka ili mapa nije pronađena"},
         {std::errc::not_a_directory, 76, "Mapa nije pronađena"},
-        {std::errc::is_a_directory, 75, "Na tom mjestu nije datoteka nego mapa"},
+        {std::errc::is_a_directory, 75, "Umjesto datoteke ondje je mapa istoga imena"},
         {std::errc::permission_denied, 70,
-         "Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u drugom programu"},
+         "Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u drugom programu"},
         {std::errc::operation_not_permitted, 70, "Pristup nije dopušten"},
         {std::errc::read_only_file_system, 70, "Disk je zaštićen od pisanja"},
         {std::errc::device_or_resource_busy, 70, "Datoteku koristi drugi program"},
@@ -50,7 +50,8 @@ TEST(Errors, AFileThatEndsTooSoonIsNamed)
 {
     const InputPastEnd error("/mapa/db_zavod.csv");
     EXPECT_EQ(error.Number(), 62);
-    EXPECT_STREQ(error.what(), "Datoteka je prazna, nedostaje joj redak zaglavlja: /mapa/db_zavod.csv");
+    EXPECT_STREQ(error.what(),
+                 "Datoteka s podacima nedostaje ili je prazna (nema retka zaglavlja): /mapa/db_zavod.csv");
 }
 
 TEST(Errors, AFaultyFieldNamesItsValueFileLineAndColumn)

@@ -65,9 +65,10 @@ protected:
         {
             EXPECT_TRUE(
                 std::string_view(error.what())
-                    .starts_with("Pristup nije dopušten; možda je zaštićeno od pisanja ili otvoreno u "
-                                 "drugom programu: " +
-                                 Folder.DataPath("db_studij.csv")))
+                    .starts_with(
+                        "Pristup nije dopušten; datoteka je možda zaštićena od pisanja ili otvorena u "
+                        "drugom programu: " +
+                        Folder.DataPath("db_studij.csv")))
                 << error.what();
             EXPECT_EQ(error.Number(), 70);
         }

@@ -124,7 +124,8 @@ wxSizer* frmKolegij::Lists()
     {
         lstNastavnik[i] =
             addList(wxString::Format("lstNastavnik(%zu)", i + 1), NositeljLabels[i], 3, wxLB_SINGLE);
-        lstNastavnik[i]->SetToolTip(ToWx("Odabir se uklanja tipkom Delete ili klikom uz pritisnut Ctrl."));
+        lstNastavnik[i]->SetToolTip(
+            ToWx("Odabir se uklanja tipkom Delete ili klikom uz pritisnutu tipku Ctrl."));
     }
     return row;
 }
