@@ -102,7 +102,7 @@ private:
             m_firstLoneLF = line.Number;
         const FieldPlace place = {m_layout.FileName, line.Number, {}};
         if (line.Number > 1 && IsSeparatorsOnly(line.Text))
-            AddMendable(Group::Note, place, "redak ima samo razdjelnike, bez podataka");
+            AddMendable(Group::Note, place, "redak ima samo točke-zareze, bez podataka");
         if (!m_encoding.HasMark && m_encoding.In == Letters::Mixed && IsUtf8Text(line.Text))
             Add(Group::Danger, line.Number, WordsOfUtf8Line);
         if (!m_encoding.HasMark && m_encoding.In == Letters::Utf8 && !m_isUtf8Reported &&

@@ -111,7 +111,7 @@ private:
     {
         const bool isHeader = record.Number == 1;
         if (!isHeader && IsSeparatorsOnly(record.Text))
-            return Report(m_result.Changes, record.Number, {}, "uklonjen je redak samih razdjelnika");
+            return Report(m_result.Changes, record.Number, {}, "uklonjen je redak samih točaka-zareza");
         if (record.End == LoneLF && m_loneLFs++ == 0)
             m_firstLoneLF = record.Number;
         MendQuotes(record);

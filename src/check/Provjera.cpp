@@ -29,7 +29,7 @@ constexpr std::string_view Help =
     "\n"
     "  --popravi popravlja ono za što ne treba odluka: krajeve redaka LF, UTF-8 bez\n"
     "            oznake, oznaku UTF-8 ispred drugih slova, navodnike koje je tablični\n"
-    "            kalkulator stavio oko cijelog polja i retke samih razdjelnika. Prije\n"
+    "            kalkulator stavio oko cijelog polja i retke samih točaka-zareza. Prije\n"
     "            toga sprema kopiju u mapu kopije. Ne radi dok je katalog otvoren.\n"
     "  --cekaj   na kraju čeka tipku Enter\n"
     "  --help    ispisuje ovu pomoć\n"

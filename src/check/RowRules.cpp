@@ -104,8 +104,8 @@ void FindInRow(const modData::Row& row, const RowNeeds& needs, Findings& finding
     FindFieldCount(row, needs, findings);
     if (row.Field(0).empty())
         findings.push_back({Group::Danger, row.Place(0),
-                            "prvo je polje prazno: spremanje izostavlja njegov razdjelnik, pa se ostala "
-                            "polja pomaknu ulijevo"});
+                            "prvo je polje prazno: spremanje izostavlja točku-zarez iza njega, pa se "
+                            "ostala polja pomaknu ulijevo"});
     FindUnreadNumbers(row, needs, findings);
 }
 

@@ -318,9 +318,8 @@ TEST(Check, ARowWithTooFewFieldsIsDangerousBesideAnotherFaultToo)
 TEST(Check, AnEmptyFirstFieldIsDangerous)
 {
     EXPECT_EQ(With([](Catalogue& c) { c.Zavodi.push_back(";Bez broja;B"); }),
-              (Lines{"O db_zavod.csv, redak 4, ID: prvo je polje prazno: spremanje izostavlja njegov "
-                     "razdjelnik, pa se "
-                     "ostala polja pomaknu ulijevo",
+              (Lines{"O db_zavod.csv, redak 4, ID: prvo je polje prazno: spremanje izostavlja "
+                     "točku-zarez iza njega, pa se ostala polja pomaknu ulijevo",
                      "O db_zavod.csv, redak 4, ID: Vrijednost \"\" nije broj"}));
 }
 
@@ -390,9 +389,9 @@ TEST(Check, ARowOfSeparatorsIsNoted)
                       c.Zavodi.push_back(";;");
                       c.KolegijSmjerovi.push_back(" ;");
                   }),
-              (Lines{"N db_zavod.csv, redak 4: redak ima samo razdjelnike, bez podataka",
+              (Lines{"N db_zavod.csv, redak 4: redak ima samo točke-zareze, bez podataka",
                      "G db_kolegij_smjer.csv, redak 7, KolegijID: Greška 13: Vrijednost \" \" nije broj",
-                     "N db_kolegij_smjer.csv, redak 7: redak ima samo razdjelnike, bez podataka"}));
+                     "N db_kolegij_smjer.csv, redak 7: redak ima samo točke-zareze, bez podataka"}));
 }
 
 TEST(Check, RepeatedIDsAreNotedWhereTheValidationDoesNotLook)

@@ -144,9 +144,9 @@ TEST(Mend, QuotesAroundASeparatorOrABreakAreLeft)
 TEST(Mend, RowsOfSeparatorsAreRemoved)
 {
     ExpectMended(Start + ";;\r\n1;A;B\r\n; ;\r\n;", Start + "1;A;B\r\n",
-                 {"db_zavod.csv, redak 2: uklonjen je redak samih razdjelnika",
-                  "db_zavod.csv, redak 4: uklonjen je redak samih razdjelnika",
-                  "db_zavod.csv, redak 5: uklonjen je redak samih razdjelnika"});
+                 {"db_zavod.csv, redak 2: uklonjen je redak samih točaka-zareza",
+                  "db_zavod.csv, redak 4: uklonjen je redak samih točaka-zareza",
+                  "db_zavod.csv, redak 5: uklonjen je redak samih točaka-zareza"});
     ExpectUntouched(";;\r\n1;A;B\r\n");
 }
 

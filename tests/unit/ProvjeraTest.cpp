@@ -121,7 +121,7 @@ nalaza, svaki s datotekom, retkom i stupcem; prvi redak datoteke je zaglavlje.
 
   --popravi popravlja ono za što ne treba odluka: krajeve redaka LF, UTF-8 bez
             oznake, oznaku UTF-8 ispred drugih slova, navodnike koje je tablični
-            kalkulator stavio oko cijelog polja i retke samih razdjelnika. Prije
+            kalkulator stavio oko cijelog polja i retke samih točaka-zareza. Prije
             toga sprema kopiju u mapu kopije. Ne radi dok je katalog otvoren.
   --cekaj   na kraju čeka tipku Enter
   --help    ispisuje ovu pomoć
