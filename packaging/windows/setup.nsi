@@ -69,7 +69,7 @@ Page custom ShowDataPage LeaveDataPage
 !macroend
 
 ${TEXT} Welcome "Varlostudiji ${VERSION}"
-${TEXT} WelcomeText "Katalog kolegija i nastavno opterećenje.$\r$\n$\r$\nProgram se instalira samo za vas; administratorska prava nisu potrebna. Prije nastavka zatvorite Varlostudiji ako je otvoren.$\r$\n$\r$\n$_CLICK"
+${TEXT} WelcomeText "Katalog kolegija i nastavno opterećenje.$\r$\n$\r$\nProgram se instalira samo za vas; administratorska prava nisu potrebna. Prije nastavka zatvorite program Varlostudiji ako je otvoren.$\r$\n$\r$\n$_CLICK"
 ${TEXT} DataTitle "Katalog"
 ${TEXT} DataSubtitle "Što staviti u mapu s podacima?"
 ${TEXT} DataText "U mapi s podacima još nema kataloga, a bez njega se program ne može pokrenuti:"
@@ -80,9 +80,9 @@ ${TEXT} DataPromise "Postojeće se datoteke u toj mapi nikad ne mijenjaju."
 ${TEXT} RunProgram "&Pokreni Varlostudiji"
 ${TEXT} UninstallText "Uklanja se samo program. Katalog u mapi s podacima ostaje netaknut."
 ${TEXT} WrongData "Uz /DATA= može stajati samo demo ili empty."
-${TEXT} ProgramFailed "Program nije instaliran. Zatvorite Varlostudiji ako je otvoren i pokušajte ponovno."
+${TEXT} ProgramFailed "Program nije instaliran. Zatvorite program Varlostudiji ako je otvoren i pokušajte ponovno."
 ${TEXT} DataFailed "Katalog nije moguće zapisati u mapu $DataFolder."
-${TEXT} ProgramOpen "Varlostudiji je otvoren. Zatvorite ga i pokušajte ponovno."
+${TEXT} ProgramOpen "Program Varlostudiji je otvoren. Zatvorite ga i pokušajte ponovno."
 
 ; The installer's properties in Explorer.
 !getdllversion "${PROGRAM}\varlostudiji.exe" PROGRAM_
