@@ -4,6 +4,8 @@
 #include "check/FileRules.h"
 #include "check/RowRules.h"
 #include "check/Values.h"
+#include "data/CatalogueOnDisk.h"
+#include "data/FileOperations.h"
 #include "data/Files.h"
 #include "data/modData.h"
 #include "validation/modCSVValidator.h"
@@ -122,14 +124,6 @@ Findings FindInTables(const Contents& contents)
 }
 
 } // namespace
-
-CatalogueOnDisk OnDisk(const std::string& folder)
-{
-    CatalogueOnDisk files = {folder, {}};
-    for (const modData::Table* table : modData::AllTables())
-        files.Names.push_back(table->Layout().FileName);
-    return files;
-}
 
 Contents ReadContents(const std::string& folder)
 {

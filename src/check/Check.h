@@ -1,7 +1,6 @@
 #pragma once
 
 #include "check/Finding.h"
-#include "data/CatalogueOnDisk.h"
 
 #include <array>
 #include <optional>
@@ -19,9 +18,6 @@ struct FileContent
 
 /// The seven files in the order of modData::AllTables.
 using Contents = std::array<FileContent, 7>;
-
-/// The paths of a catalogue's files; the files may be missing.
-CatalogueOnDisk OnDisk(const std::string& folder);
 
 /// Reads the files of a folder; changes none. @throws FileError if the folder cannot be read
 Contents ReadContents(const std::string& folder);

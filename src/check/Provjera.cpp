@@ -3,6 +3,7 @@
 #include "check/Check.h"
 #include "check/Repair.h"
 #include "check/Report.h"
+#include "data/CatalogueOnDisk.h"
 #include "data/CatalogueSave.h"
 #include "data/modData.h"
 
@@ -70,7 +71,7 @@ std::optional<Options> OptionsOf(std::span<const std::string> arguments)
 Contents ContentsToCheck(const std::string& folder, const Terminal& terminal)
 {
     const CatalogueLock lock(folder, LockKind::Saving); // no save may run while the files are read
-    const std::optional<std::string> set = CatalogueSave::CompleteSet(OnDisk(folder));
+    const std::optional<std::string> set = CatalogueSave::CompleteSet(modData::FilesIn(folder));
     if (set)
         terminal.Write("Posljednje spremanje nije dovršeno: provjeravaju se datoteke koje će program pri "
                        "pokretanju vratiti, iz mape " +

@@ -1,6 +1,7 @@
 #include "check/Repair.h"
 
 #include "check/Check.h"
+#include "data/CatalogueOnDisk.h"
 #include "data/CatalogueSave.h"
 #include "data/DatedCopies.h"
 #include "data/Files.h"
@@ -73,7 +74,7 @@ Repair RepairCatalogue(const std::string& folder)
     const CatalogueLock lock(folder, LockKind::Saving); // a program that starts now waits
     if (System::Files.IsLockedByRunning(ToPath(folder)))
         return {{}, {}, IsOpen};
-    if (CatalogueSave::CompleteSet(OnDisk(folder)))
+    if (CatalogueSave::CompleteSet(modData::FilesIn(folder)))
         return {{}, {}, IsPending};
     MendedCatalogue mended = MendFiles(folder);
     if (!mended.Result.Changes.empty())

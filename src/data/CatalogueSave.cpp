@@ -127,9 +127,9 @@ void Finish(const CatalogueOnDisk& files)
 /// Moves a complete set that cannot be finished to "kopije".
 void SetAside(const CatalogueOnDisk& files)
 {
-    const std::string place = DatedCopies::NewPlace(files, "-nedovrseno");
-    RequireDone(Files.Rename(ToPath(SetOf(files)), ToPath(place)), place);
-    RequireDone(Files.FlushFolder(ToPath(place).parent_path()), place);
+    const std::string folder = DatedCopies::NewFolder(files, "-nedovrseno");
+    RequireDone(Files.Rename(ToPath(SetOf(files)), ToPath(folder)), folder);
+    RequireDone(Files.FlushFolder(ToPath(folder).parent_path()), folder);
     RequireDone(Files.FlushFolder(ToPath(files.Folder)), files.Folder);
 }
 

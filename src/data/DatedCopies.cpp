@@ -171,7 +171,7 @@ void KeepAnother(const CatalogueOnDisk& files)
         Keep(files, NewName(files));
 }
 
-std::string NewPlace(const CatalogueOnDisk& files, std::string_view ending)
+std::string NewFolder(const CatalogueOnDisk& files, std::string_view ending)
 {
     MakeCopiesFolder(files);
     return FolderOf(files, NewName(files)).append(ending);

@@ -19,7 +19,7 @@ std::string FolderOf(const CatalogueOnDisk& files, std::string_view name);
 /// True if a text is the name of a copy.
 bool IsName(std::string_view text);
 
-/// A new copy's name; nothing in "kopije" begins with it. @throws FileError
+/// A new copy's name: nothing in "kopije" has it, alone or before "." or "-". @throws FileError
 std::string NewName(const CatalogueOnDisk& files);
 
 /// Copies those of the catalogue's files that exist, durably. Does nothing if there are none.
@@ -31,7 +31,7 @@ void KeepAnother(const CatalogueOnDisk& files);
 
 /// The path for a new folder in "kopije": a new name with `ending` at its end. "kopije" is made if missing.
 /// @throws FileError
-std::string NewPlace(const CatalogueOnDisk& files, std::string_view ending);
+std::string NewFolder(const CatalogueOnDisk& files, std::string_view ending);
 
 /// Removes old copies. What stays: the newest 30, the last of each of the newest 30 days, the one named
 /// `newest`, and every folder that has another name or holds anything but the files of a catalogue. Best

@@ -18,6 +18,9 @@ void RequireDone(std::error_code failure, std::string_view path);
 /// The path of a file or folder in a folder.
 std::string PathIn(std::string_view folder, std::string_view name);
 
+/// The characters that no file name may have on Windows, apart from control characters.
+inline constexpr std::string_view ForbiddenInFileNames = "\\/:*?\"<>|";
+
 /// The content of a file, at most `limit` bytes of it. @throws FileError
 std::string ReadFile(std::string_view path, std::size_t limit = std::string::npos);
 

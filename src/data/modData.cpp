@@ -59,14 +59,6 @@ std::string FilePath(const Table& table)
     return PathIn(GetDataFolder(), table.Layout().FileName);
 }
 
-CatalogueOnDisk FilesOnDisk()
-{
-    CatalogueOnDisk files = {GetDataFolder(), {}};
-    for (const Table* table : AllTables())
-        files.Names.push_back(table->Layout().FileName);
-    return files;
-}
-
 void Load(Table& table)
 {
     const std::string path = FilePath(table);
@@ -180,7 +172,7 @@ bool LosesLetters(const std::string& path)
 }
 
 /// A folder for tables that cannot be kept beside the catalogue.
-std::string PlaceAmongTemporaries(std::string_view ending)
+std::string FolderAmongTemporaries(std::string_view ending)
 {
     return PathIn(System::TemporaryFolder(), ProductName)
         .append("-" + DatedCopies::CurrentTime())
@@ -328,9 +320,17 @@ void SaveKolegijNastavnici()
     Save(KolegijNastavnici);
 }
 
+CatalogueOnDisk FilesIn(const std::string& folder)
+{
+    CatalogueOnDisk files = {folder, {}};
+    for (const Table* table : AllTables())
+        files.Names.push_back(table->Layout().FileName);
+    return files;
+}
+
 void LoadAllTables()
 {
-    const CatalogueOnDisk files = FilesOnDisk();
+    const CatalogueOnDisk files = FilesIn(GetDataFolder());
     const CatalogueLock lock(files.Folder, LockKind::Saving);
     CatalogueSave::FinishAtStart(files);
     if (lock.IsHeld()) // without a lock, another copy of the program may need them
@@ -345,7 +345,7 @@ void LoadAllTables()
 
 void SaveAllTables()
 {
-    const CatalogueOnDisk files = FilesOnDisk();
+    const CatalogueOnDisk files = FilesIn(GetDataFolder());
     const CatalogueLock lock(files.Folder, LockKind::Saving);
     CatalogueSave::FinishAtSave(files);
     if (std::ranges::all_of(AllTables(), IsSaved))
@@ -359,21 +359,21 @@ UnsavedChanges KeepUnsavedChanges()
     if (!Running || std::ranges::all_of(AllTables(), ReadsAs))
         return {false, ""};
     constexpr std::string_view ending = "-prekid";
-    const CatalogueOnDisk files = FilesOnDisk();
-    const std::function<std::string()> places[] = {
-        [&] { return DatedCopies::NewPlace(files, ending); },
-        [&] { return PlaceAmongTemporaries(ending); },
+    const CatalogueOnDisk files = FilesIn(GetDataFolder());
+    const std::function<std::string()> choices[] = {
+        [&] { return DatedCopies::NewFolder(files, ending); },
+        [&] { return FolderAmongTemporaries(ending); },
     };
-    for (const auto& place : places)
+    for (const auto& choice : choices)
         try
         {
-            const std::string folder = place();
+            const std::string folder = choice();
             MakeWholeFolder(files, folder, SaveEachInto);
             return {true, folder};
         }
         catch (const FileError&)
         {
-            // Try the next place.
+            // Try the next one.
         }
     return {true, ""};
 }

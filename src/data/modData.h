@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+struct CatalogueOnDisk;
+
 // The columns of each record, in the order of its file.
 
 namespace Zavod
@@ -158,6 +160,9 @@ void SaveKolegiji();
 void SaveKolegijSmjerovi();
 void SaveKolegijNastavnici();
 
+/// The files of a catalogue in a folder; they may be missing.
+CatalogueOnDisk FilesIn(const std::string& folder);
+
 /// Finishes an interrupted save, then loads the seven tables. If a conversion to windows-1250 would lose
 /// letters, the catalogue is copied first. Another copy of the program waits meanwhile. From then on the
 /// check of a catalogue sees that a program runs, and mends nothing.
@@ -173,7 +178,7 @@ void SaveAllTables();
 struct UnsavedChanges
 {
     bool Exist;
-    std::string Place; ///< The folder that has the tables now; empty if none could be written.
+    std::string Folder; ///< The folder that has the tables now; empty if none could be written.
 };
 
 /// Writes the tables, if they differ from their files, to a folder whose name ends in "-prekid": in "kopije"

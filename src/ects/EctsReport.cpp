@@ -122,11 +122,7 @@ std::string EctsReportFileName(std::string_view nazivKolegija)
 
 std::string CsvField(std::string_view text)
 {
-    std::string field;
-    for (const char c : text)
-        field.append(c == '"' ? 2 : 1, c);
-    const bool quoted = text.find_first_of("\r;\n\"") != std::string_view::npos;
-    return quoted ? "\"" + field + "\"" : field;
+    return QuotedIfAny(text, "\r;\n\"");
 }
 
 std::string CsvRow(const std::vector<std::string_view>& fields)

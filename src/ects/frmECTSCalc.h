@@ -90,7 +90,7 @@ private:
 
     wxStaticText* m_widestLabel; ///< The caption that gets a second line on a narrow screen.
 
-    // Controls. Of an array with gaps in its indices the elements stand side by side.
+    // Controls. An array has no gaps, even where the controls' indices have some.
     wxScrolledWindow* Panel;
     wxTextCtrl* txtNazivKolegija;
     wxTextCtrl* txtNositelj;

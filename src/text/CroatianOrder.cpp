@@ -60,11 +60,11 @@ std::string CroatianSortKey(std::string_view text)
             AppendCodePoint(key, character);
             continue;
         }
-        std::string_view behind = rest;
-        if (!behind.empty() && MakesDigraph(character, DecodeUtf8(behind)))
+        std::string_view afterNext = rest;
+        if (!afterNext.empty() && MakesDigraph(character, DecodeUtf8(afterNext)))
         {
             key += static_cast<char>(letter + 1);
-            rest = behind;
+            rest = afterNext;
         }
         else
         {

@@ -198,6 +198,16 @@ std::string Joined(const std::vector<std::string>& texts, std::string_view separ
     return joined;
 }
 
+std::string QuotedIfAny(std::string_view text, std::string_view characters)
+{
+    if (text.find_first_of(characters) == std::string_view::npos)
+        return std::string(text);
+    std::string quoted = "\"";
+    for (const char c : text)
+        quoted.append(c == '"' ? 2 : 1, c);
+    return quoted + "\"";
+}
+
 std::string Shown(std::string_view text, std::size_t maxCharacters)
 {
     const auto digit = [](char32_t number)

@@ -33,5 +33,8 @@ void AppendJoined(std::string& list, std::string_view separator, std::string_vie
 /// The texts joined by the separator; empty ones get one too.
 std::string Joined(const std::vector<std::string>& texts, std::string_view separator);
 
+/// The text in quotation marks, with its own doubled, if it has one of the characters; otherwise as it is.
+std::string QuotedIfAny(std::string_view text, std::string_view characters);
+
 /// A text as a message shows it: cut to so many characters, control characters as "\x00".
 std::string Shown(std::string_view text, std::size_t maxCharacters = 60);

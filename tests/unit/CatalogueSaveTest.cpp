@@ -682,11 +682,11 @@ TEST_F(UnsavedChanges, AreKeptBesideTheCatalogue)
     RenumberedCatalogue().Use();
     const modData::UnsavedChanges changes = modData::KeepUnsavedChanges();
     EXPECT_TRUE(changes.Exist);
-    EXPECT_EQ(ToPath(changes.Place), Kept("2026-11-21_143005-prekid"));
+    EXPECT_EQ(ToPath(changes.Folder), Kept("2026-11-21_143005-prekid"));
     EXPECT_EQ(Tables(Kept("2026-11-21_143005-prekid")), New);
     EXPECT_EQ(OnDisk(), Old);
     EXPECT_EQ(EntriesOf(Folder.Data() / "kopije").size(), 1U);
-    EXPECT_EQ(ToPath(modData::KeepUnsavedChanges().Place), Kept("2026-11-21_143005_2-prekid"));
+    EXPECT_EQ(ToPath(modData::KeepUnsavedChanges().Folder), Kept("2026-11-21_143005_2-prekid"));
 }
 
 TEST_F(UnsavedChanges, DoNotExistIfTheFilesReadAsTheTables)
@@ -712,13 +712,13 @@ TEST_F(UnsavedChanges, GoToTheSystemsTemporaryFolderWhereThereIsNoRoom)
     };
     const modData::UnsavedChanges changes = modData::KeepUnsavedChanges();
     EXPECT_TRUE(changes.Exist);
-    EXPECT_EQ(ToPath(changes.Place), fs::temp_directory_path() / "Varlostudiji-2026-11-21_143005-prekid");
-    EXPECT_EQ(Tables(ToPath(changes.Place)), New);
-    fs::remove_all(ToPath(changes.Place));
+    EXPECT_EQ(ToPath(changes.Folder), fs::temp_directory_path() / "Varlostudiji-2026-11-21_143005-prekid");
+    EXPECT_EQ(Tables(ToPath(changes.Folder)), New);
+    fs::remove_all(ToPath(changes.Folder));
     EXPECT_EQ(EntriesOf(Folder.Data()).size(), 7U);
 }
 
-TEST_F(UnsavedChanges, WithoutRoomAnywhereHaveNoPlace)
+TEST_F(UnsavedChanges, WithoutRoomAnywhereHaveNoFolder)
 {
     RenumberedCatalogue().Use();
     const WatchedFiles watched;
@@ -726,7 +726,7 @@ TEST_F(UnsavedChanges, WithoutRoomAnywhereHaveNoPlace)
     { return std::make_error_code(std::errc::no_space_on_device); };
     const modData::UnsavedChanges changes = modData::KeepUnsavedChanges();
     EXPECT_TRUE(changes.Exist);
-    EXPECT_EQ(changes.Place, "");
+    EXPECT_EQ(changes.Folder, "");
     EXPECT_FALSE(fs::exists(fs::temp_directory_path() / "Varlostudiji-2026-11-21_143005-prekid.dio"));
 }
 

@@ -16,9 +16,9 @@ std::string UnsavedChangesText()
     const modData::UnsavedChanges changes = modData::KeepUnsavedChanges();
     if (!changes.Exist)
         return "";
-    if (changes.Place.empty())
+    if (changes.Folder.empty())
         return "\r\n\r\nPromjene koje nisu spremljene nije bilo moguće zapisati.";
-    return "\r\n\r\nPromjene koje nisu spremljene zapisane su u mapu:\r\n" + changes.Place;
+    return "\r\n\r\nPromjene koje nisu spremljene zapisane su u mapu:\r\n" + changes.Folder;
 }
 
 std::string NumberAndText(const RuntimeError& error)

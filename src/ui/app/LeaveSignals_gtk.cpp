@@ -22,13 +22,6 @@ using GlibCallback = int (*)(void* data);
 bool IsLeaving = false;
 
 /// True if a native window is of the type that a function such as "gtk_dialog_get_type" gives.
-bool IsA(GtkWidget* native, const char* typeFunction)
-{
-    const auto type = NativeFunction<std::size_t (*)()>(typeFunction);
-    const auto isA = NativeFunction<int (*)(void*, std::size_t)>("g_type_check_instance_is_a");
-    return isA(native, type()) != 0;
-}
-
 /// The toolkit's dialog of a native window; null if it has none.
 wxDialog* DialogOf(GtkWidget* native)
 {
@@ -47,9 +40,9 @@ bool CancelInnermost()
     GtkWidget* window = NativeFunction<GtkWidget* (*)(GtkWidget*)>("gtk_widget_get_toplevel")(grab);
     if (wxDialog* dialog = DialogOf(window); dialog != nullptr && dialog->IsModal())
         dialog->EndModal(wxID_CANCEL);
-    else if (IsA(window, "gtk_dialog_get_type"))
+    else if (IsNative(window, "gtk_dialog_get_type"))
         NativeFunction<void (*)(GtkWidget*, int)>("gtk_dialog_response")(window, DeleteEventResponse);
-    else if (IsA(grab, "gtk_menu_shell_get_type"))
+    else if (IsNative(grab, "gtk_menu_shell_get_type"))
         NativeFunction<void (*)(GtkWidget*)>("gtk_menu_shell_cancel")(grab);
     else
         NativeFunction<void (*)(GtkWidget*)>("gtk_grab_remove")(grab);

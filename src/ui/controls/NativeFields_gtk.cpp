@@ -24,18 +24,12 @@ void* TextWidget(wxTextEntry& box)
     return dynamic_cast<wxWindow&>(box).GetHandle();
 }
 
-bool IsA(void* widget, const char* typeOf)
-{
-    const std::size_t type = NativeFunction<std::size_t (*)()>(typeOf)();
-    return NativeFunction<int (*)(void*, std::size_t)>("g_type_check_instance_is_a")(widget, type) != 0;
-}
-
 /// Takes a combo box's arrow button, which is somewhere among its child widgets, out of the tab order.
 void RefuseFocusOfArrow(void* widget, void*)
 {
-    if (IsA(widget, "gtk_toggle_button_get_type"))
+    if (IsNative(widget, "gtk_toggle_button_get_type"))
         NativeFunction<void (*)(void*, int)>("gtk_widget_set_can_focus")(widget, 0);
-    else if (IsA(widget, "gtk_container_get_type"))
+    else if (IsNative(widget, "gtk_container_get_type"))
         NativeFunction<ForEachChild>("gtk_container_forall")(widget, RefuseFocusOfArrow, nullptr);
 }
 

@@ -31,9 +31,8 @@ wxString FirstFolder(const SaveDialogOptions& options)
 /// A file name that is valid on every system: "_" replaces each forbidden character.
 std::string AsFileName(std::string text)
 {
-    static constexpr std::string_view forbidden = "\\/:*?\"<>|";
     const auto isForbidden = [](char c)
-    { return forbidden.find(c) != std::string_view::npos || static_cast<unsigned char>(c) < ' '; };
+    { return ForbiddenInFileNames.find(c) != std::string_view::npos || static_cast<unsigned char>(c) < ' '; };
     std::ranges::replace_if(text, isForbidden, '_');
     return text;
 }

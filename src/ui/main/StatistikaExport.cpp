@@ -35,19 +35,13 @@ std::string StatistikaFileName(const StatistikaFilters& filters)
 
 std::string CsvQuote(std::string_view text)
 {
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos)
-        return std::string(text);
-    std::string quoted = "\"";
-    for (const char c : text)
-        quoted.append(c == '"' ? 2 : 1, c);
-    return quoted + "\"";
+    return QuotedIfAny(text, ",\"\r\n");
 }
 
 std::string SanitizeFileNamePart(std::string_view text)
 {
     std::string part(TrimBlanks(text));
-    static constexpr std::string_view forbidden = "\\/:*?\"<>|";
     std::ranges::replace_if(
-        part, [](char c) { return forbidden.find(c) != std::string_view::npos; }, '_');
+        part, [](char c) { return ForbiddenInFileNames.find(c) != std::string_view::npos; }, '_');
     return part;
 }
