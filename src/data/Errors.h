@@ -19,7 +19,8 @@ struct FieldPlace
 /// An error shown to the user: its number, and its text (Croatian, UTF-8) as what().
 ///
 /// A comment names after `@throws` what a function throws: `DataError` for all errors that the content of the
-/// tables can cause, `FileError` for all that files and folders can cause. `RuntimeError` means either.
+/// tables can cause, `FileError` for all that files and folders can cause. `RuntimeError` means any error
+/// with a number.
 class RuntimeError : public std::runtime_error
 {
 public:

@@ -36,8 +36,8 @@ enum class LockKind
 };
 
 /// All operations on files and folders. The program calls them only through the table `System::Files`, so
-/// that a test can record each operation, make it fail, or end the program after it. Operations that change a
-/// name retry for a moment if another program has the file open.
+/// that a test can record each operation, make it fail, or end the program after it. On Windows, operations
+/// that change a name retry for a moment if another program has the file open.
 struct FileOperations
 {
     using Path = std::filesystem::path;
@@ -47,7 +47,7 @@ struct FileOperations
     /// What is at a path. Links are followed; a missing file is no failure.
     Result (*Inspect)(const Path& path, FileFacts& facts);
 
-    /// Where a symbolic link leads; an empty path for anything else.
+    /// Where a symbolic link leads; an empty path for anything else, and always on Windows.
     Result (*ReadLink)(const Path& path, Path& target);
 
     /// The names in a folder, in any order.

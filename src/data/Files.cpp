@@ -123,8 +123,8 @@ enum class Unused
     Kept
 };
 
-/// Writes the new content beside the file, then replaces the file by it. `unused` handles a temporary file
-/// that is whole but cannot replace the file.
+/// Writes the new content beside the file, then replaces the file by it. `unused` says what happens to a
+/// temporary file that is whole but cannot replace the file.
 void WriteBesideAndReplace(const fs::path& file, const fs::path& temporary, std::string_view content,
                            std::string_view path, Unused unused)
 {
@@ -200,7 +200,7 @@ void MakeFolders(std::string_view path)
 
 void ReplaceFile(std::string_view path, std::string_view content)
 {
-    // A link stays a link; its target gets the new content.
+    // On Linux a link stays a link: its target gets the new content.
     const fs::path file = ResolveSymlinks(ToPath(path));
     const FileFacts facts = FactsOf(file, path);
     RequireWritable(file, facts, path);

@@ -10,7 +10,7 @@
 namespace
 {
 
-class Remark : public wxStaticText
+class Caption : public wxStaticText
 {
 public:
     using wxStaticText::wxStaticText;
@@ -31,5 +31,5 @@ void SetAccessibleName(wxWindow& control, std::string_view name)
 
 wxStaticText* NewCaption(wxWindow* parent, std::string_view name, std::string_view caption)
 {
-    return new Remark(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize, 0, ToWx(name));
+    return new Caption(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize, 0, ToWx(name));
 }

@@ -35,7 +35,7 @@ TeachingStatistic StatisticOf(const DepartmentFilter& filter)
 {
     return {.Passes = [&filter](const modData::Row& kolegij) { return Passes(kolegij, filter); },
             .ForEachTaughtCourse = ForEachCourseOfZavod,
-            .Numbers = Conversion::Safe,
+            .IDs = Conversion::Safe,
             .ShownHours = Conversion::Safe,
             .ExportedHours = Conversion::Safe,
             .Others = OtherTypes::DoNotCount,

@@ -21,7 +21,7 @@ TeachingStatistic StatisticOf(const LecturerFilter& filter)
     return {.Passes = [&filter](const modData::Row& kolegij) { return Passes(kolegij, filter); },
             .ForEachTaughtCourse = [](std::int32_t nastavnikID, const CourseVisitor& visit)
             { ForEachCourseOfNastavnik(nastavnikID, Conversion::Strict, visit); },
-            .Numbers = Conversion::Strict,
+            .IDs = Conversion::Strict,
             .ShownHours = Conversion::Strict,
             .ExportedHours = Conversion::Safe,
             .Others = OtherTypes::CountAsElective,

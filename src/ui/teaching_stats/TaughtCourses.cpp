@@ -25,7 +25,7 @@ std::optional<CourseTeachingLoad> TeachingLoadOf(const modData::Row& kolegij,
 {
     if (!statistic.Passes(kolegij))
         return std::nullopt;
-    const std::int32_t semestar = kolegij.Number(Kolegij::Semestar, statistic.Numbers);
+    const std::int32_t semestar = kolegij.Number(Kolegij::Semestar, statistic.IDs);
     if (semestar < 1 || semestar > MaxSemesters)
         return std::nullopt;
     const std::optional<Tip> tip = TipOf(kolegij.Field(Kolegij::Tip), statistic.Others);
@@ -122,7 +122,7 @@ std::vector<ListRow> TaughtCourseRows(const TeachingStatistic& statistic, std::i
                                   {
                                       const modData::Row& kolegij = modData::Kolegiji[position];
                                       if (statistic.Passes(kolegij))
-                                          rows.push_back(TaughtCourseRow(kolegij, statistic.Numbers));
+                                          rows.push_back(TaughtCourseRow(kolegij, statistic.IDs));
                                   });
     return rows;
 }
@@ -144,7 +144,7 @@ void ExportTeachingLoad(const TeachingStatistic& statistic, std::string_view pat
     {
         const std::string_view name = owner.Field(statistic.OwnerName);
         const TeachingLoadSums sums =
-            SumsOf(statistic, owner.Number(modData::IDColumn, statistic.Numbers), loads);
+            SumsOf(statistic, owner.Number(modData::IDColumn, statistic.IDs), loads);
         for (const TeachingLoadLine& line : TeachingLoadLines(sums, statistic.Style))
         {
             text.assign(name).append(";").append(line.First).append(";").append(line.Second);

@@ -30,7 +30,7 @@ struct TeachingStatistic
 {
     std::function<bool(const modData::Row& kolegij)> Passes;                              ///< The filter.
     std::function<void(std::int32_t id, const CourseVisitor& visit)> ForEachTaughtCourse; ///< Once per link.
-    Conversion Numbers;       ///< For identifiers and semesters.
+    Conversion IDs;           ///< For identifiers and semesters.
     Conversion ShownHours;    ///< For hours and credits in the window.
     Conversion ExportedHours; ///< For hours and credits in the file.
     OtherTypes Others;
