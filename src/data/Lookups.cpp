@@ -97,7 +97,7 @@ void GetNositelji123(std::int32_t kolegijId, std::string& first, std::string& se
     for (std::string* name : names)
         name->clear();
     const std::vector<PlacedID> kept = LinkedNastavnici(kolegijId, std::size(names));
-    for (std::size_t i = 0; i < kept.size(); ++i)
+    for (std::size_t i = 0; i < std::min(kept.size(), std::size(names)); ++i)
         *names[i] = GetNastavnikIme(kept[i].NastavnikID);
 }
 
