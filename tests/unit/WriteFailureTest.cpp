@@ -340,7 +340,7 @@ protected:
     Contents LoadWith(std::string_view content)
     {
         WriteBytes(Folder.Data() / "db_kolegij.csv", content);
-        const Contents before = DataFiles();
+        Contents before = DataFiles();
         modData::LoadAllTables();
         return before;
     }
