@@ -21,7 +21,6 @@ using GlibCallback = int (*)(void* data);
 
 bool IsLeaving = false;
 
-/// True if a native window is of the type that a function such as "gtk_dialog_get_type" gives.
 /// The toolkit's dialog of a native window; null if it has none.
 wxDialog* DialogOf(GtkWidget* native)
 {

@@ -9,8 +9,6 @@
 #include <wx/event.h>
 #include <wx/textctrl.h>
 
-#include <cstddef>
-
 namespace
 {
 

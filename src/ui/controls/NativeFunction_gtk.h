@@ -13,7 +13,7 @@ Function NativeFunction(const char* name)
         wxDynamicLibrary::RawGetSymbol(wxDynamicLibrary::GetProgramHandle(), name));
 }
 
-/// True if a widget is of a type; `typeFunction` is the name of the function that answers the type.
+/// True if a widget is of the type that a function such as "gtk_dialog_get_type" gives.
 inline bool IsNative(void* widget, const char* typeFunction)
 {
     const auto type = NativeFunction<std::size_t (*)()>(typeFunction);
